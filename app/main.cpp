@@ -1,0 +1,8 @@
+#include <iostream>
+
+#include <velmora/Version.h>
+
+int main() {
+  std::cout << "velmora " << velmora::VelmoraVersionString << '\n';
+  return 0;
+}

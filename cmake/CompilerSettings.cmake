@@ -1,0 +1,31 @@
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
+  set(CMAKE_BUILD_TYPE Release)
+endif()
+
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM AND PROJECT_IS_TOP_LEVEL)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
+endif()
+
+# What every target of the project is compiled with. The astronomy is compared to the last bit, so no
+# compiler may contract a product and a sum into one rounding on its own.
+add_library(velmora_compiler_settings INTERFACE)
+target_compile_options(velmora_compiler_settings INTERFACE
+  -ffp-contract=off
+  -Wall -Wextra -Wpedantic -Wconversion -Wshadow)
+if(CMAKE_CXX_COMPILER_ID MATCHES "Clang")
+  target_compile_options(velmora_compiler_settings INTERFACE -ffp-model=precise -ffp-contract=off -Wno-overriding-t-option)
+endif()
+if(VELMORA_WARNINGS_AS_ERRORS)
+  target_compile_options(velmora_compiler_settings INTERFACE -Werror)
+endif()
+if(VELMORA_SANITIZE)
+  target_compile_options(velmora_compiler_settings INTERFACE
+    -fsanitize=${VELMORA_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(velmora_compiler_settings INTERFACE -fsanitize=${VELMORA_SANITIZE})
+endif()

@@ -1,0 +1,7 @@
+option(VELMORA_BUILD_APP "Build the host program" ${PROJECT_IS_TOP_LEVEL})
+option(VELMORA_BUILD_TESTS "Build the tests" ${PROJECT_IS_TOP_LEVEL})
+option(VELMORA_BUILD_BENCHMARKS "Build the benchmarks" OFF)
+option(VELMORA_BUILD_FUZZERS "Build the fuzz targets with libFuzzer (clang only)" OFF)
+option(VELMORA_BUILD_TOOLS "Build the generators of the shipped data" OFF)
+option(VELMORA_WARNINGS_AS_ERRORS "Stop at a compiler warning (for the project's own CI)" OFF)
+set(VELMORA_SANITIZE "" CACHE STRING "Sanitizers to build with, for example address,undefined or thread")

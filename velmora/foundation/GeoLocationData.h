@@ -1,0 +1,63 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include <velmora/platform/time/Calendar.h>
+#include <velmora/platform/time/Instant.h>
+#include <velmora/platform/time/TimeZone.h>
+
+namespace velmora {
+
+/// What a geocoder says of one place.
+struct Placemark {
+  double latitude = 0.0;   ///< degrees, north positive
+  double longitude = 0.0;  ///< degrees, east positive
+  std::string name;
+  std::optional<TimeZone> timeZone;
+};
+
+/// One observing place: coordinates, names, and a time zone that is either a named zone (daylight saving
+/// follows the date) or a fixed offset from GMT that the user chose. A mutable record, not thread-safe.
+class GeoLocationData {
+ public:
+  double latitude = 0.0;            ///< degrees, north positive
+  double longitude = 0.0;           ///< degrees, east positive
+  std::int64_t secondsFromGMT = 0;  ///< offset given with a named zone; answers where that zone is missing
+  std::optional<std::string> name;  ///< as shown to the user
+  std::optional<std::string> timezoneId;  ///< identifier of the named zone; none with a fixed offset
+  std::optional<TimeZone> timezone;       ///< the zone found by `timezoneId`
+  std::string locationText = "--";        ///< coordinates as text, "--" until they are set
+  std::string timezoneText = "Auto";      ///< zone identifier or "GMT ±hh:mm"
+  bool locationInitialized = false;       ///< whether coordinates have been set
+  std::int64_t customSecondsFromGMT = 0;  ///< the fixed offset of a place without a named zone
+  bool useCustomTimezone = false;         ///< whether the user chose a fixed offset
+
+  /// The shared default place, San Francisco. Callers that change it change the default for the process.
+  static const std::shared_ptr<GeoLocationData>& DefaultLocation();
+
+  /// A new place from a geocoder's answer, with the zone's offset of the present instant.
+  static std::shared_ptr<GeoLocationData> locationFromPlaceMark(const Placemark& placemark);
+
+  /// Sets the coordinates (degrees) and their text.
+  void UpdateLocation(double newLatitude, double newLongitude);
+
+  /// Sets the whole record. A zone identifier that is present, not empty and not overridden by
+  /// `isCustomTimezone` makes a named zone, with `gmtOffset` (seconds) kept in `secondsFromGMT`; everything
+  /// else makes a fixed offset, with `gmtOffset` kept in `customSecondsFromGMT`. An identifier that names no
+  /// zone stays as the text, without a zone.
+  void SetLocation(double newLatitude, double newLongitude, std::optional<std::string> locationName,
+                   const std::optional<std::string>& timezoneName, std::int64_t gmtOffset,
+                   bool isCustomTimezone);
+
+  /// Offset from GMT in seconds in force at the instant.
+  std::int64_t GetTimezoneIntervalFromGMT(Instant date) const;
+
+  /// Offset from GMT in seconds of the named zone at 09:00 of the instant's day in the given calendar, away
+  /// from the small hours in which clocks change; 0 without a named zone, whatever the fixed offset is.
+  std::int64_t gmtIntervalForDate(Instant date, const Calendar& calendar) const;
+};
+
+}  // namespace velmora

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include <velmora/platform/time/Locale.h>
+
+namespace velmora {
+
+/// Writes numbers with the digits and signs of a locale. A cheap value.
+class NumberFormatter {
+ public:
+  enum class Style {
+    none,     ///< an integer without grouping
+    decimal,  ///< grouped, with as many fraction digits as needed up to the maximum
+  };
+
+  /// A formatter in the current locale, of style none.
+  NumberFormatter();
+
+  void setLocale(Locale locale) { _locale = std::move(locale); }
+  void setStyle(Style style) { _style = style; }
+  /// Only for the decimal style; 3 unless set.
+  void setMaximumFractionDigits(int digits) { _maximumFractionDigits = digits; }
+
+  const Locale& locale() const { return _locale; }
+
+  std::string stringFromNumber(std::int64_t number) const;
+  std::string stringFromNumber(double number) const;
+
+ private:
+  Locale _locale;
+  Style _style = Style::none;
+  int _maximumFractionDigits = 3;
+};
+
+}  // namespace velmora

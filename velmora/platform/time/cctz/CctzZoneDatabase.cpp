@@ -1,0 +1,95 @@
+#include <cctz/civil_time.h>
+#include <cctz/time_zone.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <system_error>
+
+#include <velmora/platform/time/ZoneDatabase.h>
+
+namespace velmora {
+namespace {
+
+using Lookup = cctz::time_zone::civil_lookup;
+using CctzInstant = cctz::time_point<cctz::seconds>;
+
+// Zone rules repeat every 400 years; beyond this span the offsets at its edges hold.
+constexpr double farthestSeconds = 1e12;
+
+Seconds wholeSeconds(Seconds time) { return Seconds(std::floor(time.count())); }
+
+CctzInstant toCctz(Seconds sinceEpoch) {
+  const double seconds = sinceEpoch.count();
+  const double inRange = seconds >= -farthestSeconds ? std::min(seconds, farthestSeconds) : -farthestSeconds;
+  return CctzInstant(cctz::seconds(static_cast<std::int64_t>(inRange)));
+}
+
+Instant fromCctz(CctzInstant instant) {
+  return instantFromUnixSeconds(static_cast<double>(instant.time_since_epoch().count()));
+}
+
+LocalLookup::Kind kindOf(const Lookup& found) {
+  switch (found.kind) {
+    case Lookup::SKIPPED:
+      return LocalLookup::Kind::skipped;
+    case Lookup::REPEATED:
+      return LocalLookup::Kind::repeated;
+    default:
+      return LocalLookup::Kind::unique;
+  }
+}
+
+class CctzZone final : public ZoneRules {
+ public:
+  explicit CctzZone(cctz::time_zone zone) : _zone(zone) {}
+
+  std::int64_t secondsFromGMT(Instant instant) const override {
+    return _zone.lookup(toCctz(wholeSeconds(instant.time_since_epoch()))).offset;
+  }
+
+  LocalLookup lookup(LocalTime reading) const override {
+    const Seconds whole = wholeSeconds(reading.time_since_epoch());
+    const Seconds fraction = reading.time_since_epoch() - whole;
+    const cctz::civil_second civil = cctz::convert(toCctz(whole), cctz::utc_time_zone());
+    const Lookup found = _zone.lookup(civil);
+    return {kindOf(found), fromCctz(found.pre) + fraction, fromCctz(found.trans),
+            fromCctz(found.post) + fraction};
+  }
+
+ private:
+  cctz::time_zone _zone;
+};
+
+/// Zone identifiers are names below the database's folder; nothing else may be opened through them.
+bool isIdentifier(std::string_view text) {
+  const auto allowed = [](char c) {
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '/' ||
+           c == '_' || c == '-' || c == '+';
+  };
+  return !text.empty() && text.size() <= 64 && text.front() != '/' &&
+         std::all_of(text.begin(), text.end(), allowed);
+}
+
+}  // namespace
+
+std::shared_ptr<const ZoneRules> ZoneDatabase::find(std::string_view identifier) {
+  cctz::time_zone zone;
+  if (!isIdentifier(identifier) || !cctz::load_time_zone(std::string(identifier), &zone)) return nullptr;
+  return std::make_shared<CctzZone>(zone);
+}
+
+std::string ZoneDatabase::systemZoneIdentifier() {
+  if (const char* chosen = std::getenv("TZ")) return *chosen == ':' ? chosen + 1 : chosen;
+  std::error_code error;
+  const std::string target = std::filesystem::read_symlink("/etc/localtime", error).string();
+  constexpr std::string_view folder = "zoneinfo/";
+  if (const auto at = target.find(folder); at != std::string::npos) return target.substr(at + folder.size());
+  std::string configured;
+  std::ifstream("/etc/timezone") >> configured;
+  return configured;
+}
+
+}  // namespace velmora
