@@ -1,0 +1,31 @@
+#include <velmora/platform/events/NotificationCenter.h>
+
+#include <algorithm>
+#include <utility>
+
+namespace velmora {
+
+NotificationCenter& NotificationCenter::defaultCenter() {
+  static NotificationCenter center;
+  return center;
+}
+
+NotificationCenter::Subscription NotificationCenter::subscribe(const std::string& name, Observer observer) {
+  auto& observers = _observers[name];
+  std::erase_if(observers, [](const auto& former) { return former.expired(); });
+  auto owned = std::make_shared<const Observer>(std::move(observer));
+  observers.push_back(owned);
+  return Subscription(std::move(owned));
+}
+
+void NotificationCenter::post(const std::string& name) {
+  const auto found = _observers.find(name);
+  if (found == _observers.end()) return;
+  // A copy: observers may subscribe while they are told. Each is held until its call returns.
+  const auto observers = found->second;
+  for (const auto& subscribed : observers) {
+    if (const auto observer = subscribed.lock()) (*observer)();
+  }
+}
+
+}  // namespace velmora

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace velmora {
+
+/// Tells observers by name that something changed. A notification is a name and carries no object: whoever
+/// is told asks the sender for its new state. For the main thread only.
+///
+/// While a notification is being posted, an observer may
+/// - subscribe: the new observer is not told of the post under way, but of every later one;
+/// - end a subscription, its own or another's: at once, so an observer not yet reached is not told any more;
+/// - post, also the same name: the inner notification is delivered to all before the outer one goes on;
+/// - throw: the exception leaves `post`, the observers not yet reached are not told, and the centre stays
+///   usable.
+class NotificationCenter {
+ public:
+  using Observer = std::function<void()>;
+
+  /// Keeps one observer subscribed for as long as it lives. It may outlive the centre.
+  class [[nodiscard]] Subscription {
+   public:
+    /// A subscription to nothing.
+    Subscription() = default;
+    Subscription(Subscription&&) = default;
+    /// Ends what this one held before it takes over the other.
+    Subscription& operator=(Subscription&&) = default;
+
+    /// Ends the subscription before its owner goes; ending it again does nothing.
+    void end() { _observer.reset(); }
+
+   private:
+    friend class NotificationCenter;
+    explicit Subscription(std::shared_ptr<const Observer> observer) : _observer(std::move(observer)) {}
+
+    std::shared_ptr<const Observer> _observer;
+  };
+
+  /// The centre that the library posts on.
+  static NotificationCenter& defaultCenter();
+
+  NotificationCenter() = default;
+  NotificationCenter(const NotificationCenter&) = delete;
+  NotificationCenter& operator=(const NotificationCenter&) = delete;
+
+  /// Tells the observer of every later post of that name, until the subscription ends.
+  Subscription subscribe(const std::string& name, Observer observer);
+
+  /// Tells every observer of that name, in order of subscription, and returns when all have been told.
+  void post(const std::string& name);
+
+ private:
+  // The subscriptions own the observers, so an ended one is simply gone.
+  std::map<std::string, std::vector<std::weak_ptr<const Observer>>> _observers;
+};
+
+}  // namespace velmora
