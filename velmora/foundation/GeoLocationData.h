@@ -30,7 +30,7 @@ class GeoLocationData {
   std::optional<std::string> timezoneId;  ///< identifier of the named zone; none with a fixed offset
   std::optional<TimeZone> timezone;       ///< the zone found by `timezoneId`
   std::string locationText = "--";        ///< coordinates as text, "--" until they are set
-  std::string timezoneText = "Auto";      ///< zone identifier or "GMT ±hh:mm"
+  std::string timezoneText = "Auto";      ///< zone identifier, "GMT ±hh:mm", or "n/a" after a failure
   bool locationInitialized = false;       ///< whether coordinates have been set
   std::int64_t customSecondsFromGMT = 0;  ///< the fixed offset of a place without a named zone
   bool useCustomTimezone = false;         ///< whether the user chose a fixed offset
@@ -47,7 +47,7 @@ class GeoLocationData {
   /// Sets the whole record. A zone identifier that is present, not empty and not overridden by
   /// `isCustomTimezone` makes a named zone, with `gmtOffset` (seconds) kept in `secondsFromGMT`; everything
   /// else makes a fixed offset, with `gmtOffset` kept in `customSecondsFromGMT`. An identifier that names no
-  /// zone stays as the text, without a zone.
+  /// zone stays as the text, without a zone; "n/a" stands where the zone database could not be read.
   void SetLocation(double newLatitude, double newLongitude, std::optional<std::string> locationName,
                    const std::optional<std::string>& timezoneName, std::int64_t gmtOffset,
                    bool isCustomTimezone);
@@ -58,6 +58,10 @@ class GeoLocationData {
   /// Offset from GMT in seconds of the named zone at 09:00 of the instant's day in the given calendar, away
   /// from the small hours in which clocks change; 0 without a named zone, whatever the fixed offset is.
   std::int64_t gmtIntervalForDate(Instant date, const Calendar& calendar) const;
+
+ private:
+  void setNamedZone(const std::string& identifier, std::int64_t gmtOffset);
+  void setFixedOffset(std::int64_t gmtOffset);
 };
 
 }  // namespace velmora

@@ -6,6 +6,7 @@
 #include <stdexcept>
 #include <utility>
 
+#include <velmora/platform/time/NumberText.h>
 #include <velmora/platform/time/ZoneDatabase.h>
 
 namespace velmora {
@@ -29,14 +30,12 @@ class FixedOffset final : public ZoneRules {
   std::int64_t _secondsFromGMT;
 };
 
-std::string twoDigits(std::int64_t number) { return (number < 10 ? "0" : "") + std::to_string(number); }
-
 std::string nameOfOffset(std::int64_t offset) {
   if (offset == 0) return "GMT";
   const std::int64_t size = std::abs(offset);
   std::string name = offset < 0 ? "GMT-" : "GMT+";
-  name += twoDigits(size / secondsPerHour) + ":" + twoDigits(size / 60 % 60);
-  if (size % 60 != 0) name += ":" + twoDigits(size % 60);
+  name += integerText(size / secondsPerHour, 2) + ":" + integerText(size / 60 % 60, 2);
+  if (size % 60 != 0) name += ":" + integerText(size % 60, 2);
   return name;
 }
 
