@@ -261,5 +261,16 @@ TEST(GeoLocationData, TheDaysOffsetIgnoresTheFixedOffset) {
   EXPECT_EQ(place.gmtIntervalForDate(july, calendar), 9 * hour);
 }
 
+TEST(GeoLocationData, CalendarsUseTheNamedZoneElseTheOffsetInForce) {
+  EXPECT_EQ(placeWith("Asia/Tokyo", 0, false).calendarZone(7200).name(), "Asia/Tokyo");
+  EXPECT_EQ(placeWith(std::nullopt, 19800, true).calendarZone(19800).name(), "GMT+05:30");
+}
+
+TEST(GeoLocationData, AZoneLeftFromBeforeAFixedOffsetStillServesCalendars) {
+  GeoLocationData place = placeWith("Asia/Tokyo", 0, false);
+  place.SetLocation(1, 2, "Fixed", std::nullopt, 19800, true);
+  EXPECT_EQ(place.calendarZone(19800).name(), "Asia/Tokyo");
+}
+
 }  // namespace
 }  // namespace velmora

@@ -52,6 +52,11 @@ class GeoLocationData {
                    const std::optional<std::string>& timezoneName, std::int64_t gmtOffset,
                    bool isCustomTimezone);
 
+  /// The zone for calendars: the named zone, or without one the fixed zone of the offset (seconds) in force.
+  TimeZone calendarZone(std::int64_t secondsInForce) const {
+    return timezone ? *timezone : TimeZone::fixed(secondsInForce);
+  }
+
   /// Offset from GMT in seconds in force at the instant.
   std::int64_t GetTimezoneIntervalFromGMT(Instant date) const;
 
