@@ -10,3 +10,6 @@ add_library(cctz::cctz UNKNOWN IMPORTED)
 set_target_properties(cctz::cctz PROPERTIES
   IMPORTED_LOCATION ${CCTZ_LIBRARY}
   INTERFACE_INCLUDE_DIRECTORIES ${CCTZ_INCLUDE_DIR})
+
+# Drawing and text for the views.
+pkg_check_modules(pangocairo REQUIRED IMPORTED_TARGET pangocairo>=1.50 pangoft2 cairo cairo-svg cairo-pdf)

@@ -1,0 +1,102 @@
+#pragma once
+
+#include <algorithm>
+#include <cmath>
+
+namespace velmora {
+
+/// A place in points; x grows to the right, y downwards.
+struct Point {
+  double x = 0;
+  double y = 0;
+
+  friend bool operator==(const Point&, const Point&) = default;
+  friend Point operator+(Point a, Point b) { return {a.x + b.x, a.y + b.y}; }
+  friend Point operator-(Point a, Point b) { return {a.x - b.x, a.y - b.y}; }
+};
+
+struct Size {
+  double width = 0;
+  double height = 0;
+
+  friend bool operator==(const Size&, const Size&) = default;
+};
+
+/// A rectangle: one corner and the way to the opposite one. Width and height may be negative; the area is
+/// then the same as that of the standardised rectangle, and so are the edges below.
+struct Rect {
+  double x = 0;
+  double y = 0;
+  double width = 0;
+  double height = 0;
+
+  Point origin() const { return {x, y}; }
+  Size size() const { return {width, height}; }
+
+  double minX() const { return std::min(x, x + width); }
+  double midX() const { return x + width * 0.5; }
+  double maxX() const { return std::max(x, x + width); }
+  double minY() const { return std::min(y, y + height); }
+  double midY() const { return y + height * 0.5; }
+  double maxY() const { return std::max(y, y + height); }
+  Point center() const { return {midX(), midY()}; }
+
+  /// Whether it covers no area.
+  bool isEmpty() const { return width == 0 || height == 0; }
+
+  /// The same area with its top left corner as origin and absolute width and height.
+  Rect standardised() const { return {minX(), minY(), std::abs(width), std::abs(height)}; }
+
+  /// The standardised rectangle with its left and right edges moved inwards by dx, its upper and lower ones
+  /// by dy (negative: outwards). Where nothing remains, the size is 0, in the middle.
+  Rect inset(double dx, double dy) const {
+    const double remainingWidth = std::max(0.0, std::abs(width) - 2 * dx);
+    const double remainingHeight = std::max(0.0, std::abs(height) - 2 * dy);
+    return {midX() - remainingWidth * 0.5, midY() - remainingHeight * 0.5, remainingWidth, remainingHeight};
+  }
+
+  /// Whether the point lies inside; the left and upper edges belong to the rectangle, the others do not.
+  bool contains(Point point) const {
+    return point.x >= minX() && point.x < maxX() && point.y >= minY() && point.y < maxY();
+  }
+
+  friend bool operator==(const Rect&, const Rect&) = default;
+};
+
+/// An affine map of the plane: x' = a x + c y + tx, y' = b x + d y + ty. A default one is the identity.
+/// Angles are in radians and turn clockwise as seen, since y grows downwards.
+struct AffineTransform {
+  double a = 1, b = 0, c = 0, d = 1, tx = 0, ty = 0;
+
+  static AffineTransform identity() { return {}; }
+  static AffineTransform translation(double dx, double dy) { return {1, 0, 0, 1, dx, dy}; }
+  static AffineTransform rotation(double angle) {
+    return {std::cos(angle), std::sin(angle), -std::sin(angle), std::cos(angle), 0, 0};
+  }
+  static AffineTransform scaling(double sx, double sy) { return {sx, 0, 0, sy, 0, 0}; }
+
+  /// This transform with a shift, turn or scale done before it, as drawing inside a shifted, turned or scaled
+  /// frame does.
+  AffineTransform translated(double dx, double dy) const { return translation(dx, dy).concat(*this); }
+  AffineTransform rotated(double angle) const { return rotation(angle).concat(*this); }
+  AffineTransform scaled(double sx, double sy) const { return scaling(sx, sy).concat(*this); }
+
+  /// First this transform, then the other.
+  AffineTransform concat(const AffineTransform& next) const {
+    const Point origin = next.apply({tx, ty});
+    return {a * next.a + b * next.c,
+            a * next.b + b * next.d,
+            c * next.a + d * next.c,
+            c * next.b + d * next.d,
+            origin.x,
+            origin.y};
+  }
+
+  Point apply(Point point) const { return {a * point.x + c * point.y + tx, b * point.x + d * point.y + ty}; }
+
+  bool isIdentity() const { return *this == AffineTransform(); }
+
+  friend bool operator==(const AffineTransform&, const AffineTransform&) = default;
+};
+
+}  // namespace velmora
