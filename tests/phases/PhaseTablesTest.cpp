@@ -52,7 +52,7 @@ TEST(PhaseTables, AgreeWithThePeriodicTermsOfTheLunation) {
   EXPECT_LE(differences.largest(), Seconds(90));
 }
 
-// Universal Time by an extrapolated rotation of the Earth would be several seconds off by 2040.
+// By the Universal Time that eclipse canons extrapolate (Delta T of 81 s in 2035) the mean would be 12 s off.
 TEST(PhaseTables, KeepTheLeapSecondsOf2017ToTheEnd) {
   const Instant lastDecade = std::chrono::sys_days(std::chrono::year(2031) / 1 / 1);
   Seconds sum(0);
