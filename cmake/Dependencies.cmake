@@ -11,5 +11,9 @@ set_target_properties(cctz::cctz PROPERTIES
   IMPORTED_LOCATION ${CCTZ_LIBRARY}
   INTERFACE_INCLUDE_DIRECTORIES ${CCTZ_INCLUDE_DIR})
 
+# Resources: property lists and pictures.
+pkg_check_modules(PLIST REQUIRED IMPORTED_TARGET libplist-2.0)
+find_package(PNG REQUIRED)
+
 # Drawing and text for the views.
 pkg_check_modules(pangocairo REQUIRED IMPORTED_TARGET pangocairo>=1.50 pangoft2 cairo cairo-svg cairo-pdf)

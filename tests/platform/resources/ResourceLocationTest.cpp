@@ -1,0 +1,54 @@
+#include <velmora/platform/resources/ResourceLocation.h>
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+
+#include <tests/platform/resources/TemporaryFolder.h>
+
+namespace velmora {
+namespace {
+
+const char* const kVariable = "VELMORA_TEST_RESOURCES";
+
+class ResourceLocation : public testing::Test {
+ protected:
+  void TearDown() override { unsetenv(kVariable); }
+
+  /// The places with an installed folder that lies under no prefix of this program.
+  static ResourcePlaces uninstalled() { return {kVariable, "no/such/folder", "/source/resources"}; }
+};
+
+TEST_F(ResourceLocation, IsWhereTheEnvironmentSays) {
+  setenv(kVariable, "/nowhere/resources", 1);
+  EXPECT_EQ(resourceDirectory(uninstalled()), "/nowhere/resources");
+}
+
+TEST_F(ResourceLocation, AnEmptyVariableSaysNothing) {
+  setenv(kVariable, "", 1);
+  EXPECT_EQ(resourceDirectory(uninstalled()), "/source/resources");
+}
+
+TEST_F(ResourceLocation, IsTheSourceTreeWhereNothingIsInstalled) {
+  EXPECT_EQ(resourceDirectory(uninstalled()), "/source/resources");
+}
+
+TEST_F(ResourceLocation, IsFoundFromWhereTheCodeLies) {
+  const std::filesystem::path code = codeDirectories().at(0);
+  const std::filesystem::path prefix = code.parent_path();
+  ResourcePlaces places = uninstalled();
+  places.installed = code.filename();
+  EXPECT_EQ(resourceDirectory(places), code) << "one folder under the prefix, as PREFIX/bin";
+  places.installed = prefix.filename() / code.filename();
+  EXPECT_EQ(resourceDirectory(places), code) << "two folders under the prefix, as PREFIX/lib/ARCHITECTURE";
+}
+
+TEST_F(ResourceLocation, TheEnvironmentStandsBeforeAnInstallation) {
+  setenv(kVariable, "/elsewhere", 1);
+  ResourcePlaces places = uninstalled();
+  places.installed = codeDirectories().at(0).filename();
+  EXPECT_EQ(resourceDirectory(places), "/elsewhere");
+}
+
+}  // namespace
+}  // namespace velmora

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace velmora {
+
+/// The largest resource that is read, in bytes: far above any that ships, so that a wrong file costs little.
+inline constexpr std::size_t kMaximumResourceSize = std::size_t{16} << 20;
+
+/// The bytes of a regular file; none if it is missing, unreadable, a folder or a device, or larger than that
+/// many bytes.
+std::optional<std::string> readFile(const std::filesystem::path& path,
+                                    std::size_t maximumSize = kMaximumResourceSize);
+
+/// The text of a file; none where `readFile` gives none or where the bytes are not UTF-8.
+std::optional<std::string> readTextFile(const std::filesystem::path& path,
+                                        std::size_t maximumSize = kMaximumResourceSize);
+
+/// Whether the bytes are well-formed UTF-8 (RFC 3629: shortest forms, no surrogates, up to U+10FFFF).
+bool isUtf8(std::string_view bytes);
+
+}  // namespace velmora

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+
+namespace velmora {
+
+inline constexpr std::size_t kMaximumListSize = std::size_t{1} << 20;
+inline constexpr std::size_t kMaximumContainers = 1024;
+
+/// Whether the bytes may be handed to libplist, which reads and frees nested values by recursion and copies a
+/// binary list's value once for each reference to it. A list that passes is small, nests at most
+/// `kMaximumContainers` deep and expands to a few mebibytes. Says nothing of the list being well formed.
+bool isWithinListLimits(std::string_view bytes);
+
+}  // namespace velmora
