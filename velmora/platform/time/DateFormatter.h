@@ -52,6 +52,9 @@ class DateFormatter {
   static std::vector<std::string> shortMonthSymbols(const Locale& locale);
 
  private:
+  /// The pattern that was set, else that of the styles; empty without both.
+  std::string effectivePattern() const;
+
   std::string _pattern;
   Style _dateStyle = Style::none;
   Style _timeStyle = Style::none;

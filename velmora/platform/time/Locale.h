@@ -34,6 +34,8 @@ class Locale {
   /// The same locale with its clock habit overridden, which short times and the template letter "j" then
   /// follow.
   Locale withHourCycle(HourCycle cycle) const;
+  /// The override; none where the locale's own habit stands.
+  std::optional<HourCycle> hourCycle() const { return _hourCycle; }
 
   friend bool operator==(const Locale&, const Locale&) = default;
 

@@ -1,0 +1,124 @@
+#include <velmora/platform/time/Locale.h>
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <map>
+#include <utility>
+
+namespace velmora {
+namespace {
+
+/// Sets environment variables for as long as it lives (none removes one), then puts the former values back.
+class ScopedEnvironment {
+ public:
+  explicit ScopedEnvironment(const std::map<std::string, std::optional<std::string>>& values) {
+    for (const auto& [name, value] : values) {
+      const char* const former = std::getenv(name.c_str());
+      _former[name] = former == nullptr ? std::nullopt : std::optional<std::string>(former);
+      put(name, value);
+    }
+  }
+  ~ScopedEnvironment() {
+    for (const auto& [name, value] : _former) put(name, value);
+  }
+  ScopedEnvironment(const ScopedEnvironment&) = delete;
+  ScopedEnvironment& operator=(const ScopedEnvironment&) = delete;
+
+ private:
+  static void put(const std::string& name, const std::optional<std::string>& value) {
+    if (value) {
+      ::setenv(name.c_str(), value->c_str(), 1);
+    } else {
+      ::unsetenv(name.c_str());
+    }
+  }
+  std::map<std::string, std::optional<std::string>> _former;
+};
+
+TEST(Locale, AHyphenAndAnUnderscoreAreTheSame) {
+  EXPECT_EQ(Locale("zh-Hans-CN"), Locale("zh_Hans_CN"));
+  EXPECT_EQ(Locale("en_US").identifier(), "en_US");
+}
+
+TEST(Locale, KnowsTheLanguageByBothItsCodes) {
+  EXPECT_EQ(Locale("ar_EG").languageCode(), "ar");
+  EXPECT_EQ(Locale("ara").languageCode(), "ar");
+  EXPECT_EQ(Locale("he").languageCode(), "he");
+  EXPECT_EQ(Locale("iw").languageCode(), "he");
+  EXPECT_EQ(Locale("zh-Hans").languageCode(), "zh");
+  EXPECT_EQ(Locale("FI_fi").languageCode(), "fi");
+}
+
+TEST(Locale, KnowsTheLanguagesWrittenFromRightToLeft) {
+  for (const char* identifier :
+       {"ar", "ar_EG", "ara", "he", "he_IL", "iw", "fa_IR", "ur_PK", "yi", "az_Arab"}) {
+    EXPECT_TRUE(Locale(identifier).isRightToLeft()) << identifier;
+  }
+  for (const char* identifier : {"en_US", "ja", "zh-Hans", "az_Latn", "xx_YY", "", "not a locale"}) {
+    EXPECT_FALSE(Locale(identifier).isRightToLeft()) << identifier;
+  }
+}
+
+TEST(Locale, KnowsHowClocksAreReadThere) {
+  for (const char* identifier :
+       {"de_DE", "fi_FI", "en_GB", "ja_JP", "zh-Hans", "he", "th_TH", "fa_IR", "fr_CA"}) {
+    EXPECT_TRUE(Locale(identifier).uses24HourClock()) << identifier;
+  }
+  for (const char* identifier : {"en_US", "ar_EG", "ara", "hi_IN", "en_AU", "ko_KR"}) {
+    EXPECT_FALSE(Locale(identifier).uses24HourClock()) << identifier;
+  }
+}
+
+TEST(Locale, AnOverrideOfTheClockHabitStands) {
+  const Locale us("en_US");
+  const Locale overridden = us.withHourCycle(Locale::HourCycle::h24);
+  EXPECT_TRUE(overridden.uses24HourClock());
+  EXPECT_FALSE(Locale("de_DE").withHourCycle(Locale::HourCycle::h12).uses24HourClock());
+  EXPECT_EQ(overridden.identifier(), "en_US");
+  EXPECT_EQ(overridden.hourCycle(), Locale::HourCycle::h24);
+  EXPECT_EQ(us.hourCycle(), std::nullopt);
+  EXPECT_NE(overridden, us);
+}
+
+TEST(Locale, TheCurrentLocaleIsPutBackAtTheEndOfAScope) {
+  const ScopedLocale german("de_DE");
+  {
+    const ScopedLocale arabic("ar_EG");
+    EXPECT_EQ(Locale::current(), Locale("ar_EG"));
+  }
+  EXPECT_EQ(Locale::current(), Locale("de_DE"));
+}
+
+TEST(Locale, WithoutAChoiceTheEnvironmentNamesTheCurrentLocale) {
+  using Value = std::optional<std::string>;
+  struct Case {
+    Value all, time, lang;
+    const char* identifier;
+  };
+  const Case cases[] = {
+      {{}, {}, "de_DE.UTF-8", "de_DE"},
+      {{}, {}, "ca_ES@valencia", "ca_ES"},
+      {{}, "fi_FI.UTF-8", "de_DE.UTF-8", "fi_FI"},
+      {"ar_EG", "fi_FI.UTF-8", "de_DE.UTF-8", "ar_EG"},
+      {"", "", "sr_Latn_RS", "sr_Latn_RS"},
+      {{}, {}, "fil_PH.UTF-8", "fil_PH"},
+      {{}, {}, {}, "en_US"},
+      {{}, {}, "C", "en_US"},
+      {{}, {}, "C.UTF-8", "en_US"},
+      {{}, {}, "POSIX", "en_US"},
+      {"C", {}, "de_DE.UTF-8", "en_US"},
+      {{}, {}, "nonsense", "en_US"},
+      {{}, {}, "d1_DE", "en_US"},
+      {{}, {}, "de_", "en_US"},
+      {{}, {}, "../../etc", "en_US"},
+  };
+  Locale::setCurrent(std::nullopt);
+  for (const Case& c : cases) {
+    const ScopedEnvironment environment({{"LC_ALL", c.all}, {"LC_TIME", c.time}, {"LANG", c.lang}});
+    EXPECT_EQ(Locale::current().identifier(), c.identifier);
+  }
+}
+
+}  // namespace
+}  // namespace velmora
