@@ -48,9 +48,15 @@ class Outline {
     _isOpen = false;
   }
 
-  /// A quarter of an ellipse around a corner: towards the corner first, then away from it.
+  /// A quarter of an ellipse around a corner: towards the corner first, then away from it. With a radius of
+  /// 0 the corner is square.
   void roundCorner(Point corner, Point end) {
     const Point start = _current;
+    if (start == corner || end == corner) {
+      if (start != corner) lineTo(corner);
+      if (end != corner) lineTo(end);
+      return;
+    }
     const auto towardsCorner = [&](Point from) {
       return Point{from.x + (corner.x - from.x) * quarterArm, from.y + (corner.y - from.y) * quarterArm};
     };
