@@ -1,0 +1,122 @@
+#include <velmora/platform/graphics/cairo/PangoTextEngine.h>
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+#include <utility>
+
+#include <velmora/platform/graphics/cairo/LineReader.h>
+
+namespace velmora {
+namespace {
+
+/// The families that views ask for and that the system's own face stands in for.
+constexpr std::array<std::string_view, 3> systemFamilies = {"System", "AvenirNext", "Helvetica"};
+
+constexpr std::string_view systemFace = "Inter";
+constexpr std::string_view scriptFaces =
+    ",Noto Sans,Noto Sans Hebrew,Noto Sans Arabic,Noto Sans Devanagari,Noto Sans CJK SC";
+
+PangoHandle<PangoFontDescription> description(const Font& font, const std::string& fallbackFamilies) {
+  const bool isSystem =
+      std::find(systemFamilies.begin(), systemFamilies.end(), font.family) != systemFamilies.end();
+  const std::string families = (isSystem ? std::string(systemFace) : font.family) + fallbackFamilies;
+  PangoHandle<PangoFontDescription> description(pango_font_description_new());
+  pango_font_description_set_family(description.get(), families.c_str());
+  pango_font_description_set_weight(description.get(), static_cast<PangoWeight>(font.weight));
+  pango_font_description_set_absolute_size(description.get(),
+                                           std::clamp(font.size, 0.0, 10000.0) * PANGO_SCALE);
+  return description;
+}
+
+CairoFontOptions unhintedOptions() {
+  CairoFontOptions options(cairo_font_options_create());
+  cairo_font_options_set_antialias(options.get(), CAIRO_ANTIALIAS_GRAY);
+  cairo_font_options_set_hint_style(options.get(), CAIRO_HINT_STYLE_NONE);
+  cairo_font_options_set_hint_metrics(options.get(), CAIRO_HINT_METRICS_OFF);
+  return options;
+}
+
+std::string key(const Font& font) {
+  return font.family + '\n' + std::to_string(font.size) + '\n' +
+         std::to_string(static_cast<int>(font.weight));
+}
+
+std::string key(const AttributedText& text) {
+  std::string key = text.text();
+  for (const AttributedText::Run& run : text.runs()) {
+    key += '\0' + std::to_string(run.end) + '\n' + velmora::key(run.attributes.font);
+  }
+  return key;
+}
+
+}  // namespace
+
+TextEngine& TextEngine::drawingEngine() { return PangoTextEngine::shared(); }
+
+PangoTextEngine& PangoTextEngine::shared() {
+  static PangoTextEngine engine;
+  return engine;
+}
+
+PangoTextEngine::PangoTextEngine()
+    : _map(pango_cairo_font_map_new_for_font_type(CAIRO_FONT_TYPE_FT)),
+      _context(pango_font_map_create_context(_map.get())),
+      _families(scriptFaces) {
+  pango_cairo_context_set_font_options(_context.get(), unhintedOptions().get());
+  pango_context_set_round_glyph_positions(_context.get(), false);
+}
+
+std::shared_ptr<const ShapedLine> PangoTextEngine::line(const AttributedText& text) {
+  constexpr std::size_t mostLines = 2000;
+  if (_lines.size() >= mostLines) _lines.clear();
+  std::shared_ptr<const ShapedLine>& known = _lines[key(text)];
+  if (!known) known = std::make_shared<const ShapedLine>(shape(text));
+  return known;
+}
+
+std::vector<Rect> PangoTextEngine::glyphBoxes(const AttributedText& text) {
+  const std::shared_ptr<const ShapedLine> shaped = line(text);
+  std::vector<Rect> boxes;
+  for (const ShapedLine::Glyph& glyph : shaped->glyphs) {
+    boxes.push_back({glyph.left, 0, glyph.advance, shaped->metrics.ascent + shaped->metrics.descent});
+  }
+  return boxes;
+}
+
+ShapedLine PangoTextEngine::shape(const AttributedText& text) {
+  const PangoHandle<PangoLayout> layout(pango_layout_new(_context.get()));
+  pango_layout_set_single_paragraph_mode(layout.get(), true);
+  pango_layout_set_text(layout.get(), text.text().data(), static_cast<int>(text.text().size()));
+
+  Extent tallest = extent(text.paragraph().font);
+  const PangoHandle<PangoAttrList> attributes(pango_attr_list_new());
+  for (const AttributedText::Run& run : text.runs()) {
+    const Extent runExtent = extent(run.attributes.font);
+    tallest = {std::max(tallest.ascent, runExtent.ascent), std::max(tallest.descent, runExtent.descent)};
+    PangoAttribute* font = pango_attr_font_desc_new(description(run.attributes.font, _families).get());
+    font->start_index = static_cast<guint>(run.begin);
+    font->end_index = static_cast<guint>(run.end);
+    pango_attr_list_insert(attributes.get(), font);
+  }
+  pango_layout_set_attributes(layout.get(), attributes.get());
+
+  ShapedLine line = readLine(layout.get());
+  line.metrics.ascent = tallest.ascent;
+  line.metrics.descent = tallest.descent;
+  return line;
+}
+
+PangoTextEngine::Extent PangoTextEngine::extent(const Font& font) {
+  const auto [found, isNew] = _extents.try_emplace(key(font));
+  if (isNew) {
+    const PangoHandle<PangoFont> loaded(
+        pango_context_load_font(_context.get(), description(font, _families).get()));
+    const PangoHandle<PangoFontMetrics> metrics(pango_font_get_metrics(loaded.get(), nullptr));
+    found->second = {pango_units_to_double(pango_font_metrics_get_ascent(metrics.get())),
+                     pango_units_to_double(pango_font_metrics_get_descent(metrics.get()))};
+  }
+  return found->second;
+}
+
+}  // namespace velmora

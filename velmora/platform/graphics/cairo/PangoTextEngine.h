@@ -1,0 +1,45 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <unordered_map>
+
+#include <velmora/platform/graphics/TextEngine.h>
+#include <velmora/platform/graphics/cairo/PangoHandles.h>
+#include <velmora/platform/graphics/cairo/ShapedLine.h>
+
+namespace velmora {
+
+/// Shapes text with Pango in installed faces. Hinting is off and nothing is rounded, so that a line has the
+/// same proportions at every scale and on every machine. The script of a text decides the face: Inter, else
+/// Noto's face for the script.
+class PangoTextEngine final : public TextEngine {
+ public:
+  /// The one that draws; made on the first call, to be used from one thread.
+  static PangoTextEngine& shared();
+
+  TextMetrics measure(const AttributedText& text) override { return line(text)->metrics; }
+  std::vector<Rect> glyphBoxes(const AttributedText& text) override;
+  std::string uncoveredCharacters(const AttributedText& text) override { return line(text)->uncovered; }
+
+  /// The shaped line, kept for the next time the same text is asked for.
+  std::shared_ptr<const ShapedLine> line(const AttributedText& text);
+
+ private:
+  struct Extent {
+    double ascent, descent;
+  };
+
+  PangoTextEngine();
+
+  ShapedLine shape(const AttributedText& text);
+  Extent extent(const Font& font);
+
+  PangoHandle<PangoFontMap> _map;
+  PangoHandle<PangoContext> _context;
+  std::string _families;
+  std::unordered_map<std::string, std::shared_ptr<const ShapedLine>> _lines;
+  std::unordered_map<std::string, Extent> _extents;
+};
+
+}  // namespace velmora
