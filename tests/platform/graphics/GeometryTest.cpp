@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
 #include <numbers>
+#include <optional>
 
 namespace velmora {
 namespace {
@@ -86,6 +88,19 @@ TEST(AffineTransform, ConcatIsOneTransformAfterTheOther) {
   for (const Point point : {Point{0, 0}, Point{1, 0}, Point{-3, 8}}) {
     expectNear(first.concat(second).apply(point), second.apply(first.apply(point)));
   }
+}
+
+TEST(AffineTransform, ItsInverseUndoesIt) {
+  const AffineTransform transform = {1.5, 0.25, -2, 0.75, 3, -7};
+  for (const Point point : {Point{0, 0}, Point{1, 0}, Point{-3, 8}}) {
+    expectNear(transform.inverted()->apply(transform.apply(point)), point);
+  }
+}
+
+TEST(AffineTransform, SqueezingToALineHasNoInverse) {
+  EXPECT_EQ(AffineTransform::scaling(0, 1).inverted(), std::nullopt);
+  EXPECT_EQ((AffineTransform{1, 2, 2, 4, 0, 0}).inverted(), std::nullopt);
+  EXPECT_EQ(AffineTransform::scaling(std::numeric_limits<double>::quiet_NaN(), 1).inverted(), std::nullopt);
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 namespace velmora {
 
@@ -95,6 +96,14 @@ struct AffineTransform {
   Point apply(Point point) const { return {a * point.x + c * point.y + tx, b * point.x + d * point.y + ty}; }
 
   bool isIdentity() const { return *this == AffineTransform(); }
+
+  /// The transform that undoes this one; none for one that squeezes the plane to a line or a point.
+  std::optional<AffineTransform> inverted() const {
+    const double area = a * d - b * c;
+    if (area == 0 || !std::isfinite(area)) return std::nullopt;
+    return AffineTransform{
+        d / area, -b / area, -c / area, a / area, (c * ty - d * tx) / area, (b * tx - a * ty) / area};
+  }
 
   friend bool operator==(const AffineTransform&, const AffineTransform&) = default;
 };

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <velmora/platform/graphics/Geometry.h>
+
+namespace velmora {
+
+/// What an element is, for a screen reader: any sum of these values.
+enum class AccessibilityTraits : unsigned {
+  none = 0,
+  button = 1,
+  allowsDirectInteraction = 1 << 13,  ///< touches go to the view itself while the screen reader runs
+};
+
+/// How the elements of a view belong together.
+enum class AccessibilityContainerType {
+  none = 0,
+  semanticGroup = 4,
+};
+
+/// Something that a screen reader offers to do with an element. Derived classes add what the handler needs.
+class AccessibilityCustomAction {
+ public:
+  /// Is given the action that was activated.
+  using Handler = std::function<void(const AccessibilityCustomAction& action)>;
+
+  AccessibilityCustomAction(std::string name, Handler handler)
+      : _name(std::move(name)), _handler(std::move(handler)) {}
+  virtual ~AccessibilityCustomAction() = default;
+  AccessibilityCustomAction(const AccessibilityCustomAction&) = delete;
+  AccessibilityCustomAction& operator=(const AccessibilityCustomAction&) = delete;
+
+  /// The text that the user chooses the action by.
+  const std::string& name() const { return _name; }
+
+  void activate() const {
+    if (_handler) _handler(*this);
+  }
+
+ private:
+  std::string _name;
+  Handler _handler;
+};
+
+/// One thing on a view that a screen reader can stop at.
+struct AccessibilityElement {
+  Rect frame;         ///< in the coordinates of the view that lists it
+  std::string label;  ///< what it is
+  std::string value;  ///< its present state
+  std::string hint;   ///< what activating it does
+  AccessibilityTraits traits = AccessibilityTraits::none;
+  std::vector<std::shared_ptr<const AccessibilityCustomAction>> customActions;
+};
+
+}  // namespace velmora

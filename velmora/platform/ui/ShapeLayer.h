@@ -1,0 +1,33 @@
+#pragma once
+
+#include <velmora/platform/graphics/Color.h>
+#include <velmora/platform/graphics/Path.h>
+#include <velmora/platform/ui/Layer.h>
+
+namespace velmora {
+
+/// A layer that fills a path and then strokes it, in its own coordinates. A clear colour leaves its step out.
+class ShapeLayer : public Layer {
+ public:
+  const Path& path() const { return _path; }
+  void setPath(Path path) { _path = std::move(path); }
+
+  Color fillColor() const { return _fillColor; }
+  void setFillColor(const Color& color) { _fillColor = color; }
+
+  Color strokeColor() const { return _strokeColor; }
+  void setStrokeColor(const Color& color) { _strokeColor = color; }
+
+  double lineWidth() const { return _lineWidth; }
+  void setLineWidth(double width) { _lineWidth = width; }
+
+ private:
+  void draw(Canvas& canvas) const override;
+
+  Path _path;
+  Color _fillColor = Color::black();
+  Color _strokeColor = Color::clear();
+  double _lineWidth = 1;
+};
+
+}  // namespace velmora
