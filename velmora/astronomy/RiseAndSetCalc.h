@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -12,68 +11,168 @@
 
 namespace velmora {
 
-/// Apparent equatorial coordinates.
+/// Equatorial coordinates, referred to the mean equinox of date.
 struct EquatorialCoordinates {
-  double declination = 0.0;     ///< degrees, −90..90
+  double declination = 0.0;     ///< degrees, −90..90, north positive
   double rightAscension = 0.0;  ///< hours, [0, 24)
 };
 
 /// The astronomy engine: operations without state, callable from any thread.
+///
+/// `mjd` is a Modified Julian Date of universal time: days from 1858 November 17, 0h. Longitudes are east
+/// positive, latitudes north positive, degrees unless an argument says radians. Nothing fails: what cannot be
+/// computed is NaN in numbers, "--" or "--:--" in texts, −1 in minutes. Numbers far outside what an argument
+/// is made for give a defined but meaningless result.
+///
+/// Sources: Montenbruck and Pfleger, "Astronomy on the Personal Computer" (calendar, the short series of the
+/// Sun and the Moon, the search by parabolas); Meeus, "Astronomical Algorithms", 2nd ed. (sidereal time);
+/// "The Astronomical Almanac", low-precision formulas for the Sun (its position).
 class RiseAndSetCalc {
  public:
   // Time and angles (TimeAndAngles.cpp)
+
+  /// Modified Julian Date of a Gregorian date (month 1..12) at a whole hour of universal time.
+  /// 2000-01-01 12h is 51544.5. Days up to 1582 October 4 are no true Julian-calendar count, by intent.
   static double _mjd(std::int64_t day, std::int64_t month, std::int64_t year, std::int64_t hour);
+
+  /// The time of day of a Modified Julian Date, written by `_hrsmin`.
   static std::string _caldat(double mjd);
+
+  /// Local mean sidereal time in hours, as an angle: Greenwich's in [0, 24) plus longitude/15, not reduced
+  /// again. Meeus, formula 12.4; universal time stands for both of its time scales.
   static double _lmst(double mjd, double longitude);
+
+  /// What `x` has above the next whole number below it, [0, 1); a negative x nearer to 0 than a double can
+  /// tell from 1 gives 1.
   static double _frac(double x);
+
+  /// The whole part, toward zero; 0 for NaN, the nearest end beyond 64 bits.
   static std::int64_t _iPart(double x);
+
+  /// An angle in degrees reduced to [0, 360), any finite one; a negative one too small to tell from 0 gives
+  /// 360.
   static double _range(double degrees);
+
+  /// `value` rounded to that many decimals (negative: tens, hundreds), halves away from zero.
   static double _round(double value, std::int64_t noOfDecimals);
+
+  /// A time of day in hours as a clock text, to the nearest minute: "17:05" where the settings' time format
+  /// is 1, else "05:05 PM". By intent the hour after midnight is "00:05 AM", and 23.9999 is "24:00" or
+  /// "12:00 PM".
   static std::string _hrsmin(double hours);
+
+  /// The days of a common year before the month (1..12), 0 for a month outside. No leap day in any year.
   static std::int64_t GetDayCountForMonth(std::int64_t month);
+
+  /// An angle in radians reduced to [0, 2π) if it is −2π or above. Below −2π it stays negative and moves
+  /// away from zero, by intent. Whole turns are counted up to 2³² − 1.
   static double FNRange(double radians);
+
+  /// The four-quadrant arctangent in radians, [0, 2π); for x = 0 it is ±π/2 with the sign of y.
   static double FNatn2(double y, double x);
+
+  /// The arcsine in radians, −π/2..π/2; NaN outside −1..1.
   static double FNasin(double x);
 
   // Series of the Sun and the Moon (SunAndMoonSeries.cpp)
+
+  /// The Sun. `centuries`: Julian centuries of 36525 days from 2000 January 1, 12h.
+  /// Montenbruck and Pfleger, MiniSun.
   static EquatorialCoordinates _minisun(double centuries);
+
+  /// The Moon, geocentric. `centuries` as above. Montenbruck and Pfleger, MiniMoon.
   static EquatorialCoordinates _minimoon(double centuries);
+
+  /// Sine of the geometric altitude of a body's centre, seen from the centre of the Earth, without
+  /// refraction. `object`: 1.0 is the Moon, every other value the Sun; `mjd0`: the day's 0h; `hour`: after
+  /// it, may lie outside 0..24.
   static double _sin_alt(double object, double mjd0, double hour, double longitude, double cosLatitude,
                          double sinLatitude);
 
   // Rise, set and twilight (RiseSetSearch.cpp)
+  //
+  // The altitude is sampled hourly from local midnight on, two hours are joined by a parabola, over at most
+  // 48 hours (Montenbruck and Pfleger, SunSet). Altitudes of the centre: Sun −0.833°, Moon +8′.
+
+  /// Rise, set and twilight of the instant's calendar day at the place; `date` of the record is left alone.
+  /// `secondsFromGMT`: the offset in force on that day; it is also the zone of a place without a `timezone`.
+  /// `twilight`: 0 civil (Sun at −6°), 1 nautical (−12°), 2 astronomical (−18°); must be one of these, of
+  /// others the nearest is taken.
+  /// The Sun's set is the one that follows its rise, the Moon's the first of the day, by intent.
   static RiseSetData Compute(Instant date, const GeoLocationData& location, std::int64_t secondsFromGMT,
                              int twilight);
+
+  /// The part of `Compute` for the Sun: writes its minutes, the day length, and the texts of what happens; a
+  /// pair of texts of which neither event happens is left as it is. `mjd0`: 0h of the local date taken as
+  /// universal time; `offsetHours`: of local time, east of Greenwich positive.
   static void _find_sun_and_twi_events_for_date(RiseSetData& record, int twilight, double mjd0,
                                                 double offsetHours, double longitude, double latitude);
+
+  /// The part of `Compute` for the Moon: writes its texts and minutes. Arguments as above.
   static void _find_moonrise_set(RiseSetData& record, double mjd0, double offsetHours, double longitude,
                                  double latitude);
 
   // Positions (HorizontalPosition.cpp)
+  //
+  // All are those of the centre, seen from the centre of the Earth, without refraction. Azimuth: north is
+  // zero and east is +90°.
+
+  /// The Sun's ecliptic longitude of date in radians, [0, 2π). Astronomical Almanac.
   static double FNsun(double daysFromJ2000);
+
+  /// The Sun at `hour` (may exceed 24) of a universal date, 1901 to 2099. Longitude and latitude in radians.
+  /// The record's `hour` is hour + `timezoneInterval`, plus 24 once if that is below zero.
   static PositionData CalculateSunPosition(double longitude, double latitude, std::int64_t year,
                                            std::int64_t month, std::int64_t day, double hour,
                                            std::int64_t timezoneInterval);
+
+  /// The Moon at `hour` of universal time, counted from 0h of the date, below 0 and above 24 too. Longitude
+  /// and latitude in radians. The record's `hour` is hour + `timezoneInterval` (hours). The azimuth is NaN
+  /// where it is undefined: at the poles and the zenith.
   static PositionData CalculateMoonPosition(double longitude, double latitude, std::int32_t year,
                                             std::int32_t month, std::int32_t day, double hour,
                                             double timezoneInterval);
+
+  /// The Sun at the instant, to the minute. `secondsFromGMT`: the offset in force. The record's `hour` is the
+  /// whole hour of universal time. Within the offset of a clock change the Sun is an hour off, by intent: the
+  /// instant moved by the offset is read on the place's clocks.
   static PositionData ComputeSunPosition(Instant date, const GeoLocationData& location,
                                          std::int64_t secondsFromGMT);
+
+  /// The Moon at the instant, to the minute. `secondsFromGMT`: the offset in force. The record's `hour` is the
+  /// local one with minutes as a fraction.
   static PositionData ComputeMoonPosition(Instant date, const GeoLocationData& location,
                                           std::int64_t secondsFromGMT);
+
+  /// The Moon at `hour` of universal time after `mjd0`; the record's `hour` is that hour. Azimuth as in
+  /// `CalculateMoonPosition`.
   static PositionData _find_moon_position(double mjd0, double hour, double longitude, double cosLatitude,
                                           double sinLatitude);
 
   // Series of a day and elevation crossings (DaySeries.cpp)
+
+  /// The Moon at the local hours 0 to 24 of the instant's calendar day: 25 records, `hour` 0 to 24.
   static std::vector<PositionData> Get24HourMoonPositionsForDate(Instant date,
                                                                  const GeoLocationData& location,
                                                                  std::int64_t secondsFromGMT);
+
+  /// The Sun at 24 hours from the whole universal hour of the instant on. By intent the records' `hour` has
+  /// no clock meaning: the hour of universal time plus the offset in seconds. A sample's time is its index.
   static std::vector<PositionData> Get24HourSunPositionsForDate(Instant date, const GeoLocationData& location,
                                                                 std::int64_t secondsFromGMT);
+
+  /// The moments in the 24 hours from the instant on at which the Sun reaches `elevation` (degrees), in time
+  /// order. Hourly samples within 0.05° of it count; between samples it is refined only in hours in which
+  /// the Sun crosses the horizon, by intent: made for elevations near 0. Ends with the second refined event.
+  /// A refined record's `altitude` is exactly `elevation`; its texts are those of the altitude computed.
+  /// `includeIntermediateValues` adds the hourly samples after the first event. The records' `hour` is that
+  /// of universal time plus the whole hours of the offset, plus 24 once if that is below zero.
   static std::vector<PositionData> EventsMatchingSunElevation(double elevation, Instant date,
                                                               const GeoLocationData& location,
                                                               std::int64_t secondsFromGMT,
                                                               bool includeIntermediateValues);
+
+  /// The same of the Moon. The records' `hour` is the local one, below 0 or above 24 where the day changes.
   static std::vector<PositionData> EventsMatchingMoonElevation(double elevation, Instant date,
                                                                const GeoLocationData& location,
                                                                std::int64_t secondsFromGMT,

@@ -1,7 +1,9 @@
 #include <velmora/platform/time/TimeZone.h>
 
+#include <algorithm>
 #include <charconv>
 #include <cstdlib>
+#include <limits>
 #include <mutex>
 #include <stdexcept>
 #include <utility>
@@ -32,7 +34,7 @@ class FixedOffset final : public ZoneRules {
 
 std::string nameOfOffset(std::int64_t offset) {
   if (offset == 0) return "GMT";
-  const std::int64_t size = std::abs(offset);
+  const std::int64_t size = std::abs(std::max(offset, -std::numeric_limits<std::int64_t>::max()));
   std::string name = offset < 0 ? "GMT-" : "GMT+";
   name += integerText(size / secondsPerHour, 2) + ":" + integerText(size / 60 % 60, 2);
   if (size % 60 != 0) name += ":" + integerText(size % 60, 2);

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <string>
+
+namespace velmora {
+
+// Clock readings that the files of the engine share; not for other folders.
+
+/// A fractional hour rounded to the minute; whole numbers, below zero for an hour below zero.
+struct ClockReading {
+  double hour = 0.0;
+  double minute = 0.0;
+};
+
+/// The nearest minute to a time of day in hours, a half rounded up: 13.999 is 14:00, 23.9999 is 24:00.
+ClockReading clockReading(double hours);
+
+/// The number cut toward zero, like "7".
+std::string wholeText(double number);
+
+/// As above with at least two digits, like "07".
+std::string twoDigits(double number);
+
+/// `hours` as "17:05", or as "05:05 PM" with the hour after midnight written 00 and 24:00 written "12:00 PM",
+/// by intent.
+std::string clockText(double hours, bool use24Hour);
+
+}  // namespace velmora
