@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include <velmora/platform/time/Calendar.h>
 
 namespace velmora {
@@ -65,6 +67,12 @@ TEST(AlternateCalendar, IsTheSameFromMidnightToMidnight) {
     EXPECT_EQ(chinese.day(start - std::chrono::seconds(1)), 30) << zone;
     EXPECT_EQ(chinese.day(start), 1) << zone;
     EXPECT_EQ(chinese.day(start + std::chrono::hours(24) - std::chrono::seconds(1)), 1) << zone;
+  }
+}
+
+TEST(AlternateCalendar, InstantsBeyondEveryCalendarDoNoHarm) {
+  for (const double seconds : {std::nan(""), 1e300, -1e300}) {
+    EXPECT_GE(AlternateCalendar(Kind::hebrew, gmt).day(instantFromUnixSeconds(seconds)), 1);
   }
 }
 

@@ -181,12 +181,17 @@ TEST(DateFormatter, ReadsTwelveHourTimesOnTheFirstDayOf1970) {
   EXPECT_EQ(time.dateFromString("5:05 pm"), utc(1970, 1, 1, 17, 5));
 }
 
+TEST(DateFormatter, BlanksAroundTheTextAndInFrontOfNumbersDoNotCount) {
+  EXPECT_EQ(formatter("hh:mm a").dateFromString("11:58 PM "), utc(1970, 1, 1, 23, 58));
+  EXPECT_EQ(formatter("yyyy-MM-dd HH:mm").dateFromString(" 2024-03-25  07:00"), utc(2024, 3, 25, 7));
+  EXPECT_EQ(formatter("hh:mm a").dateFromString("  "), std::nullopt);
+}
+
 TEST(DateFormatter, ReadsNothingThatDoesNotFollowThePattern) {
   const std::pair<const char*, const char*> cases[] = {
       {"yyyy-MM-dd HH:mm", ""},
       {"yyyy-MM-dd HH:mm", "2024-03-25"},
       {"yyyy-MM-dd HH:mm", "2024-03-25 07:"},
-      {"yyyy-MM-dd HH:mm", "2024-03-25 07:00 "},
       {"yyyy-MM-dd HH:mm", "2024-03-25 07:00:30"},
       {"yyyy-MM-dd HH:mm", "2024/03/25 07:00"},
       {"yyyy-MM-dd HH:mm", "2024-03-25 07.00"},

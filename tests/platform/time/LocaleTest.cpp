@@ -2,39 +2,13 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
-#include <map>
-#include <utility>
+#include <optional>
+#include <string>
+
+#include "ScopedEnvironment.h"
 
 namespace velmora {
 namespace {
-
-/// Sets environment variables for as long as it lives (none removes one), then puts the former values back.
-class ScopedEnvironment {
- public:
-  explicit ScopedEnvironment(const std::map<std::string, std::optional<std::string>>& values) {
-    for (const auto& [name, value] : values) {
-      const char* const former = std::getenv(name.c_str());
-      _former[name] = former == nullptr ? std::nullopt : std::optional<std::string>(former);
-      put(name, value);
-    }
-  }
-  ~ScopedEnvironment() {
-    for (const auto& [name, value] : _former) put(name, value);
-  }
-  ScopedEnvironment(const ScopedEnvironment&) = delete;
-  ScopedEnvironment& operator=(const ScopedEnvironment&) = delete;
-
- private:
-  static void put(const std::string& name, const std::optional<std::string>& value) {
-    if (value) {
-      ::setenv(name.c_str(), value->c_str(), 1);
-    } else {
-      ::unsetenv(name.c_str());
-    }
-  }
-  std::map<std::string, std::optional<std::string>> _former;
-};
 
 TEST(Locale, AHyphenAndAnUnderscoreAreTheSame) {
   EXPECT_EQ(Locale("zh-Hans-CN"), Locale("zh_Hans_CN"));
@@ -115,7 +89,7 @@ TEST(Locale, WithoutAChoiceTheEnvironmentNamesTheCurrentLocale) {
   };
   Locale::setCurrent(std::nullopt);
   for (const Case& c : cases) {
-    const ScopedEnvironment environment({{"LC_ALL", c.all}, {"LC_TIME", c.time}, {"LANG", c.lang}});
+    const ScopedEnvironment all("LC_ALL", c.all), time("LC_TIME", c.time), lang("LANG", c.lang);
     EXPECT_EQ(Locale::current().identifier(), c.identifier);
   }
 }

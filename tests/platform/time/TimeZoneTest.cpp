@@ -2,6 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+
+#include <velmora/platform/time/ZoneDatabase.h>
+
+#include "ScopedEnvironment.h"
+
 namespace velmora {
 namespace {
 
@@ -68,6 +74,62 @@ TEST(TimeZone, TheDefaultZoneIsPutBackAtTheEndOfAScope) {
   }
   EXPECT_EQ(TimeZone::defaultZone(), before);
   EXPECT_THROW(ScopedDefaultTimeZone("Nowhere"), std::invalid_argument);
+}
+
+TEST(TimeZone, TheEnvironmentNamesTheSystemsZone) {
+  const std::pair<const char*, const char*> cases[] = {
+      {"Asia/Tokyo", "Asia/Tokyo"},
+      {":Asia/Tokyo", "Asia/Tokyo"},
+      {"/usr/share/zoneinfo/Asia/Tokyo", "Asia/Tokyo"},
+      {":/usr/share/zoneinfo/Asia/Tokyo", "Asia/Tokyo"},
+      {"nonsense", "nonsense"},
+      {"", ""},
+  };
+  for (const auto& [variable, identifier] : cases) {
+    const ScopedEnvironment environment("TZ", variable);
+    EXPECT_EQ(ZoneDatabase::systemZoneIdentifier(), identifier);
+  }
+}
+
+TEST(TimeZone, TheSystemsOwnZoneFileStandsForTheConfiguredZone) {
+  std::string configured;
+  {
+    const ScopedEnvironment environment("TZ", std::nullopt);
+    configured = ZoneDatabase::systemZoneIdentifier();
+  }
+  const ScopedEnvironment environment("TZ", ":/etc/localtime");
+  EXPECT_EQ(ZoneDatabase::systemZoneIdentifier(), configured);
+}
+
+/// The default zone of a new process with that value of TZ.
+void exitSayingWhetherTheDefaultZoneIs(const char* expected, const char* variable) {
+  ::setenv("TZ", variable, 1);
+  std::exit(TimeZone::defaultZone().name() == expected ? 0 : 1);
+}
+
+TEST(TimeZoneDeathTest, TheDefaultZoneIsTheSystemsAndGMTWhereThatIsUnknown) {
+  GTEST_FLAG_SET(death_test_style, "threadsafe");  // a process of its own, in which nothing has been read yet
+  const auto success = testing::ExitedWithCode(0);
+  EXPECT_EXIT(exitSayingWhetherTheDefaultZoneIs("Asia/Tokyo", "Asia/Tokyo"), success, "");
+  EXPECT_EXIT(exitSayingWhetherTheDefaultZoneIs("GMT", "nonsense"), success, "");
+  EXPECT_EXIT(exitSayingWhetherTheDefaultZoneIs("GMT", ""), success, "");
+}
+
+TEST(TimeZone, WithoutAChoiceTheDefaultZoneIsTheSystemsAgain) {
+  const TimeZone system = TimeZone::defaultZone();
+  TimeZone::setDefault(TimeZone::named("Asia/Tokyo"));
+  EXPECT_EQ(TimeZone::defaultZone().name(), "Asia/Tokyo");
+  TimeZone::setDefault(std::nullopt);
+  EXPECT_EQ(TimeZone::defaultZone(), system);
+}
+
+TEST(TimeZone, ScopesOfTheDefaultZoneNest) {
+  const ScopedDefaultTimeZone outer("Asia/Tokyo");
+  {
+    const ScopedDefaultTimeZone inner(TimeZone::fixed(3600));
+    EXPECT_EQ(TimeZone::defaultZone().name(), "GMT+01:00");
+  }
+  EXPECT_EQ(TimeZone::defaultZone().name(), "Asia/Tokyo");
 }
 
 TEST(TimeZone, AReadingThatClocksSkipHasBothReadings) {

@@ -35,9 +35,10 @@ class DateFormatter {
   std::string stringFromDate(Instant date) const;
 
   /// The instant that the text names in the formatter's zone. Reading is strict: the whole text must follow
-  /// the pattern, though a number may have fewer digits than pattern letters. None if it does not, or if
-  /// there is no such date. Fields that the pattern lacks are those of 1970-01-01 00:00. A time that occurs
-  /// twice is the first; a skipped one is read with the offset before the change.
+  /// the pattern, though a number may have fewer digits than pattern letters, and blanks around the text and
+  /// in front of its numbers do not count. None if it does not, or if there is no such date. Fields that the
+  /// pattern lacks are those of 1970-01-01 00:00. A time that occurs twice is the first; a skipped one is
+  /// read with the offset before the change. Pattern letters for a zone are for writing only.
   std::optional<Instant> dateFromString(std::string_view text) const;
 
   /// The text of the instant in the current locale and the default zone.

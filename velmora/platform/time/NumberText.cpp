@@ -6,13 +6,23 @@
 #include <sstream>
 
 namespace velmora {
+namespace {
+
+std::ostringstream fixedPointStream() {
+  std::ostringstream stream;
+  stream.imbue(std::locale::classic());
+  stream << std::fixed;
+  return stream;
+}
+
+}  // namespace
 
 std::string decimalText(double number, int fractionDigits) {
   if (std::isnan(number)) return "nan";
-  std::ostringstream text;
-  text.imbue(std::locale::classic());
-  text << std::fixed << std::setprecision(fractionDigits) << number;
-  return text.str();
+  thread_local std::ostringstream stream = fixedPointStream();  // costs more to make than to use
+  stream.str("");
+  stream << std::setprecision(fractionDigits) << number;
+  return stream.str();
 }
 
 std::string integerText(std::int64_t number, std::size_t minimumDigits) {

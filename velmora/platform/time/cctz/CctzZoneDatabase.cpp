@@ -73,6 +73,15 @@ bool isIdentifier(std::string_view text) {
          std::all_of(text.begin(), text.end(), allowed);
 }
 
+constexpr const char* systemZoneLink = "/etc/localtime";
+constexpr std::string_view zoneFolder = "zoneinfo/";
+
+/// The identifier of the zone whose file that is; another text stays as it is.
+std::string identifierOfPath(std::string_view path) {
+  const auto folder = path.find(zoneFolder);
+  return std::string(folder == std::string_view::npos ? path : path.substr(folder + zoneFolder.size()));
+}
+
 }  // namespace
 
 std::shared_ptr<const ZoneRules> ZoneDatabase::find(std::string_view identifier) {
@@ -82,11 +91,13 @@ std::shared_ptr<const ZoneRules> ZoneDatabase::find(std::string_view identifier)
 }
 
 std::string ZoneDatabase::systemZoneIdentifier() {
-  if (const char* chosen = std::getenv("TZ")) return *chosen == ':' ? chosen + 1 : chosen;
+  if (const char* chosen = std::getenv("TZ")) {
+    const std::string_view text(*chosen == ':' ? chosen + 1 : chosen);
+    if (text != systemZoneLink) return identifierOfPath(text);
+  }
   std::error_code error;
-  const std::string target = std::filesystem::read_symlink("/etc/localtime", error).string();
-  constexpr std::string_view folder = "zoneinfo/";
-  if (const auto at = target.find(folder); at != std::string::npos) return target.substr(at + folder.size());
+  const std::string target = std::filesystem::read_symlink(systemZoneLink, error).string();
+  if (target.find(zoneFolder) != std::string::npos) return identifierOfPath(target);
   std::string configured;
   std::ifstream("/etc/timezone") >> configured;
   return configured;

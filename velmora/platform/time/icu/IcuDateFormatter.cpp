@@ -61,7 +61,7 @@ void useOffset(icu::SimpleDateFormat& format, std::int64_t secondsFromGMT) {
 
 /// What a clock at GMT shows when the text is read by the pattern; none if the text does not follow it.
 std::optional<LocalTime> clockReading(const icu::SimpleDateFormat& format, std::string_view text) {
-  const icu::UnicodeString whole = toIcu(text);
+  const icu::UnicodeString whole = toIcu(text).trim();
   icu::ParsePosition position(0);
   const UDate read = format.parse(whole, position);
   if (position.getIndex() == 0 || position.getIndex() != whole.length()) return std::nullopt;
