@@ -1,0 +1,25 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include <velmora/platform/time/Instant.h>
+
+namespace velmora {
+
+/// One principal phase as seen from a place.
+struct MonthDataItem {
+  MonthDataItem(std::int64_t phase, std::int64_t day, std::string time, Instant localDate);
+
+  std::int64_t phase;      ///< 0 to 3, or −1 for an unknown code
+  std::int64_t day;        ///< of the month, in the place's zone
+  std::string time;        ///< display time; shifted twice unless the default zone is UTC, by intent
+  Instant localDate;       ///< the true instant, not shifted
+  const float fullFactor;  ///< lit fraction of the disc: 1, 0.5 or 0; 0 for an unknown code
+
+  /// The phase's name from the host application's "Localizable" table; none for another phase than 0 to 3.
+  std::optional<std::string> phaseString() const;
+};
+
+}  // namespace velmora

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <cstdint>
+
+namespace velmora {
+
+/// The library's numbers of the Moon's phases. The four principal phases are events at an instant and stand
+/// in this order by intent; the other four are the phases of the days between them.
+enum Phase : std::int64_t {
+  kUnknownPhase = -1,
+  kFullMoon = 0,
+  kFirstQuarter = 1,
+  kLastQuarter = 2,
+  kNewMoon = 3,
+  kWaxingCrescent = 4,
+  kWaxingGibbous = 5,
+  kWaningGibbous = 6,
+  kWaningCrescent = 7,
+};
+
+}  // namespace velmora
