@@ -87,7 +87,9 @@ TEST(EveryZone, EachEventStandsInExactlyOneMonthButForTheEdgesOfTheTables) {
       expected += isCovered ? 1 : 0;
       const auto [first, last] = found.equal_range(unixSeconds(event.time));
       ASSERT_EQ(std::distance(first, last), isCovered ? 1 : 0) << zone.name() << ", " << event.source;
-      if (isCovered) ASSERT_EQ(first->second, day) << zone.name() << ", " << event.source;
+      if (isCovered) {
+        ASSERT_EQ(first->second, day) << zone.name() << ", " << event.source;
+      }
     }
     ASSERT_EQ(found.size(), expected) << zone.name();
   }

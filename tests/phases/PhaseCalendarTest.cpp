@@ -82,14 +82,17 @@ TEST_F(PhaseCalendar, ADayBetweenTheMonthsCountsAcrossTheirEdge) {
 }
 
 TEST_F(PhaseCalendar, TheLitFractionIsRoundedToSinglePrecisionAtEachStep) {
-  const YearTable table = {{"5", {"1 12:00 FQ", "8 12:00 FM", "15 12:00 LQ", "22 12:00 NM"}}};
+  const YearTable table = {{"5", {"1 12:00 FQ", "7 12:00 FM", "13 12:00 LQ", "19 12:00 NM"}}};
   const auto calendar = calendarOf(table, 4, 2024);
-  const auto f = static_cast<float>((1 / 2.0) / 7.0);
-  EXPECT_EQ(calendar.at(2)->fullFactor, 0.5F + f);
-  EXPECT_EQ(calendar.at(9)->fullFactor, 1.0F - f);
-  EXPECT_EQ(calendar.at(16)->fullFactor, 0.5F - f);
-  EXPECT_NE(calendar.at(16)->fullFactor, static_cast<float>(0.5 - (1 / 2.0) / 7.0))
-      << "rounding once at the end would differ";
+  const double exact = (4 / 2.0) / 6.0;
+  const auto f = static_cast<float>(exact);
+  EXPECT_EQ(calendar.at(5)->fullFactor, 0.5F + f);
+  EXPECT_EQ(calendar.at(11)->fullFactor, 1.0F - f);
+  EXPECT_EQ(calendar.at(17)->fullFactor, 0.5F - f);
+  // Rounded once, at the end, all three would be others.
+  EXPECT_NE(calendar.at(5)->fullFactor, static_cast<float>(0.5 + exact));
+  EXPECT_NE(calendar.at(11)->fullFactor, static_cast<float>(1.0 - exact));
+  EXPECT_NE(calendar.at(17)->fullFactor, static_cast<float>(0.5 - exact));
 }
 
 TEST_F(PhaseCalendar, TheAgeGoesOnFromThePreviousMonthsNewMoon) {
@@ -147,9 +150,11 @@ TEST_F(PhaseCalendar, AMonthWithoutEventsLiesBetweenItsNeighbours) {
   const YearTable table = {{"4", {"26 12:00 NM"}}, {"6", {"4 12:00 FQ"}}};
   const auto calendar = calendarOf(table, 4, 2024);
   EXPECT_EQ(calendar.at(1)->phase, kWaxingCrescent);
-  EXPECT_EQ(calendar.at(1)->fullFactor, static_cast<float>((5 / 2.0) / 39.0));
+  EXPECT_EQ(calendar.at(1)->fullFactor, 0.3125F)
+      << "before the 4th, as if the quarter were on this month's 4th";
+  EXPECT_EQ(calendar.at(10)->fullFactor, static_cast<float>((14 / 2.0) / 39.0));
   EXPECT_EQ(calendar.at(27)->fullFactor, static_cast<float>((1 / 2.0) / 9.0))
-      << "from the 26th on, the previous month's event is taken for one of this month";
+      << "after the 26th, as if the new moon had been on this month's 26th";
 }
 
 TEST_F(PhaseCalendar, WithoutAnyEventTheMonthStartsFromAFullMoonOnDayZero) {
@@ -197,29 +202,49 @@ TEST_F(PhaseCalendar, TheDateAskedForDoesNotChangeTheMonth) {
 }
 
 /// The rules that hold on every day from 2000 to 2040, in zones from one end of the day to the other.
-class EveryDay : public PhaseCalendar, public testing::WithParamInterface<const char*> {};
-
-TEST_P(EveryDay, KeepsLitFractionPhaseAndAgeInTheirRanges) {
-  const GeoLocationData place = placeInZone(GetParam());
-  std::int64_t age = 33;
-  for (std::int64_t year = 2000; year <= 2040; ++year) {
-    const YearTable table = shippedTable(year);
-    for (std::int64_t month = 0; month < 12; ++month) {
-      for (const auto& [day, item] : calendarOf(table, month, year, place)) {
-        const std::string date =
-            std::to_string(year) + "-" + std::to_string(month + 1) + "-" + std::to_string(day);
-        ASSERT_GE(item->fullFactor, 0.0F) << date;
-        ASSERT_LE(item->fullFactor, 1.0F) << date;
-        ASSERT_GE(item->phase, kFullMoon) << date;
-        ASSERT_LE(item->phase, kWaningCrescent) << date;
-        ASSERT_EQ(item->localDate.has_value(), item->phase <= kNewMoon) << date;
-        const bool newMoonBeforeTheTables = year == 2000 && month == 0;
-        ASSERT_EQ(item->moonAge, item->phase == kNewMoon ? 1 : age + 1) << date;
-        ASSERT_TRUE(newMoonBeforeTheTables || item->moonAge <= 31) << date;
-        age = item->moonAge;
+class EveryDay : public PhaseCalendar, public testing::WithParamInterface<const char*> {
+ protected:
+  /// Calls `check(calendar)` for every month.
+  template <typename Check>
+  static void forEveryMonth(const Check& check) {
+    const GeoLocationData place = placeInZone(GetParam());
+    for (std::int64_t year = 2000; year <= 2040; ++year) {
+      const YearTable table = shippedTable(year);
+      for (std::int64_t month = 0; month < 12; ++month) {
+        SCOPED_TRACE(std::to_string(year) + "-" + std::to_string(month + 1));
+        check(calendarOf(table, month, year, place));
       }
     }
   }
+};
+
+TEST_P(EveryDay, KeepsLitFractionAndPhaseInTheirRanges) {
+  forEveryMonth([](const MoonPhaseCalc::PhaseCalendar& calendar) {
+    for (const auto& [day, item] : calendar) {
+      ASSERT_GE(item->fullFactor, 0.0F) << day;
+      ASSERT_LE(item->fullFactor, 1.0F) << day;
+      ASSERT_GE(item->phase, kFullMoon) << day;
+      ASSERT_LE(item->phase, kWaningCrescent) << day;
+      ASSERT_EQ(item->localDate.has_value(), item->phase <= kNewMoon) << day;
+    }
+  });
+}
+
+TEST_P(EveryDay, CountsTheAgeOnFromDayToDayAndFromOneOnANewMoon) {
+  std::int64_t age = 0;
+  std::int64_t previousLength = 31;
+  bool previousMonthHasNewMoon = false;
+  forEveryMonth([&](const MoonPhaseCalc::PhaseCalendar& calendar) {
+    if (!previousMonthHasNewMoon) age = previousLength + 2;
+    previousMonthHasNewMoon = false;
+    for (const auto& [day, item] : calendar) {
+      const bool isNewMoon = item->phase == kNewMoon;
+      ASSERT_EQ(item->moonAge, isNewMoon ? 1 : age + 1) << day;
+      age = item->moonAge;
+      previousMonthHasNewMoon = previousMonthHasNewMoon || isNewMoon;
+    }
+    previousLength = static_cast<std::int64_t>(calendar.size());
+  });
 }
 
 INSTANTIATE_TEST_SUITE_P(Zones, EveryDay,

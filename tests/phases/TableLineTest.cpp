@@ -61,12 +61,10 @@ TEST(TableLine, FewerThanThreeFieldsGiveNone) {
 }
 
 TEST(TableLine, WhatNamesNoMomentOfTheMonthGivesNone) {
-  for (const char* line :
-       {"0 07:00 FM",    "32 07:00 FM",      "-1 07:00 FM",  "+1 07:00 FM", "025 07:00 FM",
-        "x 07:00 FM",    " 25 07:00 FM",     "25. 07:00 FM", "25 24:00 FM", "25 07:60 FM",
-        "25 0700 FM",    "25 07: FM",        "25 :00 FM",    "25 : FM",     "25 07:00:00 FM",
-        "25 007:00 FM",  "25 07:000 FM",     "25 7h00 FM",   "25 -7:00 FM", "\xD9\xA2\xD9\xA5 07:00 FM",
-        "\t25 07:00 FM", "25\t07:00\tFM x y"}) {
+  for (const char* line : {"0 07:00 FM", "32 07:00 FM", "-1 07:00 FM", "+1 07:00 FM", "x 07:00 FM",
+                           " 25 07:00 FM", "25. 07:00 FM", "25 24:00 FM", "25 07:60 FM", "25 0700 FM",
+                           "25 07: FM", "25 :00 FM", "25 : FM", "25 07:00:00 FM", "25 7h00 FM", "25 -7:00 FM",
+                           "\xD9\xA2\xD9\xA5 07:00 FM", "\t25 07:00 FM", "25\t07:00\tFM x y"}) {
     EXPECT_FALSE(readTableLine(line, 2024, 3)) << line;
   }
   EXPECT_FALSE(readTableLine("31 07:00 FM", 2024, 4));
@@ -83,9 +81,9 @@ TEST(TableLine, AMonthOrYearThatIsNoneGivesNone) {
   }
 }
 
-TEST(TableLine, NumbersOfOneDigitAreRead) {
+TEST(TableLine, NumbersMayHaveFewerOrMoreDigitsThanTwo) {
   EXPECT_EQ(readTableLine("5 7:3 FM", 2024, 3)->instant, utc(2024, 3, 5, 7, 3));
-  EXPECT_EQ(readTableLine("05 07:03 FM", 2024, 3)->instant, utc(2024, 3, 5, 7, 3));
+  EXPECT_EQ(readTableLine("005 007:003 FM", 2024, 3)->instant, utc(2024, 3, 5, 7, 3));
 }
 
 TEST(TableLine, IsReadAsADateFormatterReadsYearMonthDayAndTime) {

@@ -40,26 +40,26 @@ std::optional<std::array<std::string_view, kFieldCount>> splitAtBlanks(std::stri
   return fields;
 }
 
-/// A number of one or two digits and nothing else.
-std::optional<unsigned> shortNumber(std::string_view text) {
-  unsigned number = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-  if (error != std::errc() || end != text.data() + text.size() || text.size() > 2) return std::nullopt;
-  return number;
+/// A number of digits alone.
+std::optional<unsigned> number(std::string_view text) {
+  unsigned value = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+  if (error != std::errc() || end != text.data() + text.size()) return std::nullopt;
+  return value;
 }
 
 /// The time since midnight of a text "HH:mm".
 std::optional<std::chrono::minutes> timeOfDay(std::string_view text) {
   const std::size_t colon = std::min(text.find(':'), text.size());
-  const std::optional<unsigned> hour = shortNumber(text.substr(0, colon));
-  const std::optional<unsigned> minute = shortNumber(text.substr(std::min(colon + 1, text.size())));
+  const std::optional<unsigned> hour = number(text.substr(0, colon));
+  const std::optional<unsigned> minute = number(text.substr(std::min(colon + 1, text.size())));
   if (!hour || !minute || *hour > 23 || *minute > 59) return std::nullopt;
   return std::chrono::hours(*hour) + std::chrono::minutes(*minute);
 }
 
 std::optional<std::chrono::sys_days> dateInMonth(std::string_view dayText, std::int64_t year,
                                                  std::int64_t month) {
-  const std::optional<unsigned> day = shortNumber(dayText);
+  const std::optional<unsigned> day = number(dayText);
   if (!day || year < 1 || year > kLastYear || month < 1 || month > 12) return std::nullopt;
   const std::chrono::year_month_day date{std::chrono::year(static_cast<int>(year)),
                                          std::chrono::month(static_cast<unsigned>(month)),
