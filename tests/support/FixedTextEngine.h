@@ -11,7 +11,7 @@ class FixedTextEngine final : public TextEngine {
  public:
   TextMetrics measure(const AttributedText& text) override;
   std::vector<Rect> glyphBoxes(const AttributedText& text) override;
-  std::string uncoveredCharacters(const AttributedText&) override { return {}; }
+  std::set<std::string> uncoveredCharacters(const AttributedText&) override { return {}; }
 };
 
 }  // namespace velmora::testing

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -30,7 +31,7 @@ class TextEngine {
 
   /// The characters of the text that no installed face has a glyph for, each once; empty when all are
   /// covered.
-  virtual std::string uncoveredCharacters(const AttributedText& text) = 0;
+  virtual std::set<std::string> uncoveredCharacters(const AttributedText& text) = 0;
 
   /// The process's engine: the one last set, else the drawing library's.
   static TextEngine& current();

@@ -39,18 +39,13 @@ class Collector {
     const Point origin = {_x + pango_units_to_double(glyph.geometry.x_offset),
                           pango_units_to_double(glyph.geometry.y_offset)};
     if ((glyph.glyph & PANGO_GLYPH_UNKNOWN_FLAG) != 0) {
-      noteUncovered(byte);
+      line.uncovered.emplace(characterAt(_text, byte));
       line.glyphs.push_back({missingGlyph, face, origin, _x, advance, byte});
     } else if (glyph.glyph != PANGO_GLYPH_EMPTY) {
       line.glyphs.push_back({glyph.glyph, face, origin, _x, advance, byte});
     }
     _x += advance;
     line.metrics.width = _x;
-  }
-
-  void noteUncovered(std::size_t byte) {
-    const std::string_view character = characterAt(_text, byte);
-    if (line.uncovered.find(character) == std::string::npos) line.uncovered += character;
   }
 
   std::string_view _text;

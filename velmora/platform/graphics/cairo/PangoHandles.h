@@ -7,6 +7,7 @@
 namespace velmora {
 
 struct PangoDeleter {
+  void operator()(char* text) const { g_free(text); }
   void operator()(PangoFontDescription* description) const { pango_font_description_free(description); }
   void operator()(PangoAttrList* attributes) const { pango_attr_list_unref(attributes); }
   void operator()(PangoLayoutIter* iterator) const { pango_layout_iter_free(iterator); }

@@ -2,10 +2,12 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <string_view>
 #include <utility>
 
 #include <velmora/platform/graphics/cairo/LineReader.h>
+#include <velmora/platform/time/Locale.h>
 
 namespace velmora {
 namespace {
@@ -14,8 +16,24 @@ namespace {
 constexpr std::array<std::string_view, 3> systemFamilies = {"System", "AvenirNext", "Helvetica"};
 
 constexpr std::string_view systemFace = "Inter";
-constexpr std::string_view scriptFaces =
-    ",Noto Sans,Noto Sans Hebrew,Noto Sans Arabic,Noto Sans Devanagari,Noto Sans CJK SC";
+constexpr std::string_view scriptFaces = ",Noto Sans,Noto Sans Hebrew,Noto Sans Arabic,Noto Sans Devanagari";
+
+/// Han characters look different in each language that uses them.
+std::string hanFace(const Locale& locale) {
+  const std::string language = locale.languageCode();
+  if (language == "ja") return ",Noto Sans CJK JP";
+  if (language == "ko") return ",Noto Sans CJK KR";
+  const bool isTraditional = locale.identifier().find("Hant") != std::string::npos ||
+                             locale.identifier().find("TW") != std::string::npos ||
+                             locale.identifier().find("HK") != std::string::npos;
+  return isTraditional ? ",Noto Sans CJK TC" : ",Noto Sans CJK SC";
+}
+
+/// The size in Pango's units; what is no size is 0.
+int sizeInUnits(const Font& font) {
+  constexpr double largest = 10000;
+  return font.size > 0 ? static_cast<int>(std::lround(std::min(font.size, largest) * PANGO_SCALE)) : 0;
+}
 
 PangoHandle<PangoFontDescription> description(const Font& font, const std::string& fallbackFamilies) {
   const bool isSystem =
@@ -24,8 +42,7 @@ PangoHandle<PangoFontDescription> description(const Font& font, const std::strin
   PangoHandle<PangoFontDescription> description(pango_font_description_new());
   pango_font_description_set_family(description.get(), families.c_str());
   pango_font_description_set_weight(description.get(), static_cast<PangoWeight>(font.weight));
-  pango_font_description_set_absolute_size(description.get(),
-                                           std::clamp(font.size, 0.0, 10000.0) * PANGO_SCALE);
+  pango_font_description_set_absolute_size(description.get(), sizeInUnits(font));
   return description;
 }
 
@@ -38,7 +55,7 @@ CairoFontOptions unhintedOptions() {
 }
 
 std::string key(const Font& font) {
-  return font.family + '\n' + std::to_string(font.size) + '\n' +
+  return font.family + '\n' + std::to_string(sizeInUnits(font)) + '\n' +
          std::to_string(static_cast<int>(font.weight));
 }
 
@@ -61,14 +78,25 @@ PangoTextEngine& PangoTextEngine::shared() {
 
 PangoTextEngine::PangoTextEngine()
     : _map(pango_cairo_font_map_new_for_font_type(CAIRO_FONT_TYPE_FT)),
-      _context(pango_font_map_create_context(_map.get())),
-      _families(scriptFaces) {
+      _context(pango_font_map_create_context(_map.get())) {
   pango_cairo_context_set_font_options(_context.get(), unhintedOptions().get());
   pango_context_set_round_glyph_positions(_context.get(), false);
 }
 
+void PangoTextEngine::followLocale() {
+  const Locale locale = Locale::current();
+  if (locale.identifier() == _locale) return;
+  _locale = locale.identifier();
+  _families = std::string(scriptFaces) + hanFace(locale);
+  _lines.clear();
+  pango_context_set_language(_context.get(), pango_language_from_string(_locale.c_str()));
+  pango_context_set_base_dir(_context.get(),
+                             locale.isRightToLeft() ? PANGO_DIRECTION_WEAK_RTL : PANGO_DIRECTION_WEAK_LTR);
+}
+
 std::shared_ptr<const ShapedLine> PangoTextEngine::line(const AttributedText& text) {
   constexpr std::size_t mostLines = 2000;
+  followLocale();
   if (_lines.size() >= mostLines) _lines.clear();
   std::shared_ptr<const ShapedLine>& known = _lines[key(text)];
   if (!known) known = std::make_shared<const ShapedLine>(shape(text));
@@ -87,7 +115,9 @@ std::vector<Rect> PangoTextEngine::glyphBoxes(const AttributedText& text) {
 ShapedLine PangoTextEngine::shape(const AttributedText& text) {
   const PangoHandle<PangoLayout> layout(pango_layout_new(_context.get()));
   pango_layout_set_single_paragraph_mode(layout.get(), true);
-  pango_layout_set_text(layout.get(), text.text().data(), static_cast<int>(text.text().size()));
+  const PangoHandle<char> valid(
+      g_utf8_make_valid(text.text().data(), static_cast<gssize>(text.text().size())));
+  pango_layout_set_text(layout.get(), valid.get(), -1);
 
   Extent tallest = extent(text.paragraph().font);
   const PangoHandle<PangoAttrList> attributes(pango_attr_list_new());

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <set>
 #include <string>
 #include <unordered_map>
 
@@ -12,7 +13,7 @@ namespace velmora {
 
 /// Shapes text with Pango in installed faces. Hinting is off and nothing is rounded, so that a line has the
 /// same proportions at every scale and on every machine. The script of a text decides the face: Inter, else
-/// Noto's face for the script.
+/// Noto's face for the script. A text without letters takes its direction from the process's locale.
 class PangoTextEngine final : public TextEngine {
  public:
   /// The one that draws; made on the first call, to be used from one thread.
@@ -20,7 +21,9 @@ class PangoTextEngine final : public TextEngine {
 
   TextMetrics measure(const AttributedText& text) override { return line(text)->metrics; }
   std::vector<Rect> glyphBoxes(const AttributedText& text) override;
-  std::string uncoveredCharacters(const AttributedText& text) override { return line(text)->uncovered; }
+  std::set<std::string> uncoveredCharacters(const AttributedText& text) override {
+    return line(text)->uncovered;
+  }
 
   /// The shaped line, kept for the next time the same text is asked for.
   std::shared_ptr<const ShapedLine> line(const AttributedText& text);
@@ -32,11 +35,13 @@ class PangoTextEngine final : public TextEngine {
 
   PangoTextEngine();
 
+  void followLocale();
   ShapedLine shape(const AttributedText& text);
   Extent extent(const Font& font);
 
   PangoHandle<PangoFontMap> _map;
   PangoHandle<PangoContext> _context;
+  std::string _locale;
   std::string _families;
   std::unordered_map<std::string, std::shared_ptr<const ShapedLine>> _lines;
   std::unordered_map<std::string, Extent> _extents;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -21,8 +22,8 @@ struct ShapedLine {
   };
 
   TextMetrics metrics;
-  std::vector<Glyph> glyphs;  ///< in reading order
-  std::string uncovered;      ///< the characters without a glyph, each once
+  std::vector<Glyph> glyphs;        ///< in reading order
+  std::set<std::string> uncovered;  ///< the characters without a glyph
   std::vector<CairoScaledFont> faces;
 };
 

@@ -1,0 +1,277 @@
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <cmath>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include <velmora/platform/graphics/TextLayout.h>
+#include <velmora/platform/graphics/cairo/CairoCanvas.h>
+#include <velmora/platform/resources/Image.h>
+
+namespace velmora {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string written(CairoCanvas& canvas) {
+  std::ostringstream output;
+  const auto failure = canvas.write(output);
+  EXPECT_EQ(failure ? failure->message : "", "");
+  return output.str();
+}
+
+std::shared_ptr<const Image> decoded(const std::string& png) { return Image::fromBytes("picture", png); }
+
+std::string contents(const fs::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+/// The crescent as every view draws it.
+void drawCrescent(Canvas& canvas, Rect disc, const Color& dark) {
+  canvas.save();
+  canvas.setLineWidth(2);
+  canvas.clip(Path::ellipse(disc));
+  canvas.setFillColor(Color::white());
+  canvas.fillEllipse(disc);
+  canvas.setBlendMode(BlendMode::clear);
+  canvas.setFillColor(Color::clear());
+  const Rect hidden = {disc.x, disc.y, disc.width * 0.7, disc.height};
+  canvas.fillEllipse(hidden);
+  canvas.setBlendMode(BlendMode::normal);
+  canvas.setFillColor(dark);
+  canvas.fillEllipse(hidden);
+  canvas.setStrokeColor(Color::white());
+  canvas.strokeEllipse(disc);
+  canvas.restore();
+}
+
+std::string crescents(PictureFormat format, const Color& dark) {
+  CairoCanvas canvas(format, {100, 50});
+  for (const double left : {0.0, 50.0}) {
+    canvas.beginGroup(1);
+    canvas.clearRect({left, 0, 50, 50});
+    drawCrescent(canvas, {left + 5, 5, 40, 40}, dark);
+    canvas.endGroup();
+  }
+  return written(canvas);
+}
+
+bool contains(const std::string& text, const std::string& part) {
+  return text.find(part) != std::string::npos;
+}
+
+class PictureFile : public ::testing::Test {
+ protected:
+  PictureFile() { fs::create_directories(_folder); }
+  ~PictureFile() override { fs::remove_all(_folder); }
+
+  std::size_t fileCount() const {
+    return static_cast<std::size_t>(std::distance(fs::directory_iterator(_folder), fs::directory_iterator()));
+  }
+
+  const fs::path _folder = fs::temp_directory_path() / ("velmora-pictures-" + std::to_string(::getpid()));
+  CairoCanvas canvas{PictureFormat::png, {8, 8}};
+};
+
+TEST(Picture, APngHasItsSizeTimesTheScale) {
+  for (const auto& [scale, side] : {std::pair{1.0, 10}, {2.0, 20}, {3.0, 30}, {0.5, 5}, {1.25, 13}}) {
+    CairoCanvas canvas(PictureFormat::png, {10, 10}, scale);
+    canvas.fillRect({0, 0, 10, 10});
+    const auto image = decoded(written(canvas));
+    ASSERT_NE(image, nullptr);
+    EXPECT_EQ(image->pixelSize(), (PixelSize{side, side})) << scale;
+  }
+}
+
+TEST(Picture, TheBackgroundLiesUnderEverythingAndCannotBeCleared) {
+  CairoCanvas canvas(PictureFormat::png, {2, 1}, 1, Color{0, 0, 1, 1});
+  canvas.setFillColor({1, 0, 0, 1});
+  canvas.fillRect({0, 0, 2, 1});
+  canvas.clearRect({1, 0, 1, 1});
+  const auto image = decoded(written(canvas));
+  EXPECT_EQ(image->pixels(), (PixelBytes{255, 0, 0, 255, 0, 0, 255, 255}));
+}
+
+TEST(Picture, WhatIsStillOpenIsEnded) {
+  CairoCanvas canvas(PictureFormat::png, {1, 1});
+  canvas.save();
+  canvas.beginGroup(0.5);
+  canvas.save();
+  canvas.fillRect({0, 0, 1, 1});
+  EXPECT_EQ(decoded(written(canvas))->pixels(), (PixelBytes{0, 0, 0, 128}));
+}
+
+TEST(Picture, ACrescentStaysVectorInSvg) {
+  const std::string svg = crescents(PictureFormat::svg, {0.05, 0.05, 0.1, 1});
+  EXPECT_TRUE(contains(svg, "<svg"));
+  EXPECT_TRUE(contains(svg, "<path"));
+  EXPECT_FALSE(contains(svg, "<image"));
+  EXPECT_TRUE(contains(svg, "width=\"100px\""));
+}
+
+TEST(Picture, ACrescentStaysVectorInPdf) {
+  const std::string pdf = crescents(PictureFormat::pdf, {0.05, 0.05, 0.1, 1});
+  EXPECT_EQ(pdf.substr(0, 4), "%PDF");
+  EXPECT_FALSE(contains(pdf, "/Subtype /Image"));
+}
+
+TEST(Picture, AHoleFilledWithATranslucentColourShowsThroughInSvg) {
+  const std::string svg = crescents(PictureFormat::svg, {0.05, 0.05, 0.1, 0.3});
+  EXPECT_TRUE(contains(svg, "<image"));
+}
+
+TEST(Picture, ClearingWhatIsStillBlankLeavesNoTraceInSvg) {
+  CairoCanvas canvas(PictureFormat::svg, {100, 50}, 1, Color::black());
+  canvas.fillRect({0, 0, 40, 50});
+  canvas.beginGroup(0.5);
+  canvas.clearRect({0, 0, 100, 50});
+  canvas.fillRect({60, 0, 40, 50});
+  canvas.clearRect({0, 0, 55, 50});
+  canvas.endGroup();
+  EXPECT_FALSE(contains(written(canvas), "<image"));
+}
+
+TEST(Picture, TextIsVectorInSvgAndPdf) {
+  for (const PictureFormat format : {PictureFormat::svg, PictureFormat::pdf}) {
+    CairoCanvas canvas(format, {100, 50});
+    TextLayout(AttributedText("14 Mar")).drawAtPoint(canvas, {10, 10});
+    const std::string picture = written(canvas);
+    EXPECT_FALSE(contains(picture, "<image"));
+    EXPECT_FALSE(contains(picture, "/Subtype /Image"));
+    EXPECT_TRUE(contains(picture, format == PictureFormat::svg ? "<symbol" : "/Font"));
+  }
+}
+
+TEST(Picture, OnePixelIsAPicture) {
+  for (const PictureFormat format : {PictureFormat::png, PictureFormat::svg, PictureFormat::pdf}) {
+    CairoCanvas canvas(format, {1, 1});
+    drawCrescent(canvas, {0, 0, 1, 1}, Color::black());
+    EXPECT_GT(written(canvas).size(), 50U);
+  }
+}
+
+TEST(Picture, TheLongestSideIs16384Pixels) {
+  for (const Size size : {Size{16384, 1}, {1, 16384}}) {
+    CairoCanvas canvas(PictureFormat::png, size);
+    EXPECT_EQ(canvas.error(), std::nullopt);
+    EXPECT_FALSE(written(canvas).empty());
+  }
+}
+
+TEST(Picture, ASideOutsideTheLimitsIsAnError) {
+  struct Case {
+    Size size;
+    double scale;
+  };
+  for (const Case& c : {Case{{0, 10}, 1},
+                        {{10, 0.4}, 1},
+                        {{16385, 1}, 1},
+                        {{8193, 1}, 2},
+                        {{-5, 5}, 1},
+                        {{10, 10}, 0},
+                        {{10, 10}, -1},
+                        {{-10, -10}, -1},
+                        {{std::nan(""), 10}, 1},
+                        {{10, 10}, INFINITY},
+                        {{1e300, 1}, 1}}) {
+    CairoCanvas canvas(PictureFormat::png, c.size, c.scale);
+    drawCrescent(canvas, {0, 0, 10, 10}, Color::black());
+    canvas.beginGroup(0.5);
+    TextLayout(AttributedText("14")).drawAtPoint(canvas, {0, 0});
+    canvas.endGroup();
+    std::ostringstream output;
+    const auto failure = canvas.write(output);
+    ASSERT_TRUE(failure) << c.size.width;
+    EXPECT_EQ(failure->kind, PictureError::Kind::size);
+    EXPECT_EQ(failure->message.substr(0, 46),
+              "a picture has 1 to 16384 pixels a side, not " + failure->message.substr(44, 2));
+    EXPECT_TRUE(output.str().empty());
+    EXPECT_TRUE(canvas.pixels().empty());
+  }
+}
+
+TEST(Picture, TheScaleDoesNotLimitVectorPictures) {
+  CairoCanvas canvas(PictureFormat::svg, {10000, 10}, 3);
+  EXPECT_EQ(canvas.error(), std::nullopt);
+  CairoCanvas tooLarge(PictureFormat::pdf, {16385, 10});
+  ASSERT_TRUE(tooLarge.error());
+  EXPECT_EQ(tooLarge.error()->message, "a picture has 1 to 16384 points a side, not 16385 x 10");
+}
+
+TEST(Picture, AStreamThatFailsIsAnError) {
+  for (const PictureFormat format : {PictureFormat::png, PictureFormat::svg, PictureFormat::pdf}) {
+    CairoCanvas canvas(format, {10, 10});
+    std::ostringstream output;
+    output.setstate(std::ios::badbit);
+    const auto failure = canvas.write(output);
+    ASSERT_TRUE(failure);
+    EXPECT_EQ(failure->kind, PictureError::Kind::output);
+  }
+}
+
+TEST_F(PictureFile, IsWrittenWhole) {
+  const fs::path path = _folder / "moon.png";
+  EXPECT_EQ(canvas.writeFile(path), std::nullopt);
+  EXPECT_EQ(decoded(contents(path))->pixelSize(), (PixelSize{8, 8}));
+  EXPECT_EQ(fileCount(), 1U);
+}
+
+TEST_F(PictureFile, ReplacesAFormerOneAndKeepsItsPermissions) {
+  const fs::path path = _folder / "moon.png";
+  std::ofstream(path) << "former";
+  fs::permissions(path, fs::perms::owner_read | fs::perms::owner_write);
+  EXPECT_EQ(canvas.writeFile(path), std::nullopt);
+  EXPECT_NE(contents(path), "former");
+  EXPECT_EQ(fs::status(path).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+}
+
+TEST_F(PictureFile, ReplacesWhatALinkPointsAt) {
+  std::ofstream(_folder / "moon.png") << "former";
+  fs::create_symlink(_folder / "moon.png", _folder / "link.png");
+  EXPECT_EQ(canvas.writeFile(_folder / "link.png"), std::nullopt);
+  EXPECT_TRUE(fs::is_symlink(_folder / "link.png"));
+  EXPECT_NE(contents(_folder / "moon.png"), "former");
+}
+
+TEST_F(PictureFile, AFormerOneStaysWholeWhenDrawingFailed) {
+  const fs::path path = _folder / "moon.png";
+  std::ofstream(path) << "former";
+  CairoCanvas tooLarge(PictureFormat::png, {20000, 10});
+  ASSERT_TRUE(tooLarge.writeFile(path));
+  EXPECT_EQ(contents(path), "former");
+  EXPECT_EQ(fileCount(), 1U);
+}
+
+TEST_F(PictureFile, AMissingFolderIsAnErrorThatSaysSo) {
+  const fs::path path = _folder / "none" / "moon.png";
+  const auto failure = canvas.writeFile(path);
+  ASSERT_TRUE(failure);
+  EXPECT_EQ(failure->kind, PictureError::Kind::output);
+  EXPECT_EQ(failure->message, "cannot write '" + path.string() + "': No such file or directory");
+}
+
+TEST_F(PictureFile, AFolderInItsPlaceIsAnError) {
+  const auto failure = canvas.writeFile(_folder);
+  ASSERT_TRUE(failure);
+  EXPECT_EQ(failure->message, "cannot write '" + _folder.string() + "': Is a directory");
+  EXPECT_TRUE(fs::is_directory(_folder));
+}
+
+TEST_F(PictureFile, AFolderThatCannotBeWrittenToIsAnError) {
+  const auto failure = canvas.writeFile("/proc/moon.png");
+  ASSERT_TRUE(failure);
+  EXPECT_EQ(failure->kind, PictureError::Kind::output);
+}
+
+TEST_F(PictureFile, AFullDeviceIsAnErrorAndStaysADevice) {
+  const auto failure = canvas.writeFile("/dev/full");
+  ASSERT_TRUE(failure);
+  EXPECT_EQ(failure->message, "cannot write '/dev/full': No space left on device");
+  EXPECT_TRUE(fs::is_character_file("/dev/full"));
+}
+
+}  // namespace
+}  // namespace velmora

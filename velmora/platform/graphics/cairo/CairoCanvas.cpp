@@ -1,0 +1,155 @@
+#include <velmora/platform/graphics/cairo/CairoCanvas.h>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <numeric>
+#include <ostream>
+#include <utility>
+
+#include <velmora/platform/graphics/ReplacedFile.h>
+#include <velmora/platform/graphics/cairo/CairoDrawing.h>
+#include <velmora/platform/graphics/cairo/CairoEncoder.h>
+#include <velmora/platform/graphics/cairo/CairoImage.h>
+#include <velmora/platform/graphics/cairo/CairoPath.h>
+#include <velmora/platform/graphics/cairo/CairoText.h>
+#include <velmora/platform/graphics/cairo/PangoTextEngine.h>
+
+namespace velmora {
+namespace {
+
+PictureError drawingError(cairo_status_t status) {
+  const bool isOutput = status == CAIRO_STATUS_WRITE_ERROR;
+  return {isOutput ? PictureError::Kind::output : PictureError::Kind::drawing,
+          isOutput ? std::string("the picture cannot be written")
+                   : std::string("the picture cannot be drawn: ") + cairo_status_to_string(status)};
+}
+
+/// How far a line reaches beyond its path: half its width, and at corners as far as a miter may stand out.
+double reachOfLine(const Path& path, double lineWidth) {
+  constexpr double longestMiter = 10;
+  const bool hasCorners = path.elements().size() > 2;
+  return lineWidth / 2 * (hasCorners ? longestMiter : 1);
+}
+
+}  // namespace
+
+CairoCanvas::CairoCanvas(PictureFormat format, Size size, double scale, Color background)
+    : _drawing(std::make_unique<Drawing>(format, size, scale, background)) {}
+
+CairoCanvas::~CairoCanvas() = default;
+CairoCanvas::CairoCanvas(CairoCanvas&&) noexcept = default;
+CairoCanvas& CairoCanvas::operator=(CairoCanvas&&) noexcept = default;
+
+std::optional<PictureError> CairoCanvas::error() const {
+  if (_drawing->sizeError) return _drawing->sizeError;
+  const cairo_status_t status = cairo_status(_drawing->context());
+  if (status == CAIRO_STATUS_SUCCESS) return std::nullopt;
+  return drawingError(status);
+}
+
+std::optional<PictureError> CairoCanvas::write(std::ostream& output) {
+  _drawing->endAll();
+  if (const auto failure = error()) return failure;
+  const cairo_status_t status =
+      encode(_drawing->format, _drawing->surface(), _drawing->size, _drawing->background, output);
+  if (status == CAIRO_STATUS_SUCCESS && output.flush()) return std::nullopt;
+  return drawingError(status == CAIRO_STATUS_SUCCESS ? CAIRO_STATUS_WRITE_ERROR : status);
+}
+
+std::optional<PictureError> CairoCanvas::writeFile(const std::filesystem::path& path) {
+  if (const auto failure = error()) return failure;
+  std::optional<PictureError> failure;
+  const auto systemError = replaceFile(path, [&](std::ostream& file) {
+    failure = write(file);
+    return !failure;
+  });
+  if (failure && failure->kind != PictureError::Kind::output) return failure;
+  if (!systemError) return std::nullopt;
+  return PictureError{PictureError::Kind::output, "cannot write '" + path.string() + "': " + *systemError};
+}
+
+std::vector<std::uint8_t> CairoCanvas::pixels() const {
+  if (_drawing->format != PictureFormat::png || error()) return {};
+  return bytesOfSurface(_drawing->surface());
+}
+
+const std::set<std::string>& CairoCanvas::uncoveredCharacters() const { return _drawing->uncovered(); }
+
+void CairoCanvas::save() { _drawing->save(); }
+void CairoCanvas::restore() { _drawing->restore(); }
+void CairoCanvas::setStrokeColor(const Color& color) { _drawing->state().stroke = color; }
+void CairoCanvas::setFillColor(const Color& color) { _drawing->state().fill = color; }
+void CairoCanvas::setAlpha(double alpha) { _drawing->state().alpha = std::clamp(alpha, 0.0, 1.0); }
+void CairoCanvas::setBlendMode(BlendMode mode) { _drawing->state().blendMode = mode; }
+
+void CairoCanvas::setLineWidth(double width) {
+  if (std::isfinite(width)) cairo_set_line_width(_drawing->context(), std::abs(width));
+}
+
+void CairoCanvas::setLineDash(const std::vector<double>& lengths, double phase) {
+  const bool isValid =
+      std::isfinite(phase) &&
+      std::all_of(lengths.begin(), lengths.end(), [](double length) { return length >= 0; }) &&
+      std::accumulate(lengths.begin(), lengths.end(), 0.0) > 0;
+  cairo_set_dash(_drawing->context(), lengths.data(), isValid ? static_cast<int>(lengths.size()) : 0, phase);
+}
+
+void CairoCanvas::translate(double dx, double dy) {
+  _drawing->transform(AffineTransform::translation(dx, dy));
+}
+void CairoCanvas::rotate(double angle) { _drawing->transform(AffineTransform::rotation(angle)); }
+void CairoCanvas::scale(double sx, double sy) { _drawing->transform(AffineTransform::scaling(sx, sy)); }
+void CairoCanvas::concat(const AffineTransform& transform) { _drawing->transform(transform); }
+
+void CairoCanvas::clip(const Path& path) { _drawing->clip(path); }
+void CairoCanvas::fill(const Path& path) { _drawing->fill(path); }
+void CairoCanvas::clearRect(Rect rect) { _drawing->clear(Path::rect(rect)); }
+
+void CairoCanvas::stroke(const Path& path) {
+  const auto box = path.boundingBox();
+  if (!_drawing->isReady() || !box) return;
+  cairo_t* context = _drawing->context();
+  _drawing->setPaint(_drawing->state().stroke);
+  setPath(context, path);
+  cairo_stroke(context);
+  const double reach = reachOfLine(path, cairo_get_line_width(context));
+  _drawing->notePaint(box->inset(-reach, -reach));
+}
+
+void CairoCanvas::drawImage(const Image& image, Rect rect) {
+  const Rect box = rect.standardised();
+  if (!_drawing->isReady() || box.isEmpty()) return;
+  cairo_t* context = _drawing->context();
+  cairo_save(context);
+  _drawing->setPaint(Color::black());
+  paintImage(context, image, box, _drawing->state().alpha);
+  cairo_restore(context);
+  _drawing->notePaint(box);
+}
+
+void CairoCanvas::drawText(const AttributedText& text, Point topLeft) {
+  drawGlyphRange(text, 0, std::string::npos, topLeft);
+}
+
+void CairoCanvas::drawGlyph(const AttributedText& text, std::size_t glyph, Point topLeft) {
+  drawGlyphRange(text, glyph, glyph + 1, topLeft);
+}
+
+void CairoCanvas::drawGlyphRange(const AttributedText& text, std::size_t first, std::size_t end,
+                                 Point topLeft) {
+  if (!_drawing->isReady()) return;
+  const auto line = PangoTextEngine::shared().line(text);
+  const GlyphStyle style =
+      _drawing->format == PictureFormat::png ? GlyphStyle::outlines : GlyphStyle::characters;
+  drawGlyphs(_drawing->context(), style, *line, text, first, std::min(end, line->glyphs.size()), topLeft,
+             [this](const Color& color) { _drawing->setPaint(color); });
+  const double height = line->metrics.ascent + line->metrics.descent;
+  _drawing->notePaint(Rect{topLeft.x, topLeft.y, line->metrics.width, height}.inset(-height, -height));
+  _drawing->noteUncovered(line->uncovered);
+}
+
+void CairoCanvas::beginGroup(double alpha) { _drawing->beginGroup(alpha); }
+void CairoCanvas::endGroup() { _drawing->endGroup(); }
+
+}  // namespace velmora

@@ -1,0 +1,92 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <iosfwd>
+#include <memory>
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+#include <velmora/platform/graphics/Canvas.h>
+
+namespace velmora {
+
+enum class PictureFormat { png, svg, pdf };
+
+/// What went wrong with a picture, in words for people.
+struct PictureError {
+  enum class Kind {
+    size,     ///< a side outside 1 to 16384 pixels
+    drawing,  ///< the drawing library failed, out of memory included
+    output,   ///< the file or stream could not be written
+  };
+  Kind kind;
+  std::string message;
+};
+
+/// A picture of a size in points. A PNG has `scale` pixels a point; SVG and PDF have one unit a point and
+/// stay vectors, but for images, overlay and holes cleared in what is already drawn: clearing what is still
+/// blank, or what the same path then fills with an opaque colour, leaves no trace in them.
+///
+/// Nothing here throws or ends the process: after an error drawing has no effect, and error() and the write
+/// operations report it.
+class CairoCanvas final : public Canvas {
+ public:
+  static constexpr std::int64_t maximumSide = 16384;  ///< pixels, for SVG and PDF points
+
+  /// The background lies under everything and cannot be cleared.
+  CairoCanvas(PictureFormat format, Size size, double scale = 1, Color background = Color::clear());
+  ~CairoCanvas() override;
+  CairoCanvas(CairoCanvas&&) noexcept;
+  CairoCanvas& operator=(CairoCanvas&&) noexcept;
+
+  /// The first error so far; none while all is well.
+  std::optional<PictureError> error() const;
+
+  /// Ends the picture, saves and groups left open included, and writes it. Draw nothing afterwards.
+  std::optional<PictureError> write(std::ostream& output);
+
+  /// The same into a file, which is replaced in one step when the whole picture is written; on an error a
+  /// file that was there stays as it was.
+  std::optional<PictureError> writeFile(const std::filesystem::path& path);
+
+  /// The pixels of a PNG drawn so far, without the background and the open groups: rows from the top, in each
+  /// red, green, blue, alpha of 8 bits, premultiplied. Empty for other formats and after an error.
+  std::vector<std::uint8_t> pixels() const;
+
+  /// The characters drawn so far for which no installed face has a glyph.
+  const std::set<std::string>& uncoveredCharacters() const;
+
+  void save() override;
+  void restore() override;
+  void setStrokeColor(const Color& color) override;
+  void setFillColor(const Color& color) override;
+  void setLineWidth(double width) override;
+  void setLineDash(const std::vector<double>& lengths, double phase = 0) override;
+  void setAlpha(double alpha) override;
+  void setBlendMode(BlendMode mode) override;
+  void translate(double dx, double dy) override;
+  void rotate(double angle) override;
+  void scale(double sx, double sy) override;
+  void concat(const AffineTransform& transform) override;
+  void clip(const Path& path) override;
+  void fill(const Path& path) override;
+  void stroke(const Path& path) override;
+  void clearRect(Rect rect) override;
+  void drawImage(const Image& image, Rect rect) override;
+  void drawText(const AttributedText& text, Point topLeft) override;
+  void drawGlyph(const AttributedText& text, std::size_t glyph, Point topLeft) override;
+  void beginGroup(double alpha) override;
+  void endGroup() override;
+
+ private:
+  class Drawing;
+
+  void drawGlyphRange(const AttributedText& text, std::size_t first, std::size_t end, Point topLeft);
+
+  std::unique_ptr<Drawing> _drawing;
+};
+
+}  // namespace velmora

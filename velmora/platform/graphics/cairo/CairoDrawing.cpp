@@ -1,0 +1,196 @@
+#include <velmora/platform/graphics/cairo/CairoDrawing.h>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include <velmora/platform/graphics/cairo/CairoEncoder.h>
+#include <velmora/platform/graphics/cairo/CairoPath.h>
+#include <velmora/platform/time/NumberText.h>
+
+namespace velmora {
+namespace {
+
+/// The sides in what the limits count: pixels of a PNG, else points.
+Size limitedSize(PictureFormat format, Size size, double scale) {
+  if (format != PictureFormat::png) return size;
+  return {size.width * scale, size.height * scale};
+}
+
+std::optional<PictureError> checkedSize(PictureFormat format, Size size, double scale) {
+  const Size sides = limitedSize(format, size, scale);
+  const auto isAllowed = [](double side) {
+    return side >= 0.5 && side < static_cast<double>(CairoCanvas::maximumSide) + 0.5;
+  };
+  if (scale > 0 && isAllowed(sides.width) && isAllowed(sides.height)) return std::nullopt;
+  const std::string unit = format == PictureFormat::png ? " pixels" : " points";
+  return PictureError{PictureError::Kind::size,
+                      "a picture has 1 to " + integerText(CairoCanvas::maximumSide) + unit + " a side, not " +
+                          decimalText(sides.width, 0) + " x " + decimalText(sides.height, 0)};
+}
+
+/// A surface that Cairo refuses, so that drawing on it has no effect.
+CairoSurface refusedSurface() {
+  return CairoSurface(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, -1, -1));
+}
+
+cairo_operator_t cairoOperator(BlendMode mode) {
+  switch (mode) {
+    case BlendMode::overlay:
+      return CAIRO_OPERATOR_OVERLAY;
+    case BlendMode::clear:
+      return CAIRO_OPERATOR_CLEAR;
+    default:
+      return CAIRO_OPERATOR_OVER;
+  }
+}
+
+bool overlap(const Rect& a, const Rect& b) {
+  return a.minX() < b.maxX() && b.minX() < a.maxX() && a.minY() < b.maxY() && b.minY() < a.maxY();
+}
+
+}  // namespace
+
+CairoCanvas::Drawing::Drawing(PictureFormat pictureFormat, Size pictureSize, double scale,
+                              Color pictureBackground)
+    : format(pictureFormat),
+      size(pictureSize),
+      background(pictureBackground),
+      sizeError(checkedSize(format, size, scale)),
+      _surface(sizeError ? refusedSurface() : makeSurface(format, size, scale)),
+      _context(cairo_create(_surface.get())) {
+  cairo_set_line_width(context(), 1);
+  if (format == PictureFormat::png) cairo_scale(context(), scale, scale);
+}
+
+void CairoCanvas::Drawing::save() {
+  cairo_save(context());
+  _states.push_back(state());
+  state().kind = State::Kind::save;
+}
+
+void CairoCanvas::Drawing::restore() {
+  if (state().kind == State::Kind::save) popState();
+}
+
+void CairoCanvas::Drawing::beginGroup(double alpha) {
+  finishPendingClear();
+  State inside = state();
+  inside.kind = State::Kind::group;
+  inside.alpha = 1;
+  inside.blendMode = BlendMode::normal;
+  inside.layer.reset();
+  const bool canDrawThrough = alpha == 1 && _layers.back().empty();
+  if (canDrawThrough) {
+    cairo_save(context());
+  } else {
+    cairo_push_group(context());
+    _layers.emplace_back();
+    inside.layer = alpha;
+  }
+  _states.push_back(inside);
+}
+
+void CairoCanvas::Drawing::endGroup() {
+  const auto isGroup = [](const State& s) { return s.kind == State::Kind::group; };
+  if (std::none_of(_states.begin(), _states.end(), isGroup)) return;
+  while (!isGroup(state())) popState();
+  popState();
+}
+
+void CairoCanvas::Drawing::endAll() {
+  while (_states.size() > 1) popState();
+  finishPendingClear();
+}
+
+void CairoCanvas::Drawing::popState() {
+  finishPendingClear();
+  const std::optional<double> layer = state().kind == State::Kind::group ? state().layer : std::nullopt;
+  _states.pop_back();
+  if (!layer) return cairo_restore(context());
+
+  cairo_pop_group_to_source(context());
+  cairo_set_operator(context(), CAIRO_OPERATOR_OVER);
+  cairo_paint_with_alpha(context(), *layer);
+  const PaintedRects painted = std::move(_layers.back());
+  _layers.pop_back();
+  _layers.back().insert(_layers.back().end(), painted.begin(), painted.end());
+}
+
+void CairoCanvas::Drawing::transform(const AffineTransform& t) {
+  finishPendingClear();
+  const cairo_matrix_t step = {t.a, t.b, t.c, t.d, t.tx, t.ty};
+  cairo_matrix_t frame;
+  cairo_get_matrix(context(), &frame);
+  cairo_matrix_multiply(&frame, &step, &frame);
+  const double area = frame.xx * frame.yy - frame.xy * frame.yx;
+  if (std::isfinite(area) && area != 0 && std::isfinite(frame.x0) && std::isfinite(frame.y0)) {
+    cairo_set_matrix(context(), &frame);
+  } else {
+    state().isCollapsed = true;
+  }
+}
+
+void CairoCanvas::Drawing::clip(const Path& path) {
+  finishPendingClear();
+  setPath(context(), path);
+  cairo_clip(context());
+}
+
+void CairoCanvas::Drawing::fill(const Path& path) {
+  const State& s = state();
+  if (s.blendMode == BlendMode::clear) return clear(path);
+  const bool isOpaque = s.blendMode == BlendMode::normal && s.fill.alpha >= 1 && s.alpha >= 1;
+  if (isOpaque && _pendingClear == path) _pendingClear.reset();
+  if (!isReady()) return;
+  setPaint(s.fill);
+  setPath(context(), path);
+  cairo_fill(context());
+  if (const auto box = path.boundingBox()) notePaint(*box);
+}
+
+void CairoCanvas::Drawing::clear(const Path& path) {
+  const auto box = path.boundingBox();
+  if (!isReady() || !box || !isPainted(inPixels(*box))) return;
+  _pendingClear = path;
+  if (format == PictureFormat::png) finishPendingClear();
+}
+
+bool CairoCanvas::Drawing::isReady() {
+  finishPendingClear();
+  return !state().isCollapsed;
+}
+
+void CairoCanvas::Drawing::setPaint(const Color& color) {
+  cairo_set_source_rgba(context(), color.red, color.green, color.blue, color.alpha * state().alpha);
+  cairo_set_operator(context(), cairoOperator(state().blendMode));
+}
+
+Rect CairoCanvas::Drawing::inPixels(const Rect& rect) const {
+  Path corners;
+  const std::array<Point, 4> points = {{{rect.minX(), rect.minY()},
+                                        {rect.maxX(), rect.minY()},
+                                        {rect.maxX(), rect.maxY()},
+                                        {rect.minX(), rect.maxY()}}};
+  for (Point point : points) {
+    cairo_user_to_device(context(), &point.x, &point.y);
+    corners.moveTo(point);
+  }
+  return *corners.boundingBox();
+}
+
+bool CairoCanvas::Drawing::isPainted(const Rect& rect) const {
+  const PaintedRects& painted = _layers.back();
+  return std::any_of(painted.begin(), painted.end(),
+                     [&](const Rect& other) { return overlap(rect.inset(-1, -1), other); });
+}
+
+void CairoCanvas::Drawing::finishPendingClear() {
+  if (!_pendingClear) return;
+  cairo_set_operator(context(), CAIRO_OPERATOR_CLEAR);
+  setPath(context(), *_pendingClear);
+  cairo_fill(context());
+  _pendingClear.reset();
+}
+
+}  // namespace velmora

@@ -1,0 +1,77 @@
+#include <velmora/platform/graphics/cairo/CairoEncoder.h>
+
+#include <cairo-pdf.h>
+#include <cairo-svg.h>
+
+#include <cmath>
+#include <ostream>
+
+namespace velmora {
+namespace {
+
+cairo_status_t writeBytes(void* output, const unsigned char* bytes, unsigned int count) {
+  auto& stream = *static_cast<std::ostream*>(output);
+  stream.write(reinterpret_cast<const char*>(bytes), static_cast<std::streamsize>(count));
+  return stream ? CAIRO_STATUS_SUCCESS : CAIRO_STATUS_WRITE_ERROR;
+}
+
+void setSource(cairo_t* context, const Color& color) {
+  cairo_set_source_rgba(context, color.red, color.green, color.blue, color.alpha);
+}
+
+cairo_status_t encodePixels(cairo_surface_t* pixels, const Color& background, std::ostream& output) {
+  const CairoContext context(cairo_create(pixels));
+  if (background.alpha > 0) {
+    cairo_set_operator(context.get(), CAIRO_OPERATOR_DEST_OVER);
+    setSource(context.get(), background);
+    cairo_paint(context.get());
+  }
+  const cairo_status_t status = cairo_status(context.get());
+  return status != CAIRO_STATUS_SUCCESS ? status
+                                        : cairo_surface_write_to_png_stream(pixels, writeBytes, &output);
+}
+
+CairoSurface makePage(PictureFormat format, Size size, std::ostream& output) {
+  if (format == PictureFormat::pdf) {
+    return CairoSurface(cairo_pdf_surface_create_for_stream(writeBytes, &output, size.width, size.height));
+  }
+  CairoSurface page(cairo_svg_surface_create_for_stream(writeBytes, &output, size.width, size.height));
+  cairo_svg_surface_set_document_unit(page.get(), CAIRO_SVG_UNIT_PX);
+  return page;
+}
+
+cairo_status_t encodePage(PictureFormat format, cairo_surface_t* recorded, Size size, const Color& background,
+                          std::ostream& output) {
+  const CairoSurface page = makePage(format, size, output);
+  CairoContext context(cairo_create(page.get()));
+  if (background.alpha > 0) {
+    setSource(context.get(), background);
+    cairo_paint(context.get());
+  }
+  cairo_set_source_surface(context.get(), recorded, 0, 0);
+  cairo_paint(context.get());
+  const cairo_status_t status = cairo_status(context.get());
+  context.reset();
+  cairo_surface_finish(page.get());
+  return status != CAIRO_STATUS_SUCCESS ? status : cairo_surface_status(page.get());
+}
+
+}  // namespace
+
+CairoSurface makeSurface(PictureFormat format, Size size, double scale) {
+  if (format != PictureFormat::png) {
+    const cairo_rectangle_t extents = {0, 0, size.width, size.height};
+    return CairoSurface(cairo_recording_surface_create(CAIRO_CONTENT_COLOR_ALPHA, &extents));
+  }
+  return CairoSurface(cairo_image_surface_create(CAIRO_FORMAT_ARGB32,
+                                                 static_cast<int>(std::lround(size.width * scale)),
+                                                 static_cast<int>(std::lround(size.height * scale))));
+}
+
+cairo_status_t encode(PictureFormat format, cairo_surface_t* drawn, Size size, const Color& background,
+                      std::ostream& output) {
+  return format == PictureFormat::png ? encodePixels(drawn, background, output)
+                                      : encodePage(format, drawn, size, background, output);
+}
+
+}  // namespace velmora

@@ -1,0 +1,72 @@
+#include <velmora/platform/graphics/cairo/CairoImage.h>
+
+#include <cstring>
+
+#include <velmora/platform/graphics/cairo/CairoHandles.h>
+
+namespace velmora {
+namespace {
+
+/// Cairo keeps a pixel as one number of 32 bits: alpha in the highest byte, then red, green and blue.
+std::uint32_t packed(const std::uint8_t* rgba) {
+  return static_cast<std::uint32_t>(rgba[3]) << 24 | static_cast<std::uint32_t>(rgba[0]) << 16 |
+         static_cast<std::uint32_t>(rgba[1]) << 8 | rgba[2];
+}
+
+void unpack(std::uint32_t pixel, std::uint8_t* rgba) {
+  rgba[0] = static_cast<std::uint8_t>(pixel >> 16);
+  rgba[1] = static_cast<std::uint8_t>(pixel >> 8);
+  rgba[2] = static_cast<std::uint8_t>(pixel);
+  rgba[3] = static_cast<std::uint8_t>(pixel >> 24);
+}
+
+std::uint32_t* row(cairo_surface_t* surface, int y) {
+  unsigned char* const start = cairo_image_surface_get_data(surface);
+  return reinterpret_cast<std::uint32_t*>(start + static_cast<std::ptrdiff_t>(y) *
+                                                      cairo_image_surface_get_stride(surface));
+}
+
+/// The image as a surface; none if it is damaged.
+CairoSurface surfaceOf(const Image& image) {
+  const PixelBytes& pixels = image.pixels();
+  if (pixels.empty()) return nullptr;
+  const int width = static_cast<int>(image.pixelSize().width),
+            height = static_cast<int>(image.pixelSize().height);
+  CairoSurface surface(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, height));
+  if (cairo_surface_status(surface.get()) != CAIRO_STATUS_SUCCESS) return surface;
+  const std::uint8_t* pixel = pixels.data();
+  for (int y = 0; y < height; ++y) {
+    std::uint32_t* const target = row(surface.get(), y);
+    for (int x = 0; x < width; ++x, pixel += 4) target[x] = packed(pixel);
+  }
+  cairo_surface_mark_dirty(surface.get());
+  return surface;
+}
+
+}  // namespace
+
+void paintImage(cairo_t* context, const Image& image, const Rect& rect, double alpha) {
+  const CairoSurface surface = surfaceOf(image);
+  if (!surface) return;
+  cairo_rectangle(context, rect.x, rect.y, rect.width, rect.height);
+  cairo_clip(context);
+  cairo_translate(context, rect.x, rect.y);
+  cairo_scale(context, rect.width / static_cast<double>(image.pixelSize().width),
+              rect.height / static_cast<double>(image.pixelSize().height));
+  cairo_set_source_surface(context, surface.get(), 0, 0);
+  cairo_paint_with_alpha(context, alpha);
+}
+
+std::vector<std::uint8_t> bytesOfSurface(cairo_surface_t* surface) {
+  cairo_surface_flush(surface);
+  const int width = cairo_image_surface_get_width(surface), height = cairo_image_surface_get_height(surface);
+  std::vector<std::uint8_t> bytes(static_cast<std::size_t>(width) * static_cast<std::size_t>(height) * 4);
+  std::uint8_t* target = bytes.data();
+  for (int y = 0; y < height; ++y) {
+    const std::uint32_t* const source = row(surface, y);
+    for (int x = 0; x < width; ++x, target += 4) unpack(source[x], target);
+  }
+  return bytes;
+}
+
+}  // namespace velmora

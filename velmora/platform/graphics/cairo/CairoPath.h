@@ -1,0 +1,12 @@
+#pragma once
+
+#include <cairo.h>
+
+#include <velmora/platform/graphics/Path.h>
+
+namespace velmora {
+
+/// Makes the path the context's current one. A path with a coordinate that is no number stays empty.
+void setPath(cairo_t* context, const Path& path);
+
+}  // namespace velmora
