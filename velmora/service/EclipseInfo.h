@@ -1,0 +1,18 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include <velmora/platform/time/Instant.h>
+
+namespace velmora {
+
+/// One eclipse of the catalogue.
+struct EclipseInfo {
+  std::string key;                   ///< the code as it stands in the catalogue, for example "TSE"
+  std::optional<std::string> title;  ///< the localised title; none for an unknown code
+  Instant datetime{};                ///< the instant of greatest eclipse, to the minute
+  bool isLunarEvent = false;         ///< whether the code contains "LE"
+};
+
+}  // namespace velmora

@@ -1,0 +1,50 @@
+#include <velmora/service/LocalizedClockText.h>
+
+#include <cstdint>
+#include <optional>
+#include <string_view>
+
+#include <velmora/foundation/VelmoraCalendar.h>
+
+namespace velmora {
+namespace {
+
+constexpr std::string_view nextDayMark = " **";
+
+std::optional<std::int64_t> twoDigits(std::string_view text) {
+  const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
+  if (text.size() != 2 || !isDigit(text[0]) || !isDigit(text[1])) return std::nullopt;
+  return (text[0] - '0') * 10 + (text[1] - '0');
+}
+
+/// The minute of the day that "hh:mm AM" or "hh:mm PM" names; the hour after midnight may be written 00
+/// or 12.
+std::optional<std::int64_t> minuteOfDay(std::string_view text) {
+  constexpr std::string_view form = "hh:mm AM";
+  if (text.size() != form.size() || text[2] != ':' || text[5] != ' ') return std::nullopt;
+  const auto hour = twoDigits(text.substr(0, 2)), minute = twoDigits(text.substr(3, 2));
+  const std::string_view half = text.substr(6);
+  if (!hour || !minute || *hour > 12 || *minute > 59 || (half != "AM" && half != "PM")) return std::nullopt;
+  return (*hour % 12 + (half == "PM" ? 12 : 0)) * 60 + *minute;
+}
+
+std::string shortTimeText(std::int64_t minuteOfDay) {
+  DateFormatter formatter = VelmoraCalendar::calendarDateFormatter();
+  formatter.setTimeZone(TimeZone::fixed(0));
+  formatter.setTimeStyle(DateFormatter::Style::shortStyle);
+  return formatter.stringFromDate(Instant(std::chrono::minutes(minuteOfDay)));
+}
+
+}  // namespace
+
+std::string localizedClockText(const std::string& text) {
+  std::string_view time = text;
+  const bool isMarked =
+      time.size() > nextDayMark.size() && time.substr(time.size() - nextDayMark.size()) == nextDayMark;
+  if (isMarked) time.remove_suffix(nextDayMark.size());
+  const auto minute = minuteOfDay(time);
+  if (!minute) return text;
+  return shortTimeText(*minute) + (isMarked ? "**" : "");
+}
+
+}  // namespace velmora

@@ -1,0 +1,264 @@
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <velmora/astronomy/PositionData.h>
+#include <velmora/astronomy/RiseSetData.h>
+#include <velmora/foundation/GeoLocationData.h>
+#include <velmora/phases/MonthDataItem.h>
+#include <velmora/phases/MoonPhaseCalc.h>
+#include <velmora/phases/PhaseItem.h>
+#include <velmora/phases/RiseSetPhaseItem.h>
+#include <velmora/platform/resources/Image.h>
+#include <velmora/platform/time/Calendar.h>
+#include <velmora/platform/time/DateFormatter.h>
+#include <velmora/platform/time/Instant.h>
+#include <velmora/service/EclipseInfo.h>
+
+namespace velmora {
+
+struct TableEvent;
+
+/// Posted on the default notification centre after the selected date moved. The spelling is the interface's.
+extern const char kCalenderDateChangedNotification[];
+/// Posted on the default notification centre after the selected place changed.
+extern const char kCalenderLocationChangedNotification[];
+
+/// Start here: the one service that an application asks. It holds the selected day and place, loads the
+/// year's table, keeps the month's phases, pictures and rise/set items, and answers every question about
+/// them.
+///
+/// Give it a place before or together with the first date. For the thread of the user interface only.
+class MoonPhaseData {
+ public:
+  using MonthEvents = MoonPhaseCalc::MonthEvents;
+  using PhaseCalendar = MoonPhaseCalc::PhaseCalendar;
+  using ImageCalendar = MoonPhaseCalc::ImageCalendar;
+  /// The month's days by day number, 1 to the month's length.
+  using RiseSetItems = std::map<std::int64_t, std::shared_ptr<RiseSetPhaseItem>>;
+  /// A year's principal events by month, 1 to 12, in the order of the table.
+  using YearItems = std::map<std::int64_t, std::vector<std::shared_ptr<RiseSetPhaseItem>>>;
+  /// The eclipse catalogue by instant.
+  using Eclipses = std::map<Instant, std::shared_ptr<const EclipseInfo>>;
+
+  /// The one instance, made on the first call.
+  static MoonPhaseData& sharedInstance();
+  /// Starts the shared instance afresh: for tests, and for a host that answers unrelated requests.
+  static void resetSharedInstance();
+
+  /// A service without a selection.
+  MoonPhaseData();
+
+  // The selection and what belongs to it (Selection.cpp)
+
+  /// The calendar of every date that the service splits or builds, in the selected place's zone.
+  const Calendar& calendar() const { return _calendar; }
+  const std::optional<Instant>& currentDate() const { return _currentDate; }
+  std::int64_t currentDay() const { return _currentDay; }      ///< 1..31; 0 before the first selection
+  std::int64_t currentMonth() const { return _currentMonth; }  ///< 1..12; 0 before the first selection
+  std::int64_t currentYear() const { return _currentYear; }    ///< 0 before the first selection
+  const std::shared_ptr<GeoLocationData>& currentLocation() const { return _currentLocation; }
+
+  /// Whether the month's event times are written in the 24-hour form. Only the host application sets it.
+  bool use24HrTimeFormat() const { return _use24HrTimeFormat; }
+  void setUse24HrTimeFormat(bool use24Hour) { _use24HrTimeFormat = use24Hour; }
+
+  /// Selects the instant and posts "CalenderDateChanged". The instant already selected, and one whose year in
+  /// the default zone is not 2000 to 2040, changes nothing and posts nothing.
+  void SetSelectedDate(std::optional<Instant> date);
+
+  /// Selects the start of that day at the selected place; nothing when day, month and year are already
+  /// selected.
+  void changeSelectedDay(std::int64_t day, std::int64_t month, std::int64_t year);
+
+  /// Selects the place and posts "CalenderLocationChanged". The month's event list is kept while the month
+  /// stays the same, by intent; the month's dictionaries are built anew on demand.
+  void SetSelectedLocation(std::shared_ptr<GeoLocationData> location);
+
+  /// Selects both, the date unchecked, and posts "CalenderLocationChanged" alone.
+  void SetSelectedLocation(std::shared_ptr<GeoLocationData> location, std::optional<Instant> date);
+
+  /// Forgets the month's dictionaries when the date lies in another month than the selected one.
+  void dateWillChangeTo(std::optional<Instant> date);
+
+  /// Moves day, month and year to the date and reloads what that makes stale.
+  void updateCacheForDate(std::optional<Instant> date);
+
+  /// Reads the year's table into `rawDataDictionary`; none when there is no such table.
+  void loadDataForYear(std::int64_t year);
+  /// Reads a year's table without keeping it; none when there is no such table.
+  std::shared_ptr<const YearTable> getDataForYear(std::int64_t year) const;
+
+  /// Builds `currentMonthData` anew; keeps the old list while no table is loaded.
+  void calculateMoonPhases();
+
+  // The selected month (SelectedMonth.cpp)
+
+  /// The table of `currentYear`; none before a year is loaded or when the year has none.
+  const std::shared_ptr<const YearTable>& rawDataDictionary() const { return _rawDataDictionary; }
+  const std::shared_ptr<const YearTable>& currentYearDictionary() const { return _rawDataDictionary; }
+
+  /// The principal events of the selected month, in the order of MoonPhaseCalc's month query.
+  const MonthEvents& currentMonthData() const { return _currentMonthData; }
+  const MonthEvents& currentMonthPhases() const { return _currentMonthData; }
+
+  /// The month's dictionaries as they stand: none until the first request after a change.
+  const std::shared_ptr<const ImageCalendar>& currentImageDictionary() const {
+    return _currentImageDictionary;
+  }
+  const std::shared_ptr<const PhaseCalendar>& currentPhaseDictionary() const {
+    return _currentPhaseDictionary;
+  }
+  const std::shared_ptr<const RiseSetItems>& currentRiseSetPhaseItemDictionary() const {
+    return _currentRiseSetPhaseItemDictionary;
+  }
+
+  /// Picture numbers and phases of the selected month by day, built on the first request; none without a
+  /// table.
+  std::shared_ptr<const ImageCalendar> currentMonthImageDictionary();
+  std::shared_ptr<const PhaseCalendar> currentMonthPhaseDictionary();
+
+  /// The phases of the date's month, from the table of the selected year whatever the date's year is, by
+  /// intent. Never kept; none without a table.
+  std::shared_ptr<const PhaseCalendar> monthPhaseDictionaryForDate(Instant date) const;
+
+  /// The principal event of the selected day; none on most days. Reads the shared instance, by intent.
+  std::shared_ptr<MonthDataItem> monthDataItemForCurrentDay() const;
+
+  /// The English name of a phase number 0..7; none for any other.
+  std::optional<std::string> nameForPhase(std::int64_t phase) const;
+
+  /// Whether the selected place lies south of the equator, which itself counts as northern.
+  bool isSouthernHemisphere() const;
+
+  /// A constant, by intent: 0.2. The lit fraction of a day is in `currentMonthPhaseDictionary`.
+  float phaseFullFactorForCurrentDay() const;
+
+  /// The picture shown while there is no other; none when it is missing, and then tried again.
+  std::shared_ptr<const Image> phaseImagePlaceholder();
+  const std::shared_ptr<const Image>& placeHolderImage() const { return _placeHolderImage; }
+
+  /// The selected day's phase picture, mirrored south of the equator; none when it is missing. Day and
+  /// picture number are the shared instance's, the hemisphere is this one's, by intent.
+  std::shared_ptr<const Image> phaseImageForCurrentDate() const;
+
+  // Eclipses (Eclipses.cpp)
+
+  /// The catalogue; none until it has been read.
+  const std::shared_ptr<const Eclipses>& eventsData() const { return _eventsData; }
+
+  /// Reads the catalogue afresh; when it cannot be read the old one stays. An unreadable line is logged as
+  /// "Invalid entry" and skipped; of two eclipses at one instant the later line stays.
+  void loadEventsFromFile();
+
+  /// The earliest eclipse of the instant's day in the zone that happens while the eclipsed body is up at the
+  /// selected place; none without one.
+  std::shared_ptr<const EclipseInfo> eventsOnDate(Instant date, const TimeZone& inTimezone);
+
+  // Searches for phases (PhaseQueries.cpp)
+
+  /// The next new or full moon from the selected day on, in this month and the next, with `moonAge` set to
+  /// the days until it in the shared item itself; none if there is none.
+  std::shared_ptr<RiseSetPhaseItem> nextEventSinceToday();
+
+  /// The first new or full moon of the dictionary from that day on; none if there is none.
+  std::shared_ptr<RiseSetPhaseItem> nextEventSince(std::int64_t day, const RiseSetItems& withEvents) const;
+
+  /// The first event of the phase (0..3) later than now, in the selected month and the next alone; none if
+  /// there is none. Instants compare as the year's items give them, shifted by the place's offset.
+  std::shared_ptr<RiseSetPhaseItem> nextEventSinceTodayWithPhase(std::int64_t phase) const;
+
+  /// The events of the phase later than `from` and not later than `to`, month by month, as the year's items
+  /// give their instants (shifted by the place's offset). The walk ends at the first later item.
+  std::vector<std::shared_ptr<RiseSetPhaseItem>> matchingEventsWithPhase(std::int64_t phase,
+                                                                         std::optional<Instant> from,
+                                                                         std::optional<Instant> to) const;
+
+  /// The phase of the selected day's event if it has one, else the intermediate phase (4..7) after the
+  /// month's latest event not later than the instant, else −1. Reads the shared instance, by intent.
+  std::int64_t phaseEventForDate(Instant date) const;
+
+  // Rise, set and phase together (RiseSetItems.cpp)
+
+  /// One item a day of the selected month, kept until the month or the place changes; none without a table.
+  std::shared_ptr<const RiseSetItems> GetRiseSetPhaseItemsForCurrentMonth();
+
+  /// The same of the month after it, never kept; none after December 2040 and without a table.
+  std::shared_ptr<const RiseSetItems> GetRiseSetPhaseItemsForNextMonth() const;
+
+  /// The principal events of a year, never kept; empty without a table. An item's `localDate` is its instant
+  /// shifted by the place's offset, by intent, unlike a month's event.
+  YearItems GetRiseSetPhaseItemsForYear(std::int64_t year) const;
+
+  /// The selected day's item; none if there is none.
+  std::shared_ptr<RiseSetPhaseItem> GetRiseSetPhaseItemForCurrentDate();
+
+  /// Rise, set and civil twilight of the instant's day at the selected place.
+  RiseSetData GetRiseSetDataForDate(Instant date) const;
+
+  /// The same a day, from `from` by steps of one calendar day while not later than `to`; the first always.
+  std::vector<RiseSetData> getRiseSetDataFrom(Instant from, Instant to) const;
+
+  /// Rewrites the item's four rise and set texts in the user's short time style; a mark for the next day
+  /// stays, glued to the time as "**". Texts that are no 12-hour clock time stay as they are. The zone plays
+  /// no part.
+  void localizeDateTimeStringsForRiseSetPhaseItem(RiseSetPhaseItem* item,
+                                                  const std::optional<TimeZone>& withTimezone) const;
+
+  // Positions (Positions.cpp)
+
+  /// Where the body stands at the instant, seen from the selected place; none without a date, place or zone.
+  std::optional<PositionData> GetMoonPositionDataForDate(std::optional<Instant> date) const;
+  std::optional<PositionData> GetSunPositionDataForDate(std::optional<Instant> date) const;
+
+  /// Where the body stands that many minutes after midnight of the day, by the clock; fractions are cut. For
+  /// the Moon 24 hours or more count from the following day's midnight, whole days beyond it dropped, by
+  /// intent; for the Sun they give none.
+  std::optional<PositionData> GetMoonPositionDataForDate(std::optional<Instant> date,
+                                                         double withTimeInterval) const;
+  std::optional<PositionData> GetSunPositionDataForDate(std::optional<Instant> date,
+                                                        double withTimeInterval) const;
+
+  /// The body's positions over a day (see RiseAndSetCalc); none without a date, place or zone.
+  std::optional<std::vector<PositionData>> Get24HourSunPositionsForDate(std::optional<Instant> date) const;
+  std::optional<std::vector<PositionData>> Get24HourMoonPositionsForDate(std::optional<Instant> date) const;
+
+  /// Offset from GMT in seconds of the zone at 09:00 of the instant's day at the selected place.
+  std::int64_t gmtIntervalForDate(Instant date, const TimeZone& withTimezone) const;
+
+  /// The direction in which the Moon's lit side faces: the angle at the Moon from straight up to the Sun,
+  /// radians, positive toward increasing azimuth, (−π, π].
+  double orientationRadiansForMoonAt(const PositionData& moon, const PositionData& sunAt) const;
+
+ private:
+  const GeoLocationData& place() const;
+  TimeZone zoneOfPlace(Instant date) const;
+  void useZoneOfPlace();
+  void forgetMonth();
+  void setPlace(std::shared_ptr<GeoLocationData> location);
+  std::shared_ptr<RiseSetPhaseItem> riseSetItem(const PhaseItem& day, Instant instant,
+                                                const DateFormatter& times) const;
+  std::shared_ptr<RiseSetPhaseItem> eventItem(const TableEvent& event, const DateFormatter& times) const;
+
+  Calendar _calendar;
+  MonthEvents _currentMonthData;
+  std::shared_ptr<const YearTable> _rawDataDictionary;
+  std::int64_t _currentDay = 0;
+  std::int64_t _currentMonth = 0;
+  std::int64_t _currentYear = 0;
+  std::optional<Instant> _currentDate;
+  std::shared_ptr<GeoLocationData> _currentLocation;
+  bool _use24HrTimeFormat = false;
+  std::shared_ptr<const Eclipses> _eventsData;
+  std::shared_ptr<const ImageCalendar> _currentImageDictionary;
+  std::shared_ptr<const PhaseCalendar> _currentPhaseDictionary;
+  std::shared_ptr<const RiseSetItems> _currentRiseSetPhaseItemDictionary;
+  std::shared_ptr<const Image> _placeHolderImage;
+};
+
+}  // namespace velmora

@@ -1,0 +1,84 @@
+#include <cmath>
+#include <utility>
+
+#include <velmora/astronomy/RiseAndSetCalc.h>
+#include <velmora/service/MoonPhaseData.h>
+
+namespace velmora {
+namespace {
+
+constexpr double radiansPerDegree = 0.017453292519943295;
+constexpr double minutesPerHour = 60.0;
+constexpr double farthestMinutes = 1e15;
+constexpr std::int64_t hoursPerDay = 24;
+constexpr std::int64_t morningHour = 9;
+
+/// A count of minutes cut into whole hours and minutes, both toward zero.
+std::pair<std::int64_t, std::int64_t> hoursAndMinutes(double minutes) {
+  const double whole = minutes >= -farthestMinutes ? std::fmin(minutes, farthestMinutes) : -farthestMinutes;
+  const auto hours = static_cast<std::int64_t>(whole / minutesPerHour);
+  return {hours, static_cast<std::int64_t>(whole - minutesPerHour * static_cast<double>(hours))};
+}
+
+}  // namespace
+
+std::optional<PositionData> MoonPhaseData::GetMoonPositionDataForDate(std::optional<Instant> date) const {
+  if (!date || !_currentLocation || !_currentLocation->timezone) return std::nullopt;
+  const std::int64_t offset = _currentLocation->timezone->secondsFromGMT(*date);
+  return RiseAndSetCalc::ComputeMoonPosition(*date, *_currentLocation, offset);
+}
+
+std::optional<PositionData> MoonPhaseData::GetSunPositionDataForDate(std::optional<Instant> date) const {
+  if (!date || !_currentLocation || !_currentLocation->timezone) return std::nullopt;
+  const std::int64_t offset = _currentLocation->timezone->secondsFromGMT(*date);
+  return RiseAndSetCalc::ComputeSunPosition(*date, *_currentLocation, offset);
+}
+
+// However many whole days the minutes span, the day moves once, by intent.
+std::optional<PositionData> MoonPhaseData::GetMoonPositionDataForDate(std::optional<Instant> date,
+                                                                      double withTimeInterval) const {
+  if (!date) return std::nullopt;
+  const auto [hours, minutes] = hoursAndMinutes(withTimeInterval);
+  const Instant day = hours >= hoursPerDay ? *date + std::chrono::hours(hoursPerDay) : *date;
+  const std::int64_t hour = hours >= hoursPerDay ? hours % hoursPerDay : hours;
+  return GetMoonPositionDataForDate(_calendar.dateBySettingTime(hour, minutes, 0, day));
+}
+
+std::optional<PositionData> MoonPhaseData::GetSunPositionDataForDate(std::optional<Instant> date,
+                                                                     double withTimeInterval) const {
+  if (!date) return std::nullopt;
+  const auto [hours, minutes] = hoursAndMinutes(withTimeInterval);
+  return GetSunPositionDataForDate(_calendar.dateBySettingTime(hours, minutes, 0, *date));
+}
+
+std::optional<std::vector<PositionData>> MoonPhaseData::Get24HourSunPositionsForDate(
+    std::optional<Instant> date) const {
+  if (!date || !_currentLocation || !_currentLocation->timezone) return std::nullopt;
+  const std::int64_t offset = _currentLocation->timezone->secondsFromGMT(*date);
+  return RiseAndSetCalc::Get24HourSunPositionsForDate(*date, *_currentLocation, offset);
+}
+
+// The Moon's series takes the offset of the day's morning, the Sun's that of the instant, by intent.
+std::optional<std::vector<PositionData>> MoonPhaseData::Get24HourMoonPositionsForDate(
+    std::optional<Instant> date) const {
+  if (!date || !_currentLocation || !_currentLocation->timezone) return std::nullopt;
+  const std::int64_t offset = gmtIntervalForDate(*date, *_currentLocation->timezone);
+  return RiseAndSetCalc::Get24HourMoonPositionsForDate(*date, *_currentLocation, offset);
+}
+
+std::int64_t MoonPhaseData::gmtIntervalForDate(Instant date, const TimeZone& withTimezone) const {
+  const Instant start = _calendar.startOfDay(date);
+  const auto morning = _calendar.dateBySettingTime(morningHour, 0, 0, start, TimeMatching::strict);
+  return withTimezone.secondsFromGMT(morning.value_or(start));
+}
+
+double MoonPhaseData::orientationRadiansForMoonAt(const PositionData& moon, const PositionData& sunAt) const {
+  const double moonAltitude = moon.altitude * radiansPerDegree,
+               sunAltitude = sunAt.altitude * radiansPerDegree;
+  const double sunward = (sunAt.azimuth - moon.azimuth) * radiansPerDegree;
+  return std::atan2(std::cos(sunAltitude) * std::sin(sunward),
+                    std::cos(moonAltitude) * std::sin(sunAltitude) -
+                        std::sin(moonAltitude) * std::cos(sunAltitude) * std::cos(sunward));
+}
+
+}  // namespace velmora

@@ -1,0 +1,162 @@
+#include <velmora/astronomy/RiseAndSetCalc.h>
+#include <velmora/foundation/VelmoraCalendar.h>
+#include <velmora/phases/TableLine.h>
+#include <velmora/service/LocalizedClockText.h>
+#include <velmora/service/MoonPhaseData.h>
+
+namespace velmora {
+namespace {
+
+constexpr int civilTwilight = 0;
+constexpr std::int64_t december = 12, lastYear = 2040;
+
+// A day without an event of its own is described for 03:00.
+constexpr std::int64_t hourOfQuietDays = 3;
+
+DateFormatter shortTimes() {
+  DateFormatter formatter = VelmoraCalendar::calendarDateFormatter();
+  formatter.setTimeStyle(DateFormatter::Style::shortStyle);
+  return formatter;
+}
+
+std::shared_ptr<RiseSetPhaseItem> itemOfDay(const PhaseItem& day) {
+  auto item = std::make_shared<RiseSetPhaseItem>();
+  item->day = day.day;
+  item->month = day.month;
+  item->year = day.year;
+  item->moonAge = day.moonAge;
+  item->phase = day.phase;
+  item->fullFactor = day.fullFactor;
+  return item;
+}
+
+Instant quietHour(const PhaseItem& day, const Calendar& calendar) {
+  return calendar.date({.year = day.year, .month = day.month, .day = day.day, .hour = hourOfQuietDays});
+}
+
+}  // namespace
+
+RiseSetData MoonPhaseData::GetRiseSetDataForDate(Instant date) const {
+  return RiseAndSetCalc::Compute(date, place(), zoneOfPlace(date).secondsFromGMT(date), civilTwilight);
+}
+
+std::vector<RiseSetData> MoonPhaseData::getRiseSetDataFrom(Instant from, Instant to) const {
+  std::vector<RiseSetData> days;
+  Instant day = from;
+  do {
+    days.push_back(GetRiseSetDataForDate(day));
+    days.back().date = day;
+    day = _calendar.dateByAddingDays(1, day);
+  } while (day <= to);
+  return days;
+}
+
+std::shared_ptr<const MoonPhaseData::RiseSetItems> MoonPhaseData::GetRiseSetPhaseItemsForCurrentMonth() {
+  if (!_rawDataDictionary || _currentRiseSetPhaseItemDictionary) return _currentRiseSetPhaseItemDictionary;
+  const Instant reference = _currentDate.value_or(Instant());
+  const PhaseCalendar days = MoonPhaseCalc::GetPhaseCalendar(
+      *_rawDataDictionary, _currentMonth - 1, _currentYear, reference, place(), _use24HrTimeFormat);
+  const Calendar localCalendar(zoneOfPlace(reference));
+  DateFormatter times = shortTimes();
+  times.setTimeZone(localCalendar.timeZone());
+
+  auto items = std::make_shared<RiseSetItems>();
+  for (const auto& [number, day] : days) {
+    const Instant instant = day->localDate.value_or(quietHour(*day, localCalendar));
+    (*items)[number] = riseSetItem(*day, instant, times);
+  }
+  _currentRiseSetPhaseItemDictionary = std::move(items);
+  return _currentRiseSetPhaseItemDictionary;
+}
+
+// Two intended differences from the current month: every day is described for 03:00, also one with an event,
+// and that instant's text is the device's clock, not the place's.
+std::shared_ptr<const MoonPhaseData::RiseSetItems> MoonPhaseData::GetRiseSetPhaseItemsForNextMonth() const {
+  if (!_rawDataDictionary) return nullptr;
+  const bool inNextYear = _currentMonth == december;
+  const std::int64_t year = inNextYear ? _currentYear + 1 : _currentYear;
+  if (year > lastYear) return nullptr;
+  const auto table = inNextYear ? getDataForYear(year) : _rawDataDictionary;
+  const std::int64_t zeroBasedMonth = inNextYear ? 0 : _currentMonth;
+  const Instant reference = _calendar.dateByAddingMonths(1, _currentDate.value_or(Instant()));
+
+  const PhaseCalendar days = MoonPhaseCalc::GetPhaseCalendar(table ? *table : YearTable(), zeroBasedMonth,
+                                                             year, reference, place(), _use24HrTimeFormat);
+  const Calendar localCalendar(zoneOfPlace(reference));
+  const DateFormatter times = shortTimes();
+  auto items = std::make_shared<RiseSetItems>();
+  for (const auto& [number, day] : days) {
+    (*items)[number] = riseSetItem(*day, quietHour(*day, localCalendar), times);
+  }
+  return items;
+}
+
+MoonPhaseData::YearItems MoonPhaseData::GetRiseSetPhaseItemsForYear(std::int64_t year) const {
+  YearItems items;
+  const auto table = getDataForYear(year);
+  if (!table) return items;
+  DateFormatter times = shortTimes();
+  times.setTimeZone(zoneOfPlace(_currentDate.value_or(Instant())));
+  for (std::int64_t month = 1; month <= december; ++month) {
+    const auto lines = table->find(std::to_string(month));
+    if (lines == table->end()) continue;
+    for (const std::string& line : lines->second) {
+      const auto event = readTableLine(line, year, month);
+      if (!event) continue;
+      auto item = eventItem(*event, times);
+      items[item->month].push_back(std::move(item));
+    }
+  }
+  return items;
+}
+
+std::shared_ptr<RiseSetPhaseItem> MoonPhaseData::GetRiseSetPhaseItemForCurrentDate() {
+  const auto items = GetRiseSetPhaseItemsForCurrentMonth();
+  if (!items) return nullptr;
+  const auto found = items->find(_currentDay);
+  return found == items->end() ? nullptr : found->second;
+}
+
+void MoonPhaseData::localizeDateTimeStringsForRiseSetPhaseItem(RiseSetPhaseItem* item,
+                                                               const std::optional<TimeZone>&) const {
+  if (item == nullptr || !item->riseSetData) return;
+  RiseSetData& data = *item->riseSetData;
+  for (std::string* text : {&data.moonRiseText, &data.moonSetText, &data.sunRiseText, &data.sunSetText}) {
+    *text = localizedClockText(*text);
+  }
+}
+
+std::shared_ptr<RiseSetPhaseItem> MoonPhaseData::riseSetItem(const PhaseItem& day, Instant instant,
+                                                             const DateFormatter& times) const {
+  auto item = itemOfDay(day);
+  item->localDate = instant;
+  item->riseSetData = GetRiseSetDataForDate(instant);
+  item->timeText = times.stringFromDate(instant);
+  item->weekDay = _calendar.components(instant).weekday;
+  localizeDateTimeStringsForRiseSetPhaseItem(item.get(), place().timezone);
+  return item;
+}
+
+// The instant shifted by the place's offset is kept in the item and handed to the search, by intent: the item
+// then stands for the event's reading on the place's clock.
+std::shared_ptr<RiseSetPhaseItem> MoonPhaseData::eventItem(const TableEvent& event,
+                                                           const DateFormatter& times) const {
+  const std::int64_t offset = place().GetTimezoneIntervalFromGMT(event.instant);
+  const Instant shifted = event.instant + std::chrono::seconds(offset);
+  const DateComponents local = _calendar.components(event.instant);
+  auto item = std::make_shared<RiseSetPhaseItem>();
+  item->day = local.day;
+  item->month = local.month;
+  item->year = local.year;
+  item->weekDay = local.weekday;
+  item->phase = event.phase;
+  item->fullFactor = fullFactorForPrincipalPhase(event.phase);
+  item->timeText = times.stringFromDate(event.instant);
+  item->localDate = shifted;
+  item->riseSetData = RiseAndSetCalc::Compute(
+      shifted, place(), zoneOfPlace(event.instant).secondsFromGMT(event.instant), civilTwilight);
+  localizeDateTimeStringsForRiseSetPhaseItem(item.get(), place().timezone);
+  return item;
+}
+
+}  // namespace velmora
