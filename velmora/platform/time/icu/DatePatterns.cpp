@@ -2,6 +2,7 @@
 
 #include <unicode/smpdtfmt.h>
 
+#include <algorithm>
 #include <memory>
 
 #include <velmora/platform/time/icu/IcuSupport.h>

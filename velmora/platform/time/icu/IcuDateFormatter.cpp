@@ -53,7 +53,7 @@ icu::SimpleDateFormat* reader(const Locale& locale, const std::string& pattern) 
 
 /// Gives the formatter the offset from GMT as a fixed zone, if it has another.
 void useOffset(icu::SimpleDateFormat& format, std::int64_t secondsFromGMT) {
-  constexpr std::int64_t farthest = 24 * 24 * 3600;  // what ICU's count of milliseconds can hold
+  constexpr std::int64_t farthest = 2'000'000;  // what ICU's count of milliseconds can hold
   const auto offset = static_cast<std::int32_t>(std::clamp(secondsFromGMT, -farthest, farthest) * 1000);
   if (format.getTimeZone().getRawOffset() == offset) return;
   format.adoptTimeZone(new icu::SimpleTimeZone(offset, icu::UnicodeString()));

@@ -1,5 +1,7 @@
 #include <unicode/dtfmtsym.h>
 
+#include <algorithm>
+
 #include <velmora/platform/time/DateFormatter.h>
 #include <velmora/platform/time/icu/IcuSupport.h>
 
@@ -7,8 +9,8 @@ namespace velmora {
 namespace {
 
 std::vector<std::string> texts(const icu::UnicodeString* first, std::int32_t count) {
-  std::vector<std::string> result;
-  for (std::int32_t i = 0; i < count; ++i) result.push_back(fromIcu(first[i]));
+  std::vector<std::string> result(static_cast<std::size_t>(count));
+  std::transform(first, first + count, result.begin(), &fromIcu);
   return result;
 }
 

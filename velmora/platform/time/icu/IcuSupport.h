@@ -4,6 +4,7 @@
 #include <unicode/locid.h>
 #include <unicode/unistr.h>
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
