@@ -141,6 +141,8 @@ TEST(View, IsDrawnFromItsBackgroundUpToItsSubviews) {
             "save\n"
             "setFillColor #000000FF\n"
             "fillRect 0 0 100 50\n"
+            "restore\n"
+            "save\n"
             "clip rect 0 0 100 50\n"
             "beginGroup 1\n"
             "setLineWidth 1\n"

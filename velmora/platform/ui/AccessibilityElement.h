@@ -10,11 +10,11 @@
 
 namespace velmora {
 
-/// What an element is, for a screen reader: any sum of these values.
-enum class AccessibilityTraits : unsigned {
-  none = 0,
-  button = 1,
-  allowsDirectInteraction = 1 << 13,  ///< touches go to the view itself while the screen reader runs
+/// What an element is, for a screen reader.
+enum class AccessibilityTraits {
+  none,
+  button,
+  allowsDirectInteraction,  ///< touches go to the view itself while the screen reader runs
 };
 
 /// How the elements of a view belong together.

@@ -108,18 +108,23 @@ void View::render(Canvas& canvas) {
 void View::draw(Canvas& canvas) {
   _needsDisplay = false;
   _layer.drawWithin(canvas, [&] {
+    drawBackground(canvas);
     drawContent(canvas);
     _layer.renderSublayers(canvas);
     for (const auto& subview : _subviews) subview->draw(canvas);
   });
 }
 
+void View::drawBackground(Canvas& canvas) {
+  if (_backgroundColor.alpha <= 0) return;
+  canvas.save();
+  canvas.setFillColor(_backgroundColor);
+  canvas.fillRect(bounds());
+  canvas.restore();
+}
+
 void View::drawContent(Canvas& canvas) {
   canvas.save();
-  if (_backgroundColor.alpha > 0) {
-    canvas.setFillColor(_backgroundColor);
-    canvas.fillRect(bounds());
-  }
   canvas.clip(Path::rect(bounds()));
   canvas.beginGroup(1);
   drawRect(canvas, bounds());

@@ -131,6 +131,7 @@ class View : public std::enable_shared_from_this<View> {
   void dropConstraintsOn(const View& leaving);
   void place(Rect untransformedFrame);
   void draw(Canvas& canvas);
+  void drawBackground(Canvas& canvas);
   void drawContent(Canvas& canvas);
 
   Layer _layer;
