@@ -11,7 +11,7 @@
 
 namespace velmora {
 
-/// Equatorial coordinates, referred to the mean equinox of date.
+/// Equatorial coordinates, referred to the equator and equinox of date.
 struct EquatorialCoordinates {
   double declination = 0.0;     ///< degrees, −90..90, north positive
   double rightAscension = 0.0;  ///< hours, [0, 24)
@@ -27,6 +27,9 @@ struct EquatorialCoordinates {
 /// Sources: Montenbruck and Pfleger, "Astronomy on the Personal Computer" (calendar, the short series of the
 /// Sun and the Moon, the search by parabolas); Meeus, "Astronomical Algorithms", 2nd ed. (sidereal time);
 /// "The Astronomical Almanac", low-precision formulas for the Sun (its position).
+///
+/// Accuracies are differences from a precise ephemeris's geocentric apparent places, 2000 to 2040 unless said
+/// otherwise, as root mean square and maximum.
 class RiseAndSetCalc {
  public:
   // Time and angles (TimeAndAngles.cpp)
@@ -77,10 +80,11 @@ class RiseAndSetCalc {
   // Series of the Sun and the Moon (SunAndMoonSeries.cpp)
 
   /// The Sun. `centuries`: Julian centuries of 36525 days from 2000 January 1, 12h.
-  /// Montenbruck and Pfleger, MiniSun.
+  /// Accuracy: 0.011°, at most 0.022°. Montenbruck and Pfleger, MiniSun.
   static EquatorialCoordinates _minisun(double centuries);
 
-  /// The Moon, geocentric. `centuries` as above. Montenbruck and Pfleger, MiniMoon.
+  /// The Moon, geocentric. `centuries` as above. Accuracy: 0.025°, at most 0.094°. Montenbruck and Pfleger,
+  /// MiniMoon.
   static EquatorialCoordinates _minimoon(double centuries);
 
   /// Sine of the geometric altitude of a body's centre, seen from the centre of the Earth, without
@@ -93,6 +97,9 @@ class RiseAndSetCalc {
   //
   // The altitude is sampled hourly from local midnight on, two hours are joined by a parabola, over at most
   // 48 hours (Montenbruck and Pfleger, SunSet). Altitudes of the centre: Sun −0.833°, Moon +8′.
+  // Accuracy of the whole minutes on every day of 2024 at 15 places up to 60.2° of latitude: Sun 0.35 min, at
+  // most 0.9 min, Moon 0.36 min, at most 1.3 min. Nearer to the poles, where a body grazes its altitude,
+  // more.
 
   /// Rise, set and twilight of the instant's calendar day at the place; `date` of the record is left alone.
   /// `secondsFromGMT`: the offset in force on that day; it is also the zone of a place without a `timezone`.
@@ -115,7 +122,7 @@ class RiseAndSetCalc {
   // Positions (HorizontalPosition.cpp)
   //
   // All are those of the centre, seen from the centre of the Earth, without refraction. Azimuth: north is
-  // zero and east is +90°.
+  // zero and east is +90°. Accuracy: Sun 0.004°, at most 0.012°, Moon 0.025°, at most 0.094°.
 
   /// The Sun's ecliptic longitude of date in radians, [0, 2π). Astronomical Almanac.
   static double FNsun(double daysFromJ2000);
@@ -139,8 +146,8 @@ class RiseAndSetCalc {
   static PositionData ComputeSunPosition(Instant date, const GeoLocationData& location,
                                          std::int64_t secondsFromGMT);
 
-  /// The Moon at the instant, to the minute. `secondsFromGMT`: the offset in force. The record's `hour` is the
-  /// local one with minutes as a fraction.
+  /// The Moon at the instant, to the minute. `secondsFromGMT`: the offset in force. The record's `hour` is
+  /// the local one with minutes as a fraction.
   static PositionData ComputeMoonPosition(Instant date, const GeoLocationData& location,
                                           std::int64_t secondsFromGMT);
 
