@@ -16,16 +16,16 @@ ClockReading clockReading(double hours) {
 std::string wholeText(double number) { return std::to_string(wholeNumber<std::int32_t>(number)); }
 
 std::string twoDigits(double number) {
-  const std::string digits = wholeText(number);
-  return digits.size() < 2 ? "0" + digits : digits;
+  std::string digits = wholeText(number);
+  if (digits.size() < 2) digits.insert(digits.begin(), '0');
+  return digits;
 }
 
 std::string clockText(double hours, bool use24Hour) {
   const auto [hour, minute] = clockReading(hours);
-  const std::string minutes = ":" + twoDigits(minute);
-  if (use24Hour) return twoDigits(hour) + minutes;
-  if (hour >= 12) return twoDigits(hour > 12 ? hour - 12 : hour) + minutes + " PM";
-  return twoDigits(hour) + minutes + " AM";
+  const std::string text = twoDigits(!use24Hour && hour > 12 ? hour - 12 : hour) + ':' + twoDigits(minute);
+  if (use24Hour) return text;
+  return text + (hour >= 12 ? " PM" : " AM");
 }
 
 }  // namespace velmora
