@@ -156,6 +156,16 @@ TEST(PropertyList, ABinaryListThatIsNoTreeGivesNone) {
   EXPECT_EQ(read(binary(doubling)), "none") << "expands to 2 to the 40th texts";
 }
 
+TEST(PropertyList, AKeyThatIsNoTextOrHoldsAZeroGivesNone) {
+  EXPECT_EQ(read(binary({"\xD1\x01\x02", std::string("\x53m\0n", 4), "\x51x"})), "none");
+  EXPECT_EQ(read(binary({"\xD1\x01\x02", std::string("\x61\0\0", 3), "\x51x"})), "none");
+  EXPECT_EQ(read(binary({"\xD1\x01\x02", "\x10\x07", "\x51x"})), "none") << "a number";
+  EXPECT_EQ(read(binary({"\xD1\x01\x02", "\x41m", "\x51x"})), "none") << "data";
+  EXPECT_EQ(read(binary({"\xD1\x01\x02", "\xA0", "\x51x"})), "none") << "an array";
+  EXPECT_EQ(read(xml("<dict><key>m&#0;n</key><string>x</string></dict>")), "none");
+  EXPECT_EQ(read(xml("<dict><key>m" + std::string(1, '\0') + "n</key><string>x</string></dict>")), "none");
+}
+
 TEST(PropertyList, ALargeTextInManyPlacesGivesNone) {
   const std::size_t textSize = 300000, references = 300000;
   const auto bigEndian = [](std::size_t value, int bytes) {

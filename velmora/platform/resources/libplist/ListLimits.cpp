@@ -21,7 +21,8 @@ class BinaryList {
   explicit BinaryList(std::string_view bytes) : _bytes(bytes) {}
 
   /// Whether each container is referenced once at most and the root never, which makes what hangs under the
-  /// root a finite tree; and whether its values, copied for each reference, stay small.
+  /// root a finite tree; whether its values, copied for each reference, stay small; and whether keys are
+  /// texts.
   bool isSmallTree() {
     if (!readTrailer()) return false;
     _referenced.assign(_objectCount, false);
@@ -42,7 +43,13 @@ class BinaryList {
     std::size_t contentOffset;
   };
 
-  static bool isContainer(const Head& head) { return head.kind >= 0xA; }
+  static constexpr std::uint8_t kData = 0x4;
+  static constexpr std::uint8_t kText = 0x5;
+  static constexpr std::uint8_t kWideText = 0x6;
+  static constexpr std::uint8_t kFirstContainer = 0xA;
+  static constexpr std::uint8_t kDictionary = 0xD;
+
+  static bool isContainer(const Head& head) { return head.kind >= kFirstContainer; }
 
   bool readTrailer() {
     if (_bytes.size() < kTrailerSize) return false;
@@ -64,13 +71,12 @@ class BinaryList {
 
   static bool isSize(std::size_t size) { return size >= 1 && size <= 8; }
 
-  /// The big-endian number at that place, if it lies within the list and is at most its size.
-  std::optional<std::size_t> number(std::size_t offset, std::size_t size) const {
+  /// The big-endian number at that place, if it lies within the list.
+  std::optional<std::uint64_t> number(std::size_t offset, std::size_t size) const {
     if (offset > _bytes.size() || _bytes.size() - offset < size) return std::nullopt;
     std::uint64_t value = 0;
     for (const char byte : _bytes.substr(offset, size)) value = value << 8 | static_cast<std::uint8_t>(byte);
-    if (value > _bytes.size()) return std::nullopt;
-    return static_cast<std::size_t>(value);
+    return value;
   }
 
   std::optional<Head> head(std::size_t object) const {
@@ -79,7 +85,7 @@ class BinaryList {
     const auto marker = static_cast<std::uint8_t>(_bytes[*offset]);
     const auto kind = static_cast<std::uint8_t>(marker >> 4);
     const std::size_t count = marker & 0xFU;
-    if (kind < 0x4 || count < 0xF) return Head{kind, count, *offset + 1};
+    if (kind < kData || count < 0xF) return Head{kind, count, *offset + 1};
     return longHead(kind, *offset + 1);
   }
 
@@ -90,7 +96,7 @@ class BinaryList {
     if (marker < 0x10 || marker > 0x13) return std::nullopt;
     const std::size_t size = std::size_t{1} << (marker & 0xFU);
     const auto count = number(offset + 1, size);
-    if (!count) return std::nullopt;
+    if (!count || *count > _bytes.size()) return std::nullopt;
     return Head{kind, *count, offset + 1 + size};
   }
 
@@ -99,11 +105,12 @@ class BinaryList {
     if (!from) return false;
     if (!isContainer(*from)) return true;
     ++_containers;
-    const bool isDictionary = from->kind == 0xD;
+    const bool isDictionary = from->kind == kDictionary;
     const std::size_t references = isDictionary ? 2 * from->count : from->count;
     for (std::size_t i = 0; i < references; ++i) {
       const auto target = number(from->contentOffset + i * _referenceSize, _referenceSize);
       if (!target || *target >= _objectCount || !enter(*target)) return false;
+      if (isDictionary && i < from->count && !isTextWithoutZeros(*target)) return false;
     }
     return true;
   }
@@ -114,6 +121,17 @@ class BinaryList {
     _referenced[target] = true;
     _expandedSize += 1 + to->count;
     return _expandedSize <= kMaximumExpandedSize;
+  }
+
+  bool isTextWithoutZeros(std::size_t object) const {
+    const std::optional<Head> text = head(object);
+    if (!text || (text->kind != kText && text->kind != kWideText)) return false;
+    const std::size_t unitSize = text->kind == kText ? 1 : 2;
+    for (std::size_t i = 0; i < text->count; ++i) {
+      const auto unit = number(text->contentOffset + i * unitSize, unitSize);
+      if (!unit || *unit == 0) return false;
+    }
+    return true;
   }
 
   std::string_view _bytes;
@@ -128,7 +146,8 @@ class BinaryList {
 };
 
 bool isXmlWithinLimits(std::string_view bytes) {
-  return occurrences(bytes, "<array") + occurrences(bytes, "<dict") <= kMaximumContainers;
+  const bool hasZeros = bytes.find('\0') != bytes.npos;
+  return !hasZeros && occurrences(bytes, "<array") + occurrences(bytes, "<dict") <= kMaximumContainers;
 }
 
 }  // namespace
