@@ -95,6 +95,47 @@ TEST(Picture, TheBackgroundLiesUnderEverythingAndCannotBeCleared) {
   EXPECT_EQ(image->pixels(), (PixelBytes{255, 0, 0, 255, 0, 0, 255, 255}));
 }
 
+TEST(Picture, AnImageFillsItsRectangleWithAlphaAndBlendMode) {
+  CairoCanvas source(PictureFormat::png, {4, 4});
+  source.setFillColor({1, 0, 0, 1});
+  source.fillRect({0, 0, 2, 4});
+  const auto image = decoded(written(source));
+  for (const bool isMirrored : {false, true}) {
+    CairoCanvas canvas(PictureFormat::png, {8, 8});
+    canvas.setAlpha(0.5);
+    canvas.setBlendMode(BlendMode::overlay);
+    canvas.drawImage(isMirrored ? *image->mirrored() : *image, {8, 0, -8, 8});
+    const auto pixels = canvas.pixels();
+    const std::vector<std::uint8_t> left(pixels.begin(), pixels.begin() + 4);
+    const std::vector<std::uint8_t> right(pixels.begin() + 28, pixels.begin() + 32);
+    EXPECT_EQ(isMirrored ? right : left, (std::vector<std::uint8_t>{128, 0, 0, 128}));
+    EXPECT_EQ(isMirrored ? left : right, (std::vector<std::uint8_t>{0, 0, 0, 0}));
+  }
+}
+
+TEST(Picture, AnImageIsOneElementOfAnSvg) {
+  CairoCanvas source(PictureFormat::png, {4, 4});
+  source.fillRect({0, 0, 4, 4});
+  CairoCanvas canvas(PictureFormat::svg, {80, 80});
+  canvas.drawImage(*decoded(written(source)), {10, 10, 60, 60});
+  const std::string svg = written(canvas);
+  EXPECT_TRUE(contains(svg, "<image"));
+  EXPECT_EQ(svg.find("<image"), svg.rfind("<image"));
+}
+
+TEST(Picture, ADamagedImageOrOneInARectangleOfNoSizeDrawsNothing) {
+  CairoCanvas source(PictureFormat::png, {4, 4});
+  source.fillRect({0, 0, 4, 4});
+  const std::string png = written(source);
+  const auto damaged = decoded(png.substr(0, png.size() - 20));
+  ASSERT_NE(damaged, nullptr);
+  CairoCanvas canvas(PictureFormat::png, {8, 8});
+  canvas.drawImage(*damaged, {0, 0, 8, 8});
+  canvas.drawImage(*decoded(png), {0, 0, 0, 8});
+  EXPECT_EQ(canvas.pixels(), std::vector<std::uint8_t>(8 * 8 * 4, 0));
+  EXPECT_EQ(canvas.error(), std::nullopt);
+}
+
 TEST(Picture, WhatIsStillOpenIsEnded) {
   CairoCanvas canvas(PictureFormat::png, {1, 1});
   canvas.save();

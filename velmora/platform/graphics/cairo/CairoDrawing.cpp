@@ -29,6 +29,12 @@ std::optional<PictureError> checkedSize(PictureFormat format, Size size, double 
                           decimalText(sides.width, 0) + " x " + decimalText(sides.height, 0)};
 }
 
+/// How far a curve's pieces may be from it, in pixels: a tenth, or a twentieth of a point where that is more.
+/// Finer pieces cost much time and are not seen.
+double curveTolerance(PictureFormat format, double scale) {
+  return format == PictureFormat::png ? std::max(0.1, 0.05 * scale) : 0.1;
+}
+
 /// A surface that Cairo refuses, so that drawing on it has no effect.
 CairoSurface refusedSurface() {
   return CairoSurface(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, -1, -1));
@@ -59,6 +65,7 @@ CairoCanvas::Drawing::Drawing(PictureFormat pictureFormat, Size pictureSize, dou
       sizeError(checkedSize(format, size, scale)),
       _surface(sizeError ? refusedSurface() : makeSurface(format, size, scale)),
       _context(cairo_create(_surface.get())) {
+  cairo_set_tolerance(context(), curveTolerance(format, scale));
   cairo_set_line_width(context(), 1);
   if (format == PictureFormat::png) cairo_scale(context(), scale, scale);
 }

@@ -54,6 +54,7 @@ void paintImage(cairo_t* context, const Image& image, const Rect& rect, double a
   cairo_scale(context, rect.width / static_cast<double>(image.pixelSize().width),
               rect.height / static_cast<double>(image.pixelSize().height));
   cairo_set_source_surface(context, surface.get(), 0, 0);
+  cairo_pattern_set_extend(cairo_get_source(context), CAIRO_EXTEND_PAD);  // edges do not fade
   cairo_paint_with_alpha(context, alpha);
 }
 
