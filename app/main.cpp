@@ -1,8 +1,11 @@
+#include <csignal>
 #include <iostream>
 
-#include <velmora/Version.h>
+#include <app/Run.h>
 
-int main() {
-  std::cout << "velmora " << velmora::VelmoraVersionString << '\n';
-  return 0;
+int main(int count, char** values) {
+  std::signal(SIGPIPE, SIG_IGN);  // a closed output is an exit status, not a death
+  std::ios::sync_with_stdio(false);
+  std::cin.tie(nullptr);
+  return velmora::app::run({values + 1, values + count}, std::cin, std::cout, std::cerr);
 }

@@ -1,0 +1,25 @@
+#include <app/Errors.h>
+
+namespace velmora::app {
+namespace {
+
+constexpr std::size_t longestQuotation = 80;
+
+bool continuesCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; }
+
+bool isControl(char byte) { return static_cast<unsigned char>(byte) < 0x20U || byte == 0x7F; }
+
+}  // namespace
+
+std::string quote(std::string_view input) {
+  std::string text = "'";
+  std::size_t characters = 0;
+  for (const char byte : input) {
+    if (!continuesCharacter(byte) && ++characters > longestQuotation) return text + "…'";
+    if (text.size() > 4 * longestQuotation) return text + "…'";  // not UTF-8: a run of continuation bytes
+    text += isControl(byte) ? '?' : byte;
+  }
+  return text + "'";
+}
+
+}  // namespace velmora::app

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+namespace velmora::app {
+
+/// What was asked cannot be answered as it was asked; the message says what was wrong and what is accepted.
+/// Ends the program with exit status 2.
+class BadInput : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+/// A resource or the output failed. Ends the program with exit status 1, silently if the message is empty.
+class Failure : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+/// The input in quotation marks for a message of one line: cut after 80 characters, control characters
+/// replaced.
+std::string quote(std::string_view input);
+
+}  // namespace velmora::app

@@ -1,0 +1,68 @@
+#include <app/place/Place.h>
+
+#include <app/Errors.h>
+#include <app/place/CityTable.h>
+
+namespace velmora::app {
+namespace {
+
+struct Spot {
+  double latitude, longitude;
+  std::optional<std::string> name;
+  TimeZone zone;
+};
+
+const City& cityNamed(const std::string& spelling) {
+  const CityTable& table = CityTable::system();
+  if (const City* city = table.find(spelling)) return *city;
+  throw BadInput("city " + quote(spelling) + " is not in the zone table; nearest: " +
+                 table.nearestCities(spelling) + "; any other place: lat and lon");
+}
+
+TimeZone zoneNamed(const std::string& identifier) {
+  const auto zone = TimeZone::named(identifier);
+  if (!zone) throw Failure("time zone " + quote(identifier) + " is missing in the system's zone database");
+  return *zone;
+}
+
+Spot spotOf(const Request& request) {
+  if (request.latitude) {
+    return {*request.latitude, *request.longitude, std::nullopt, TimeZone::defaultZone()};
+  }
+  if (request.city) {
+    const City& city = cityNamed(*request.city);
+    return {city.latitude, city.longitude, city.name, zoneNamed(city.zone)};
+  }
+  const GeoLocationData& home = *GeoLocationData::DefaultLocation();
+  return {home.latitude, home.longitude, home.name, zoneNamed(home.timezoneId.value_or("GMT"))};
+}
+
+void checkTogether(const Request& request) {
+  if (request.latitude.has_value() != request.longitude.has_value())
+    throw BadInput("lat and lon come together: give both, or a city");
+  if (request.latitude && request.city)
+    throw BadInput("a city and lat, lon exclude each other: give one of the two");
+  if (request.zone && request.gmtOffset)
+    throw BadInput("tz and gmt-offset exclude each other: give one of the two");
+}
+
+}  // namespace
+
+std::string Place::heading() const {
+  return (location.name ? *location.name + "\n" : "") + location.locationText + ", " + zone.name() + "\n";
+}
+
+Place placeOf(const Request& request) {
+  checkTogether(request);
+  Spot spot = spotOf(request);
+  if (request.name) spot.name = request.name;
+  if (request.zone) spot.zone = *request.zone;
+  if (request.gmtOffset) spot.zone = TimeZone::fixed(*request.gmtOffset);
+
+  Place place{GeoLocationData(), spot.zone};
+  place.location.SetLocation(spot.latitude, spot.longitude, spot.name, spot.zone.name(),
+                             request.gmtOffset.value_or(0), false);
+  return place;
+}
+
+}  // namespace velmora::app

@@ -1,0 +1,102 @@
+#include <app/request/CommandLine.h>
+
+#include <map>
+
+#include <CLI/CLI.hpp>
+
+#include <app/Errors.h>
+#include <app/commands/Command.h>
+#include <app/request/Options.h>
+#include <app/text/Spelling.h>
+
+namespace velmora::app {
+namespace {
+
+void declare(CLI::App& parser, const Command& command) {
+  parser.allow_extras();
+  for (const std::string_view name : command.options) {
+    const std::string spelling = (name == command.positional ? "" : "--") + std::string(name);
+    if (findOption(name)->isSwitch()) {
+      parser.add_flag(spelling);
+    } else {
+      parser.add_option(spelling)->type_size(1)->expected(1)->multi_option_policy(
+          CLI::MultiOptionPolicy::TakeAll);
+    }
+  }
+}
+
+[[noreturn]] void refuse(const std::string& extra, const Command& command, bool commandWasNamed) {
+  if (extra.starts_with("--")) {
+    std::vector<std::string> options;
+    for (const auto name : command.options) options.push_back("--" + std::string(name));
+    throw BadInput(quote(extra) + " is not an option of " + std::string(command.name) + "; nearest: " +
+                   nearest(extra, options) + "; all: velmora " + std::string(command.name) + " --help");
+  }
+  if (commandWasNamed)
+    throw BadInput(std::string(command.name) + " does not take " + quote(extra) +
+                   "; what it takes: velmora " + std::string(command.name) + " --help");
+  std::string names;
+  for (const Command* known : allCommands()) names += (names.empty() ? "" : ", ") + std::string(known->name);
+  throw BadInput(quote(extra) + " is not a command; accepted: " + names);
+}
+
+/// What was given to each option, by its name, before and after the command.
+using Values = std::map<std::string, std::vector<std::string>>;
+
+void collect(const CLI::App& parser, Values& values) {
+  for (const CLI::Option* option : parser.get_options()) {
+    auto& list = values[option->get_single_name()];
+    list.insert(list.end(), option->results().begin(), option->results().end());
+  }
+}
+
+void readOption(const std::string& name, const std::vector<std::string>& values, Request& request) {
+  const Command& command = *request.command;
+  if (!command.takes(name)) throw BadInput("--" + name + " is not an option of " + std::string(command.name));
+  const Option& option = *findOption(name);
+  if (option.isSwitch() && values.front() != "true") throw BadInput("--" + name + " takes no value");
+  if (!option.isSwitch() && values.size() > 1) throw BadInput("--" + name + " is given more than once");
+  readOptionText(option, values.front(), request);
+}
+
+/// In the order in which the parser takes them, the last first; a number that begins with its decimal point
+/// would look like an option to it.
+std::vector<std::string> parserArguments(const std::vector<std::string>& arguments) {
+  std::vector<std::string> list(arguments.rbegin(), arguments.rend());
+  for (std::string& argument : list) {
+    if (argument.starts_with("-.")) argument.insert(1, "0");
+  }
+  return list;
+}
+
+}  // namespace
+
+Request requestFromArguments(const std::vector<std::string>& arguments) {
+  CLI::App parser;
+  parser.set_help_flag();
+  parser.require_subcommand(0, 1);
+  declare(parser, *allCommands().front());
+  for (const Command* command : allCommands())
+    declare(*parser.add_subcommand(std::string(command->name)), *command);
+  try {
+    parser.parse(parserArguments(arguments));
+    const auto named = parser.get_subcommands();
+    Request request;
+    request.command = named.empty() ? allCommands().front() : findCommand(named.front()->get_name());
+    const auto extras = parser.remaining(true);
+    if (!extras.empty()) refuse(extras.front(), *request.command, !named.empty());
+    Values values;
+    collect(parser, values);
+    if (!named.empty()) collect(*named.front(), values);
+    for (const auto& [name, given] : values) {
+      if (!given.empty()) readOption(name, given, request);
+    }
+    return request;
+  } catch (const CLI::ArgumentMismatch&) {
+    throw BadInput(quote(arguments.back()) + " needs a value");
+  } catch (const CLI::ParseError& error) {
+    throw BadInput(quote(error.what()));
+  }
+}
+
+}  // namespace velmora::app

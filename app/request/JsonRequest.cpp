@@ -1,0 +1,73 @@
+#include <app/request/JsonRequest.h>
+
+#include <app/Errors.h>
+#include <app/commands/Command.h>
+#include <app/request/Options.h>
+#include <app/text/Spelling.h>
+
+namespace velmora::app {
+namespace {
+
+constexpr int deepestNesting = 16;
+
+/// Stops the parser before a deep value is built: values are destroyed and written by recursion.
+bool checkNesting(int depth, Json::parse_event_t event, const Json&) {
+  const bool opens = event == Json::parse_event_t::object_start || event == Json::parse_event_t::array_start;
+  if (opens && depth > deepestNesting)
+    throw BadInput("the line is nested too deeply; accepted: one object of plain values");
+  return true;
+}
+
+std::string commandNames() {
+  std::string names;
+  for (const Command* command : allCommands()) {
+    if (command->json) names += (names.empty() ? "" : ", ") + std::string(command->name);
+  }
+  return names;
+}
+
+const Command& commandOf(const Json& object) {
+  const auto op = object.find("op");
+  if (op == object.end()) throw BadInput("op is missing; accepted: " + commandNames());
+  if (!op->is_string()) throw BadInput("op is not a text; accepted: " + commandNames());
+  const Command* command = findCommand(op->get_ref<const std::string&>());
+  if (!command || !command->json)
+    throw BadInput("op " + quote(op->get_ref<const std::string&>()) +
+                   " is not known; accepted: " + commandNames());
+  return *command;
+}
+
+const Option& optionOf(const std::string& name, const Command& command) {
+  const Option* option = command.takes(name) ? findOption(name) : nullptr;
+  if (option && !option->onlyOnCommandLine) return *option;
+  std::vector<std::string> accepted;
+  for (const auto known : command.options) {
+    if (!findOption(known)->onlyOnCommandLine) accepted.emplace_back(known);
+  }
+  throw BadInput(quote(name) + " is not an option of " + std::string(command.name) +
+                 "; nearest: " + nearest(name, accepted));
+}
+
+}  // namespace
+
+Json jsonFromLine(std::string_view line) {
+  try {
+    return Json::parse(line.begin(), line.end(), checkNesting);
+  } catch (const Json::parse_error& error) {
+    throw BadInput("the line is not valid JSON at byte " + std::to_string(error.byte) +
+                   "; accepted: one object in UTF-8");
+  } catch (const Json::out_of_range&) {
+    throw BadInput("the line holds a number out of range; accepted: what fits a double");
+  }
+}
+
+Request requestFromJson(const Json& object) {
+  Request request;
+  request.command = &commandOf(object);
+  for (const auto& [name, value] : object.items()) {
+    if (name != "op" && name != "id") readOptionJson(optionOf(name, *request.command), value, request);
+  }
+  return request;
+}
+
+}  // namespace velmora::app

@@ -1,0 +1,202 @@
+#include <app/request/Options.h>
+
+#include <algorithm>
+#include <cmath>
+
+#include <app/Errors.h>
+#include <app/place/CityTable.h>
+#include <app/request/ValueTexts.h>
+
+namespace velmora::app {
+namespace {
+
+constexpr double farthestGmtOffset = 18 * 3600;
+
+double within(double number, double limit) {
+  if (!(std::abs(number) <= limit)) throw BadInput("is out of range");
+  return number;
+}
+
+std::int64_t wholeNumber(double number) {
+  if (number != std::floor(number)) throw BadInput("is not a whole number");
+  return static_cast<std::int64_t>(number);
+}
+
+template <typename Value>
+Value oneOf(const std::string& text, const std::vector<std::pair<std::string_view, Value>>& values) {
+  for (const auto& [name, value] : values) {
+    if (name == text) return value;
+  }
+  throw BadInput("is not known");
+}
+
+CivilDate date(const std::string& text) {
+  const auto date = dateFromText(text);
+  if (!date) throw BadInput("is not a date that exists");
+  if (date->year() < firstYear || date->year() > lastYear) throw BadInput("is out of range");
+  return *date;
+}
+
+ClockTime timeOfDay(const std::string& text) {
+  const auto time = timeFromText(text);
+  if (!time) throw BadInput("is not a time of day");
+  return *time;
+}
+
+Instant instant(const std::string& text) {
+  const auto instant = instantFromText(text);
+  if (!instant) throw BadInput("is not an instant");
+  const CivilDate day(std::chrono::floor<std::chrono::days>(*instant));
+  if (day.year() < firstYear || day.year() > lastYear) throw BadInput("is out of range");
+  return *instant;
+}
+
+TimeZone zone(const std::string& text) {
+  auto zone = TimeZone::named(text);
+  if (!zone) throw BadInput("is not a time zone (nearest: " + CityTable::system().nearestZones(text) + ")");
+  return *zone;
+}
+
+Locale locale(const std::string& text) {
+  constexpr std::size_t longest = 64;
+  const auto allowed = [](char c) {
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_' ||
+           c == '-' || c == '@' || c == '=' || c == '.';
+  };
+  if (text.empty() || text.size() > longest || !std::all_of(text.begin(), text.end(), allowed))
+    throw BadInput("is not a locale identifier");
+  return Locale(text);
+}
+
+void setClock(Request& request, Locale::HourCycle cycle) {
+  if (request.clock && *request.clock != cycle) throw BadInput("contradicts the clock chosen before");
+  request.clock = cycle;
+}
+
+constexpr std::string_view dateForm = "YYYY-MM-DD from 1900-01-01 to 2100-12-31";
+
+std::vector<Option> makeOptions() {
+  using Switch = Option::Switch;
+  using Number = Option::Number;
+  using Text = Option::Text;
+  return {
+      {"city", "NAME", "a city of the system's time zone table, spelled freely", "", false,
+       Text([](Request& r, const std::string& v) { r.city = v; })},
+      {"lat", "DEGREES", "latitude, north positive", "-90 to 90 degrees", false,
+       Number([](Request& r, double v) { r.latitude = within(v, 90); })},
+      {"lon", "DEGREES", "longitude, east positive", "-180 to 180 degrees", false,
+       Number([](Request& r, double v) { r.longitude = within(v, 180); })},
+      {"tz", "ZONE", "time zone of the place", "an identifier such as Europe/Helsinki, UTC or GMT+05:30",
+       false, Text([](Request& r, const std::string& v) { r.zone = zone(v); })},
+      {"gmt-offset", "SECONDS", "fixed offset from GMT in place of a time zone",
+       "whole seconds from -64800 to 64800 (18 hours), east positive", false,
+       Number([](Request& r, double v) { r.gmtOffset = wholeNumber(within(v, farthestGmtOffset)); })},
+      {"name", "TEXT", "what to call the place", "", false,
+       Text([](Request& r, const std::string& v) { r.name = v; })},
+      {"date", "YYYY-MM-DD", "the day (default: today)", dateForm, false,
+       Text([](Request& r, const std::string& v) { r.date = date(v); })},
+      {"time", "HH:MM", "the time of day at the place", "HH:MM from 00:00 to 23:59", false,
+       Text([](Request& r, const std::string& v) { r.time = timeOfDay(v); })},
+      {"from", "YYYY-MM-DD", "first day of a range", dateForm, false,
+       Text([](Request& r, const std::string& v) { r.from = date(v); })},
+      {"to", "YYYY-MM-DD", "last day of a range, at most 41 years long", dateForm, false,
+       Text([](Request& r, const std::string& v) { r.to = date(v); })},
+      {"twilight", "KIND", "civil (default), nautical or astronomical", "civil, nautical or astronomical",
+       false, Text([](Request& r, const std::string& v) {
+         r.twilight = oneOf<Twilight>(v, {{"civil", Twilight::civil},
+                                          {"nautical", Twilight::nautical},
+                                          {"astronomical", Twilight::astronomical}});
+       })},
+      {"body", "BODY", "moon (default) or sun", "moon or sun", false,
+       Text([](Request& r, const std::string& v) {
+         r.body = oneOf<Body>(v, {{"moon", Body::moon}, {"sun", Body::sun}});
+       })},
+      {"degrees", "DEGREES", "elevation above the horizon", "-90 to 90 degrees", false,
+       Number([](Request& r, double v) { r.degrees = within(v, 90); })},
+      {"intermediate", "", "also list the hourly positions after the first event", "", false,
+       Switch([](Request& r) { r.intermediate = true; })},
+      {"now", "INSTANT", "the present, in place of the clock",
+       "an ISO 8601 instant such as 2024-06-20T12:00:00Z, from 1900 to 2100", false,
+       Text([](Request& r, const std::string& v) { r.now = instant(v); })},
+      {"clock", "FORM", "24h or 12h (default: the locale's habit)", "24h or 12h", false,
+       Text([](Request& r, const std::string& v) {
+         setClock(r, oneOf<Locale::HourCycle>(
+                         v, {{"24h", Locale::HourCycle::h24}, {"12h", Locale::HourCycle::h12}}));
+       })},
+      {"24h", "", "the same as --clock 24h", "", true,
+       Switch([](Request& r) { setClock(r, Locale::HourCycle::h24); })},
+      {"12h", "", "the same as --clock 12h", "", true,
+       Switch([](Request& r) { setClock(r, Locale::HourCycle::h12); })},
+      {"locale", "ID", "language and region, such as en_US", "letters, digits and _ - @ = . (at most 64)",
+       false, Text([](Request& r, const std::string& v) { r.locale = locale(v); })},
+      {"json", "", "answer in JSON", "", true, Switch([](Request& r) { r.json = true; })},
+      {"color", "WHEN", "bold headings: auto (default), always or never", "auto, always or never", true,
+       Text([](Request& r, const std::string& v) {
+         r.color = oneOf<ColorChoice>(v, {{"auto", ColorChoice::automatic},
+                                          {"always", ColorChoice::always},
+                                          {"never", ColorChoice::never}});
+       })},
+      {"help", "", "say what is accepted", "", true, Switch([](Request& r) { r.help = true; })},
+      {"version", "", "say which version this is", "", true, Switch([](Request& r) { r.version = true; })},
+  };
+}
+
+/// Runs a reader; what it finds wrong becomes a whole message.
+template <typename Read>
+void reading(const Option& option, const std::string& label, std::string_view value, Read read) {
+  try {
+    read();
+  } catch (const BadInput& error) {
+    std::string message = label + (option.isSwitch() ? "" : " " + quote(value)) + " " + error.what();
+    if (!option.accepts.empty()) message += "; accepted: " + std::string(option.accepts);
+    throw BadInput(message);
+  }
+}
+
+void readText(const Option& option, const std::string& value, Request& request) {
+  if (const auto* text = std::get_if<Option::Text>(&option.read)) return (*text)(request, value);
+  const auto number = numberFromText(value);
+  if (!number) throw BadInput("is not a number");
+  std::get<Option::Number>(option.read)(request, *number);
+}
+
+void readJson(const Option& option, const Json& value, Request& request) {
+  if (const auto* text = std::get_if<Option::Text>(&option.read)) {
+    if (!value.is_string()) throw BadInput("is not a text");
+    return (*text)(request, value.get_ref<const std::string&>());
+  }
+  if (const auto* number = std::get_if<Option::Number>(&option.read)) {
+    if (!value.is_number()) throw BadInput("is not a number");
+    return (*number)(request, value.get<double>());
+  }
+  if (!value.is_boolean()) throw BadInput("is neither true nor false");
+  if (value.get<bool>()) std::get<Option::Switch>(option.read)(request);
+}
+
+}  // namespace
+
+const std::vector<Option>& allOptions() {
+  static const std::vector<Option> options = makeOptions();
+  return options;
+}
+
+const Option* findOption(std::string_view name) {
+  const auto& options = allOptions();
+  const auto found =
+      std::find_if(options.begin(), options.end(), [&](const Option& option) { return option.name == name; });
+  return found == options.end() ? nullptr : &*found;
+}
+
+void readOptionText(const Option& option, const std::string& value, Request& request) {
+  reading(option, "--" + std::string(option.name), value, [&] {
+    if (const auto* turnOn = std::get_if<Option::Switch>(&option.read)) return (*turnOn)(request);
+    readText(option, value, request);
+  });
+}
+
+void readOptionJson(const Option& option, const Json& value, Request& request) {
+  const std::string text = value.is_string() ? value.get<std::string>() : jsonLine(value);
+  reading(option, std::string(option.name), text, [&] { readJson(option, value, request); });
+}
+
+}  // namespace velmora::app

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include <velmora/platform/time/Instant.h>
+#include <velmora/platform/time/Locale.h>
+#include <velmora/platform/time/TimeZone.h>
+
+namespace velmora::app {
+
+struct Command;
+
+/// A day on the calendar, of no zone.
+using CivilDate = std::chrono::year_month_day;
+/// A reading of a clock, in minutes after 00:00.
+using ClockTime = std::chrono::minutes;
+
+enum class Body { moon, sun };
+/// In the order of the rise/set search's twilight index.
+enum class Twilight { civil, nautical, astronomical };
+enum class ColorChoice { automatic, always, never };
+
+/// One question to the program, read from the command line or from a line of a batch. What was not given is
+/// none; each value is valid by itself, but how values go together is seen where they are used.
+struct Request {
+  const Command* command = nullptr;
+
+  std::optional<double> latitude;   ///< degrees, north positive
+  std::optional<double> longitude;  ///< degrees, east positive
+  std::optional<TimeZone> zone;
+  std::optional<std::int64_t> gmtOffset;  ///< seconds, east positive
+  std::optional<std::string> city;
+  std::optional<std::string> name;
+
+  std::optional<CivilDate> date;
+  std::optional<ClockTime> time;
+  std::optional<CivilDate> from;
+  std::optional<CivilDate> to;
+  std::optional<Instant> now;
+
+  Twilight twilight = Twilight::civil;
+  Body body = Body::moon;
+  std::optional<double> degrees;  ///< an elevation above the horizon
+  bool intermediate = false;
+
+  std::optional<Locale::HourCycle> clock;
+  std::optional<Locale> locale;
+  bool json = false;
+  ColorChoice color = ColorChoice::automatic;
+  bool help = false;
+  bool version = false;
+};
+
+}  // namespace velmora::app

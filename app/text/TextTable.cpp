@@ -1,0 +1,61 @@
+#include <app/text/TextTable.h>
+
+#include <algorithm>
+#include <numeric>
+
+namespace velmora::app {
+namespace {
+
+/// Characters, not bytes: each character of UTF-8 has one byte that continues none.
+std::size_t length(const std::string& text) {
+  return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char byte) {
+    return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;
+  }));
+}
+
+void trimEnd(std::string& line) { line.erase(line.find_last_not_of(' ') + 1); }
+
+std::string lineOf(const TextTable::Row& row, const std::vector<std::size_t>& widths, std::size_t gap) {
+  std::string line;
+  std::size_t column = 0, end = 0;
+  for (const auto& cell : row) {
+    line.append(end - std::min(end, length(line)), ' ');
+    line += cell.text;
+    for (std::size_t i = 0; i < cell.span && column < widths.size(); ++i) end += widths[column++] + gap;
+  }
+  trimEnd(line);
+  return line;
+}
+
+}  // namespace
+
+std::vector<std::size_t> TextTable::columnWidths() const {
+  std::vector<std::size_t> widths;
+  for (const auto& text : _headings) widths.push_back(length(text));
+  for (const Row& row : _rows) {
+    std::size_t column = 0;
+    for (const Cell& cell : row) {
+      if (cell.span == 1) widths[column] = std::max(widths[column], length(cell.text));
+      column += cell.span;
+    }
+  }
+  return widths;
+}
+
+std::size_t TextTable::width(std::size_t gap) const {
+  const auto widths = columnWidths();
+  return std::accumulate(widths.begin(), widths.end(), gap * (widths.size() - 1));
+}
+
+std::string TextTable::text(bool boldHeadings) const {
+  const auto widths = columnWidths();
+  const std::size_t gap = width(2) <= pageWidth ? 2 : 1;
+  std::string lines =
+      heading(lineOf(Row(_headings.begin(), _headings.end()), widths, gap), boldHeadings) + "\n";
+  for (const Row& row : _rows) lines += lineOf(row, widths, gap) + "\n";
+  return lines;
+}
+
+std::string heading(const std::string& text, bool bold) { return bold ? "\033[1m" + text + "\033[0m" : text; }
+
+}  // namespace velmora::app

@@ -1,0 +1,123 @@
+#include <app/Errors.h>
+
+#include "AppTest.h"
+
+namespace velmora::app {
+namespace {
+
+struct BadInputCase {
+  const char* name;
+  std::vector<std::string> arguments;
+  std::vector<std::string> said;  ///< parts of the message: what was wrong, what is accepted
+};
+
+void PrintTo(const BadInputCase& badInput, std::ostream* out) { *out << badInput.name; }
+
+class BadInputTest : public AppTest, public ::testing::WithParamInterface<BadInputCase> {};
+
+TEST_P(BadInputTest, IsRefusedWithOneLineAndNothingPrinted) {
+  const Outcome outcome = runProgram(GetParam().arguments);
+  EXPECT_EQ(outcome.status, 2);
+  EXPECT_EQ(outcome.out, "");
+  EXPECT_EQ(linesOf(outcome.err).size(), 1U) << outcome.err;
+  for (const std::string& part : GetParam().said)
+    EXPECT_NE(outcome.err.find(part), std::string::npos) << part << " is missing in " << outcome.err;
+}
+
+const std::string years = "1900-01-01 to 2100-12-31";
+
+INSTANTIATE_TEST_SUITE_P(
+    Everywhere, BadInputTest,
+    ::testing::ValuesIn(std::vector<BadInputCase>{
+        {"LatitudeNorthOfThePole", {"--lat", "90.1", "--lon", "0"}, {"--lat '90.1'", "-90 to 90"}},
+        {"LatitudeSouthOfThePole", {"--lat", "-91", "--lon", "0"}, {"--lat '-91'", "-90 to 90"}},
+        {"LatitudeThatIsNoNumber", {"--lat", "nan", "--lon", "0"}, {"'nan' is not a number", "-90 to 90"}},
+        {"InfiniteLongitude", {"--lat", "1", "--lon", "inf"}, {"'inf' is not a number", "-180 to 180"}},
+        {"LongitudeTooFarEast", {"--lat", "1", "--lon", "180.5"}, {"--lon '180.5'", "-180 to 180"}},
+        {"LongitudeTooFarWest", {"--lat", "1", "--lon", "-181"}, {"--lon '-181'", "-180 to 180"}},
+        {"LatitudeAlone", {"--lat", "1"}, {"lat and lon come together"}},
+        {"LongitudeAlone", {"--lon", "1"}, {"lat and lon come together"}},
+        {"CityAndCoordinates", {"--city", "Helsinki", "--lat", "1", "--lon", "1"}, {"exclude each other"}},
+        {"UnknownCity", {"--city", "Helsinky"}, {"'Helsinky'", "nearest: Helsinki", "lat and lon"}},
+        {"UnknownZone", {"--tz", "Europe/Helsinky"}, {"'Europe/Helsinky'", "nearest: Europe/Helsinki"}},
+        {"ZoneThatLeavesTheDatabase", {"--tz", "../../etc/passwd"}, {"is not a time zone"}},
+        {"ZoneAndOffset", {"--tz", "UTC", "--gmt-offset", "0"}, {"exclude each other"}},
+        {"OffsetBeyondEighteenHours",
+         {"--gmt-offset", "64801"},
+         {"'64801' is out of range", "-64800 to 64800"}},
+        {"OffsetBeyondEighteenHoursWest", {"--gmt-offset", "-64801"}, {"'-64801' is out of range"}},
+        {"OffsetOfHalfASecond", {"--gmt-offset", "0.5"}, {"whole number"}},
+        {"DateThatDoesNotExist", {"--date", "2023-02-29"}, {"'2023-02-29' is not a date that exists", years}},
+        {"DateBefore1900", {"--date", "1899-12-31"}, {"out of range", years}},
+        {"DateAfter2100",
+         {"riseset", "--from", "2100-12-31", "--to", "2101-01-01"},
+         {"--to '2101-01-01'", years}},
+        {"DateThatThePlaceSkipped",
+         {"--city", "Apia", "--date", "2011-12-30"},
+         {"2011-12-30", "Pacific/Apia"}},
+        {"TimeOfDay", {"position", "--time", "24:00"}, {"'24:00'", "00:00 to 23:59"}},
+        {"RangeBackwards", {"riseset", "--from", "2024-01-02", "--to", "2024-01-01"}, {"backwards"}},
+        {"RangeOver41Years", {"riseset", "--from", "2000-01-01", "--to", "2041-01-01"}, {"at most 41 years"}},
+        {"RangeWithoutEnd", {"riseset", "--from", "2024-01-02"}, {"from and to come together"}},
+        {"RangeAndDate",
+         {"riseset", "--date", "2024-01-01", "--from", "2024-01-02", "--to", "2024-01-03"},
+         {"exclude each other"}},
+        {"Now", {"--now", "yesterday"}, {"'yesterday'", "ISO 8601"}},
+        {"NowBefore1900", {"--now", "1899-12-31T00:00:00Z"}, {"out of range", "from 1900 to 2100"}},
+        {"ElevationAbove90", {"elevation", "90.5"}, {"'90.5' is out of range", "-90 to 90"}},
+        {"ElevationBelowMinus90", {"elevation", "-91"}, {"'-91' is out of range", "-90 to 90"}},
+        {"ElevationMissing", {"elevation"}, {"elevation is missing", "-90 to 90"}},
+        {"ElevationTwice", {"elevation", "1", "2"}, {"does not take '2'"}},
+        {"Twilight", {"--twilight", "dark"}, {"'dark' is not known", "civil, nautical or astronomical"}},
+        {"Body", {"position", "--body", "mars"}, {"'mars' is not known", "moon or sun"}},
+        {"Clock", {"--clock", "25h"}, {"'25h'", "24h or 12h"}},
+        {"BothClocks", {"--24h", "--12h"}, {"contradicts"}},
+        {"Locale", {"--locale", "en US"}, {"'en US'", "letters"}},
+        {"Color", {"--color", "blue"}, {"'blue'", "auto, always or never"}},
+        {"UnknownOption", {"riseset", "--form", "2024-01-01"}, {"'--form'", "nearest: --from"}},
+        {"OptionOfAnotherCommand",
+         {"position", "--twilight", "civil"},
+         {"'--twilight' is not an option of position"}},
+        {"OptionOfAnotherCommandInFront",
+         {"--twilight", "civil", "position"},
+         {"--twilight is not an option of position"}},
+        {"OptionTwice",
+         {"--city", "Helsinki", "riseset", "--city", "Oslo"},
+         {"--city is given more than once"}},
+        {"OptionWithoutValue", {"position", "--body"}, {"'--body' needs a value"}},
+        {"SwitchWithValue", {"--json=yes"}, {"--json takes no value"}},
+        {"UnknownCommand",
+         {"risset"},
+         {"'risset' is not a command", "today, riseset, position, track, elevation, batch"}},
+        {"TwoCommands", {"riseset", "position"}, {"riseset does not take 'position'"}},
+    }),
+    [](const auto& input) { return std::string(input.param.name); });
+
+using QuotationTest = AppTest;
+
+TEST_F(QuotationTest, IsCutAfterEightyCharacters) {
+  const Outcome outcome = runProgram({"--city", std::string(100'000, 'x')});
+  EXPECT_EQ(outcome.status, 2);
+  EXPECT_NE(outcome.err.find("'" + std::string(80, 'x') + "…'"), std::string::npos);
+  EXPECT_EQ(outcome.err.find(std::string(81, 'x')), std::string::npos);
+}
+
+TEST_F(QuotationTest, CountsCharactersAndNeverCutsOne) {
+  std::string input;
+  for (int i = 0; i < 81; ++i) input += "é";
+  EXPECT_EQ(quote(input), "'" + input.substr(0, 160) + "…'");
+  EXPECT_EQ(quote(input.substr(0, 160)), "'" + input.substr(0, 160) + "'");
+}
+
+TEST_F(QuotationTest, StaysOnOneLine) {
+  const Outcome outcome = runProgram({"--city", "a\nb\x1b[1m\r"});
+  EXPECT_EQ(linesOf(outcome.err).size(), 1U);
+  EXPECT_NE(outcome.err.find("'a?b?[1m?'"), std::string::npos);
+}
+
+TEST_F(QuotationTest, OfBytesThatAreNoCharactersIsBounded) {
+  EXPECT_LT(quote(std::string(100'000, '\x80')).size(), 400U);
+}
+
+}  // namespace
+}  // namespace velmora::app
