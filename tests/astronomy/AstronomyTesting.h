@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <fstream>
+#include <locale>
 #include <optional>
 #include <sstream>
 #include <string>

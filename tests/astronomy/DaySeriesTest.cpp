@@ -76,6 +76,17 @@ TEST(MoonTrack, HasTheLocalHours0To24OfTheLocalDate) {
   }
 }
 
+TEST(MoonTrack, PacificApiaSkippedADay) {
+  const GeoLocationData apia = placeAt(-13.8333, -171.7667, "Pacific/Apia");
+  const auto before =
+      Calc::Get24HourMoonPositionsForDate(inZone("Pacific/Apia", 2011, 12, 29, 12), apia, -10 * 3600);
+  const auto after =
+      Calc::Get24HourMoonPositionsForDate(inZone("Pacific/Apia", 2011, 12, 31, 12), apia, 14 * 3600);
+  EXPECT_NEAR(before.back().altitude, after.front().altitude,
+              1e-9);  // midnight of the 29th is that of the 31st
+  EXPECT_NEAR(before.back().azimuth, after.front().azimuth, 1e-9);
+}
+
 TEST(SunTrack, StartsAtTheWholeUniversalHourAndRunsOverMidnight) {
   const GeoLocationData place = placeAt(37.78549082, -122.39184303, "America/Los_Angeles");
   const auto track = Calc::Get24HourSunPositionsForDate(utc(2024, 6, 21, 20, 40), place, -25200);

@@ -164,6 +164,28 @@ TEST(MoonPosition, OfAnInstantIsReadOnThePlacesClock) {
   EXPECT_EQ(position.azimuthText, expected.azimuthText);
 }
 
+TEST(MoonPosition, LordHoweHalfHourShift) {
+  const GeoLocationData lordHowe = placeAt(-31.55, 159.0833, "Australia/Lord_Howe");
+  const Instant first = utc(2024, 4, 6, 14, 45), second = utc(2024, 4, 6, 15, 15);  // both 01:45 there
+  const PositionData before = Calc::ComputeMoonPosition(first, lordHowe, 39600);
+  const PositionData after = Calc::ComputeMoonPosition(second, lordHowe, 37800);
+  EXPECT_EQ(before.hour, 1.75);
+  EXPECT_EQ(after.hour, 1.75);
+  const auto byHour = [](double hour) {
+    return Calc::CalculateMoonPosition(159.0833 * degree, -31.55 * degree, 2024, 4, 6, hour, 0);
+  };
+  EXPECT_NEAR(before.altitude, byHour(14.75).altitude, 1e-5);
+  EXPECT_NEAR(after.altitude, byHour(15.25).altitude, 1e-5);
+}
+
+TEST(SunPosition, TrollTwoHourShift) {
+  const GeoLocationData troll = placeAt(-72.01, 2.53, "Antarctica/Troll");
+  const Instant change = utc(2024, 3, 31, 1);  // clocks go from 01:00 to 03:00
+  EXPECT_EQ(Calc::ComputeSunPosition(change - Seconds(60), troll, 0).hour, 0);
+  EXPECT_EQ(Calc::ComputeSunPosition(change + Seconds(3600), troll, 7200).hour, 0);  // two hours early
+  EXPECT_EQ(Calc::ComputeSunPosition(change + Seconds(7200), troll, 7200).hour, 3);
+}
+
 TEST(MoonPosition, OfAModifiedJulianDateIsTheSameInDegrees) {
   const double phi = 60.1699 * degree;
   const PositionData found = Calc::_find_moon_position(60369, 30.5, 24.9384, std::cos(phi), std::sin(phi));

@@ -86,17 +86,14 @@ std::vector<PositionData> eventsMatching(double elevation, Instant universalRead
     }
     const auto positionOfDay = [&](double hourOfDay) { return positionAt(day, hourOfDay); };
     const PositionData position = positionOfDay(hour);
-    if (isHit(elevation, position)) {
-      events.push_back(position);
-    } else {
-      if (previous && crossesHorizon(*previous, position)) {
-        if (auto event = refine(elevation, hour - 1, hour, *previous, positionOfDay)) {
-          events.push_back(std::move(*event));
-          ++refinedEvents;
-        }
+    const bool hit = isHit(elevation, position);
+    if (!hit && previous && crossesHorizon(*previous, position)) {
+      if (auto event = refine(elevation, hour - 1, hour, *previous, positionOfDay)) {
+        events.push_back(std::move(*event));
+        ++refinedEvents;
       }
-      if (includeIntermediateValues && !events.empty()) events.push_back(position);
     }
+    if (hit || (includeIntermediateValues && !events.empty())) events.push_back(position);
     previous = position;
   }
   return events;
