@@ -1,0 +1,94 @@
+#include <velmora/views/MoonCalendarView.h>
+
+#include <cmath>
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include <velmora/platform/graphics/TextLayout.h>
+#include <velmora/platform/resources/Bundle.h>
+#include <velmora/platform/time/Clock.h>
+#include <velmora/platform/time/DateFormatter.h>
+#include <velmora/platform/time/NumberText.h>
+#include <velmora/service/MoonPhaseData.h>
+
+namespace velmora {
+namespace {
+
+constexpr std::int64_t columns = 7;
+constexpr int mostRows = 6;
+constexpr double leftMargin = 5;
+constexpr double topMargin = 90;
+constexpr double heightOutsideRows = 85;
+constexpr double labelSide = 18;
+
+/// Where the pictures lie: square cells in rows that are as far apart as six of them fill the view.
+struct PictureGrid {
+  double cellSide;
+  double rowPitch;
+
+  explicit PictureGrid(Size view)
+      : cellSide(std::trunc(view.width / columns)),
+        rowPitch(std::trunc((view.height - heightOutsideRows) / mostRows)) {}
+
+  Rect picture(std::int64_t cell) const {
+    const auto column = static_cast<double>(cell % columns), row = static_cast<double>(cell / columns);
+    return {leftMargin + column * cellSide, topMargin + row * rowPitch, cellSide, cellSide};
+  }
+
+  /// Under the picture, its left edge where a number of one or two digits begins to look centred.
+  Rect label(std::int64_t day, Rect picture) const {
+    const double offset = std::trunc(cellSide / 2) - (day < 10 ? 0 : 4);
+    return {picture.x + offset, picture.y + cellSide, labelSide, labelSide};
+  }
+};
+
+/// The column, 0 to 6, of the month's first day: of its midnight in the process's zone, by intent, as the
+/// selected place's calendar sees it. None before a month is selected.
+std::optional<std::int64_t> columnOfFirstDay(const MoonPhaseData& service) {
+  DateFormatter reader;
+  reader.setDateFormat("yyyy-MM-dd");
+  reader.setLocale(Locale("en_US"));
+  const std::string text =
+      integerText(service.currentYear()) + "-" + integerText(service.currentMonth(), 2) + "-01";
+  const auto first = reader.dateFromString(text);
+  if (!first) return std::nullopt;
+  return service.calendar().components(*first).weekday - 1;
+}
+
+/// Today's day number when the selected month is the device's present one, else 0.
+std::int64_t todayIn(const MoonPhaseData& service) {
+  const DateComponents now = Calendar::currentCalendar().components(Clock::now());
+  const bool isThisMonth = now.month == service.currentMonth() && now.year == service.currentYear();
+  return isThisMonth ? now.day : 0;
+}
+
+// The number stays at the left of its label, by intent, and midway between top and bottom.
+void drawDayNumber(Canvas& canvas, std::int64_t day, Rect label, const Color& color) {
+  const TextLayout number(AttributedText(
+      integerText(day),
+      {.font = Font::named("Helvetica", 10), .color = color, .alignment = TextAlignment::left}));
+  canvas.setFillColor(Color::black());
+  canvas.fillRect(label);
+  number.drawInRect(canvas, label.inset(0, (labelSide - number.height()) * 0.5));
+}
+
+}  // namespace
+
+void MoonCalendarView::drawRect(Canvas& canvas, Rect rect) {
+  View::drawRect(canvas, rect);
+  MoonPhaseData& service = MoonPhaseData::sharedInstance();
+  const auto pictures = service.currentMonthImageDictionary();
+  const auto firstColumn = columnOfFirstDay(service);
+  if (pictures == nullptr || !firstColumn) return;
+  const std::int64_t today = todayIn(service);
+  const PictureGrid grid(bounds().size());
+  const Bundle bundle = Bundle::library();
+  for (const auto& [day, number] : *pictures) {
+    const Rect cell = grid.picture(*firstColumn + day - 1);
+    if (const auto picture = bundle.image("IMG_" + integerText(number))) canvas.drawImage(*picture, cell);
+    drawDayNumber(canvas, day, grid.label(day, cell), day == today ? Color::yellow() : Color::white());
+  }
+}
+
+}  // namespace velmora
