@@ -69,6 +69,12 @@ TEST(AttributedText, AppendedTextKeepsItsAttributes) {
   EXPECT_EQ(text.runs().back(), run(6, 8, cyan));
 }
 
+TEST(AttributedText, AppendedTextOfTheSameAttributesJoinsTheLastRun) {
+  AttributedText text;
+  for (const char* const letter : {"a", "b", "c"}) text.append(AttributedText(letter, white));
+  EXPECT_EQ(text, AttributedText("abc", white));
+}
+
 TEST(AttributedText, ASubstringKeepsItsAttributes) {
   AttributedText text("abcd", white);
   text.setColor(Color::cyan(), 2, 4);

@@ -21,7 +21,13 @@ void AttributedText::append(const AttributedText& other) {
   const std::size_t shift = _text.size();
   const std::vector<Run> added = other._runs;
   _text += other._text;
-  for (const Run& run : added) _runs.push_back({run.begin + shift, run.end + shift, run.attributes});
+  for (const Run& run : added) {
+    if (!_runs.empty() && _runs.back().attributes == run.attributes) {
+      _runs.back().end = run.end + shift;
+    } else {
+      _runs.push_back({run.begin + shift, run.end + shift, run.attributes});
+    }
+  }
 }
 
 AttributedText AttributedText::substring(std::size_t begin, std::size_t end) const {

@@ -54,6 +54,7 @@ class AttributedText {
   /// Gives the stretch from begin up to end another colour; what lies outside the text is left out.
   void setColor(const Color& color, std::size_t begin, std::size_t end);
 
+  /// Adds the other text at the end, to the last run as far as it has the same attributes.
   void append(const AttributedText& other);
 
   /// The stretch from begin up to end with its attributes.

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <memory>
+
+#include <velmora/platform/ui/View.h>
+#include <velmora/views/ArcTextView.h>
+
+namespace velmora {
+
+/// A chart of the Moon's way over the sky on five days: a ring and five arcs in it, each beginning 20 degrees
+/// after the one outside it and labelled with its day. Days and arcs are a fixed sample, by intent.
+class MoonPositionView : public View {
+ public:
+  static constexpr std::size_t dayCount = 5;
+  using TextViews = std::array<std::shared_ptr<ArcTextView>, dayCount>;
+
+  MoonPositionView();
+
+  /// The labels, the outermost arc's first.
+  const TextViews& textViews() const { return _textViews; }
+
+  /// Draws ring and arcs and sets the labels on their circles. From the second drawing on the labels' texts
+  /// run the other way, since an ArcTextView that is flipped already reverses its text once more, by intent.
+  void drawRect(Canvas& canvas, Rect rect) override;
+
+ private:
+  void drawDay(Canvas& canvas, std::size_t index, double radius);
+
+  TextViews _textViews;
+};
+
+}  // namespace velmora
