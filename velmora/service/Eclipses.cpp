@@ -58,8 +58,8 @@ MoonPhaseData::Eclipses readCatalogue(std::string_view text) {
     const std::string_view line = text.substr(0, end);
     text.remove_prefix(std::min(end + 1, text.size()));
     if (line.empty()) continue;
-    if (auto eclipse = readLine(line, dates, titles)) {
-      eclipses[eclipse->datetime] = std::move(eclipse);
+    if (const auto eclipse = readLine(line, dates, titles)) {
+      eclipses[eclipse->datetime] = eclipse;
     } else {
       Log::write("Invalid entry");
     }
@@ -74,6 +74,7 @@ bool isBetween(Instant instant, Instant startOfDay, std::int64_t fromMinute, std
 }
 
 constexpr std::int64_t minutesPerDay = 1440;
+constexpr std::chrono::hours twoDays{48};  // no day of a calendar is longer
 
 bool isMoonUp(Instant instant, Instant startOfDay, const RiseSetData& day) {
   const std::int64_t rise = day.moonRiseMinutesFromMidnight, set = day.moonSetMinutesFromMidnight;
@@ -98,12 +99,12 @@ std::shared_ptr<const EclipseInfo> MoonPhaseData::eventsOnDate(Instant date, con
   if (!_eventsData) loadEventsFromFile();
   if (!_eventsData) return nullptr;
 
-  Calendar calendar = Calendar::currentCalendar();
-  calendar.setTimeZone(inTimezone);
+  const Calendar calendar(inTimezone);
   const Instant startOfDay = calendar.startOfDay(date);
-  for (auto entry = _eventsData->lower_bound(startOfDay);
-       entry != _eventsData->end() && calendar.isSameDay(entry->first, date); ++entry) {
+  const auto end = _eventsData->upper_bound(date + twoDays);
+  for (auto entry = _eventsData->lower_bound(date - twoDays); entry != end; ++entry) {
     const auto& [instant, eclipse] = *entry;
+    if (!calendar.isSameDay(instant, date)) continue;
     const RiseSetData day = GetRiseSetDataForDate(date);
     const bool isUp =
         eclipse->isLunarEvent ? isMoonUp(instant, startOfDay, day) : isSunUp(instant, startOfDay, day);

@@ -9,12 +9,19 @@
 namespace velmora {
 namespace {
 
-constexpr std::string_view nextDayMark = " **";
-
 std::optional<std::int64_t> twoDigits(std::string_view text) {
   const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
   if (text.size() != 2 || !isDigit(text[0]) || !isDigit(text[1])) return std::nullopt;
   return (text[0] - '0') * 10 + (text[1] - '0');
+}
+
+/// Takes the mark "**" off a text of at least three characters, and the blank in front of it. Only the last
+/// character is looked at, by intent.
+bool takeMark(std::string_view& text) {
+  if (text.size() < 3 || text.back() != '*') return false;
+  text.remove_suffix(2);
+  if (!text.empty() && text.back() == ' ') text.remove_suffix(1);
+  return true;
 }
 
 /// The minute of the day that "hh:mm AM" or "hh:mm PM" names; the hour after midnight may be written 00
@@ -39,9 +46,7 @@ std::string shortTimeText(std::int64_t minuteOfDay) {
 
 std::string localizedClockText(const std::string& text) {
   std::string_view time = text;
-  const bool isMarked =
-      time.size() > nextDayMark.size() && time.substr(time.size() - nextDayMark.size()) == nextDayMark;
-  if (isMarked) time.remove_suffix(nextDayMark.size());
+  const bool isMarked = takeMark(time);
   const auto minute = minuteOfDay(time);
   if (!minute) return text;
   return shortTimeText(*minute) + (isMarked ? "**" : "");

@@ -53,6 +53,8 @@ class MoonPhaseData {
 
   /// A service without a selection.
   MoonPhaseData();
+  MoonPhaseData(const MoonPhaseData&) = delete;
+  MoonPhaseData& operator=(const MoonPhaseData&) = delete;
 
   // The selection and what belongs to it (Selection.cpp)
 
@@ -188,7 +190,8 @@ class MoonPhaseData {
   /// One item a day of the selected month, kept until the month or the place changes; none without a table.
   std::shared_ptr<const RiseSetItems> GetRiseSetPhaseItemsForCurrentMonth();
 
-  /// The same of the month after it, never kept; none after December 2040 and without a table.
+  /// The same of the month after it, never kept; none after December 2040 and without that
+  /// month's table.
   std::shared_ptr<const RiseSetItems> GetRiseSetPhaseItemsForNextMonth() const;
 
   /// The principal events of a year, never kept; empty without a table. An item's `localDate` is its instant
@@ -237,7 +240,8 @@ class MoonPhaseData {
 
  private:
   const GeoLocationData& place() const;
-  TimeZone zoneOfPlace(Instant date) const;
+  TimeZone zoneOfPlace() const;
+  std::optional<std::int64_t> offsetOfPlace(std::optional<Instant> date) const;
   void useZoneOfPlace();
   void forgetMonth();
   void setPlace(std::shared_ptr<GeoLocationData> location);

@@ -100,13 +100,12 @@ std::vector<std::shared_ptr<RiseSetPhaseItem>> MoonPhaseData::matchingEventsWith
   std::int64_t year = std::max(first.year, firstYear), month = first.month;
   const std::int64_t endYear = std::min(last.year, lastYear);
   const std::int64_t endMonth = last.year > lastYear ? december : last.month;
-  YearItems items = GetRiseSetPhaseItemsForYear(year);
-  while (!items.empty() && (year < endYear || (year == endYear && month <= endMonth))) {
-    if (!appendMatching(found, itemsOfMonth(items, month), phase, *from, *to)) break;
-    if (++month <= december) continue;
-    month = 1;
-    if (++year > lastYear) break;
-    items = GetRiseSetPhaseItemsForYear(year);
+  for (; year <= endYear; ++year, month = 1) {
+    const YearItems items = GetRiseSetPhaseItemsForYear(year);
+    if (items.empty()) break;
+    for (const std::int64_t end = year < endYear ? december : endMonth; month <= end; ++month) {
+      if (!appendMatching(found, itemsOfMonth(items, month), phase, *from, *to)) return found;
+    }
   }
   return found;
 }

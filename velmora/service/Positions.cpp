@@ -22,16 +22,22 @@ std::pair<std::int64_t, std::int64_t> hoursAndMinutes(double minutes) {
 
 }  // namespace
 
-std::optional<PositionData> MoonPhaseData::GetMoonPositionDataForDate(std::optional<Instant> date) const {
+/// The offset from GMT in seconds of the place's zone at the date; none without a date, a place or its zone.
+std::optional<std::int64_t> MoonPhaseData::offsetOfPlace(std::optional<Instant> date) const {
   if (!date || !_currentLocation || !_currentLocation->timezone) return std::nullopt;
-  const std::int64_t offset = _currentLocation->timezone->secondsFromGMT(*date);
-  return RiseAndSetCalc::ComputeMoonPosition(*date, *_currentLocation, offset);
+  return _currentLocation->timezone->secondsFromGMT(*date);
+}
+
+std::optional<PositionData> MoonPhaseData::GetMoonPositionDataForDate(std::optional<Instant> date) const {
+  const auto offset = offsetOfPlace(date);
+  if (!offset) return std::nullopt;
+  return RiseAndSetCalc::ComputeMoonPosition(*date, *_currentLocation, *offset);
 }
 
 std::optional<PositionData> MoonPhaseData::GetSunPositionDataForDate(std::optional<Instant> date) const {
-  if (!date || !_currentLocation || !_currentLocation->timezone) return std::nullopt;
-  const std::int64_t offset = _currentLocation->timezone->secondsFromGMT(*date);
-  return RiseAndSetCalc::ComputeSunPosition(*date, *_currentLocation, offset);
+  const auto offset = offsetOfPlace(date);
+  if (!offset) return std::nullopt;
+  return RiseAndSetCalc::ComputeSunPosition(*date, *_currentLocation, *offset);
 }
 
 // However many whole days the minutes span, the day moves once, by intent.
@@ -53,15 +59,15 @@ std::optional<PositionData> MoonPhaseData::GetSunPositionDataForDate(std::option
 
 std::optional<std::vector<PositionData>> MoonPhaseData::Get24HourSunPositionsForDate(
     std::optional<Instant> date) const {
-  if (!date || !_currentLocation || !_currentLocation->timezone) return std::nullopt;
-  const std::int64_t offset = _currentLocation->timezone->secondsFromGMT(*date);
-  return RiseAndSetCalc::Get24HourSunPositionsForDate(*date, *_currentLocation, offset);
+  const auto offset = offsetOfPlace(date);
+  if (!offset) return std::nullopt;
+  return RiseAndSetCalc::Get24HourSunPositionsForDate(*date, *_currentLocation, *offset);
 }
 
 // The Moon's series takes the offset of the day's morning, the Sun's that of the instant, by intent.
 std::optional<std::vector<PositionData>> MoonPhaseData::Get24HourMoonPositionsForDate(
     std::optional<Instant> date) const {
-  if (!date || !_currentLocation || !_currentLocation->timezone) return std::nullopt;
+  if (!offsetOfPlace(date)) return std::nullopt;
   const std::int64_t offset = gmtIntervalForDate(*date, *_currentLocation->timezone);
   return RiseAndSetCalc::Get24HourMoonPositionsForDate(*date, *_currentLocation, offset);
 }

@@ -1,3 +1,5 @@
+#include <utility>
+
 #include <velmora/astronomy/RiseAndSetCalc.h>
 #include <velmora/foundation/VelmoraCalendar.h>
 #include <velmora/phases/TableLine.h>
@@ -13,8 +15,9 @@ constexpr std::int64_t december = 12, lastYear = 2040;
 // A day without an event of its own is described for 03:00.
 constexpr std::int64_t hourOfQuietDays = 3;
 
-DateFormatter shortTimes() {
+DateFormatter shortTimes(TimeZone zone) {
   DateFormatter formatter = VelmoraCalendar::calendarDateFormatter();
+  formatter.setTimeZone(std::move(zone));
   formatter.setTimeStyle(DateFormatter::Style::shortStyle);
   return formatter;
 }
@@ -37,7 +40,7 @@ Instant quietHour(const PhaseItem& day, const Calendar& calendar) {
 }  // namespace
 
 RiseSetData MoonPhaseData::GetRiseSetDataForDate(Instant date) const {
-  return RiseAndSetCalc::Compute(date, place(), zoneOfPlace(date).secondsFromGMT(date), civilTwilight);
+  return RiseAndSetCalc::Compute(date, place(), zoneOfPlace().secondsFromGMT(date), civilTwilight);
 }
 
 std::vector<RiseSetData> MoonPhaseData::getRiseSetDataFrom(Instant from, Instant to) const {
@@ -56,13 +59,12 @@ std::shared_ptr<const MoonPhaseData::RiseSetItems> MoonPhaseData::GetRiseSetPhas
   const Instant reference = _currentDate.value_or(Instant());
   const PhaseCalendar days = MoonPhaseCalc::GetPhaseCalendar(
       *_rawDataDictionary, _currentMonth - 1, _currentYear, reference, place(), _use24HrTimeFormat);
-  const Calendar localCalendar(zoneOfPlace(reference));
-  DateFormatter times = shortTimes();
-  times.setTimeZone(localCalendar.timeZone());
+  const Calendar localCalendar(zoneOfPlace());
+  const DateFormatter times = shortTimes(localCalendar.timeZone());
 
   auto items = std::make_shared<RiseSetItems>();
   for (const auto& [number, day] : days) {
-    const Instant instant = day->localDate.value_or(quietHour(*day, localCalendar));
+    const Instant instant = day->localDate ? *day->localDate : quietHour(*day, localCalendar);
     (*items)[number] = riseSetItem(*day, instant, times);
   }
   _currentRiseSetPhaseItemDictionary = std::move(items);
@@ -77,13 +79,14 @@ std::shared_ptr<const MoonPhaseData::RiseSetItems> MoonPhaseData::GetRiseSetPhas
   const std::int64_t year = inNextYear ? _currentYear + 1 : _currentYear;
   if (year > lastYear) return nullptr;
   const auto table = inNextYear ? getDataForYear(year) : _rawDataDictionary;
+  if (!table) return nullptr;
   const std::int64_t zeroBasedMonth = inNextYear ? 0 : _currentMonth;
   const Instant reference = _calendar.dateByAddingMonths(1, _currentDate.value_or(Instant()));
 
-  const PhaseCalendar days = MoonPhaseCalc::GetPhaseCalendar(table ? *table : YearTable(), zeroBasedMonth,
-                                                             year, reference, place(), _use24HrTimeFormat);
-  const Calendar localCalendar(zoneOfPlace(reference));
-  const DateFormatter times = shortTimes();
+  const PhaseCalendar days =
+      MoonPhaseCalc::GetPhaseCalendar(*table, zeroBasedMonth, year, reference, place(), _use24HrTimeFormat);
+  const Calendar localCalendar(zoneOfPlace());
+  const DateFormatter times = shortTimes(TimeZone::defaultZone());
   auto items = std::make_shared<RiseSetItems>();
   for (const auto& [number, day] : days) {
     (*items)[number] = riseSetItem(*day, quietHour(*day, localCalendar), times);
@@ -95,8 +98,7 @@ MoonPhaseData::YearItems MoonPhaseData::GetRiseSetPhaseItemsForYear(std::int64_t
   YearItems items;
   const auto table = getDataForYear(year);
   if (!table) return items;
-  DateFormatter times = shortTimes();
-  times.setTimeZone(zoneOfPlace(_currentDate.value_or(Instant())));
+  const DateFormatter times = shortTimes(zoneOfPlace());
   for (std::int64_t month = 1; month <= december; ++month) {
     const auto lines = table->find(std::to_string(month));
     if (lines == table->end()) continue;
@@ -153,8 +155,8 @@ std::shared_ptr<RiseSetPhaseItem> MoonPhaseData::eventItem(const TableEvent& eve
   item->fullFactor = fullFactorForPrincipalPhase(event.phase);
   item->timeText = times.stringFromDate(event.instant);
   item->localDate = shifted;
-  item->riseSetData = RiseAndSetCalc::Compute(
-      shifted, place(), zoneOfPlace(event.instant).secondsFromGMT(event.instant), civilTwilight);
+  item->riseSetData =
+      RiseAndSetCalc::Compute(shifted, place(), zoneOfPlace().secondsFromGMT(event.instant), civilTwilight);
   localizeDateTimeStringsForRiseSetPhaseItem(item.get(), place().timezone);
   return item;
 }

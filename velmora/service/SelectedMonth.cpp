@@ -2,17 +2,14 @@
 
 #include <velmora/platform/resources/Bundle.h>
 #include <velmora/service/MoonPhaseData.h>
+#include <velmora/service/PictureName.h>
 
 namespace velmora {
-namespace {
-
-constexpr std::int64_t unknownPicture = -1;
 
 std::string pictureName(std::int64_t number) {
+  constexpr std::int64_t unknownPicture = -1;
   return number == unknownPicture ? "moon_0" : "IMG_" + std::to_string(number);
 }
-
-}  // namespace
 
 std::shared_ptr<const MoonPhaseCalc::ImageCalendar> MoonPhaseData::currentMonthImageDictionary() {
   if (_rawDataDictionary && !_currentImageDictionary) {

@@ -92,8 +92,9 @@ void MoonPhaseData::calculateMoonPhases() {
   const Instant firstOfMonth = _calendar.date({.year = _currentYear, .month = _currentMonth});
   const std::int64_t offset = place().GetTimezoneIntervalFromGMT(firstOfMonth);
   const std::int64_t zeroBasedMonth = _currentMonth - 1;
+  Calendar calendar = _calendar;  // the query moves its calendar, also where there is no place to move to
   _currentMonthData = MoonPhaseCalc::GetMoonPhaseDataForMonth(*_rawDataDictionary, _currentYear,
-                                                              zeroBasedMonth, _calendar, offset, _currentYear,
+                                                              zeroBasedMonth, calendar, offset, _currentYear,
                                                               zeroBasedMonth, place(), _use24HrTimeFormat);
 }
 
@@ -103,14 +104,14 @@ const GeoLocationData& MoonPhaseData::place() const {
   return _currentLocation ? *_currentLocation : nowhere;
 }
 
-/// The place's named zone, or the fixed zone of the offset in force at the date.
-TimeZone MoonPhaseData::zoneOfPlace(Instant date) const {
-  return place().calendarZone(place().GetTimezoneIntervalFromGMT(date));
+/// The place's named zone; without one the fixed zone of its offset, which is the same at every instant.
+TimeZone MoonPhaseData::zoneOfPlace() const {
+  return place().calendarZone(place().GetTimezoneIntervalFromGMT(Instant()));
 }
 
 void MoonPhaseData::useZoneOfPlace() {
   if (!_currentLocation) return;
-  _calendar.setTimeZone(zoneOfPlace(_currentDate.value_or(Instant())));
+  _calendar.setTimeZone(zoneOfPlace());
 }
 
 void MoonPhaseData::forgetMonth() {
