@@ -53,6 +53,7 @@ cairo_status_t encodePage(PictureFormat format, cairo_surface_t* recorded, Size 
   const cairo_status_t status = cairo_status(context.get());
   context.reset();
   cairo_surface_finish(page.get());
+  cairo_surface_finish(recorded);  // Cairo's SVG holds on to the record and would never free what is in it
   return status != CAIRO_STATUS_SUCCESS ? status : cairo_surface_status(page.get());
 }
 
