@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include <tests/support/SourceDirectory.h>
 #include <velmora/foundation/GeoLocationData.h>
 #include <velmora/foundation/SettingsModel.h>
 #include <velmora/platform/time/Calendar.h>
@@ -67,7 +68,7 @@ struct TableRow {
 
 /// The rows of a table, without blank lines and those that start with '#'.
 inline std::vector<TableRow> tableRows(const std::string& name) {
-  std::ifstream file(VELMORA_SOURCE_DIR "/tests/data/" + name);
+  std::ifstream file(sourceDirectory() + "/tests/data/" + name);
   EXPECT_TRUE(file) << name << " cannot be read";
   std::vector<TableRow> rows;
   std::string line;

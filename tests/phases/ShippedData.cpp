@@ -4,12 +4,14 @@
 #include <regex>
 #include <stdexcept>
 
+#include <tests/support/SourceDirectory.h>
+
 namespace velmora::shipped {
 namespace {
 
 using namespace std::chrono;
 
-const std::string folder = VELMORA_SOURCE_DIR "/velmora/resources/Data/";
+const std::string folder = sourceDirectory() + "/velmora/resources/Data/";
 
 std::vector<std::string> linesOf(const std::string& name) {
   std::ifstream file(folder + name);

@@ -2,12 +2,13 @@
 
 #include <cmath>
 
+#include <tests/support/SourceDirectory.h>
 #include <velmora/platform/resources/FileReading.h>
 
 namespace velmora::shipped {
 
 std::shared_ptr<const Image> shippedImage(const std::string& path) {
-  return Image::fromBytes(path, readFile(std::string(VELMORA_SOURCE_DIR) + "/" + path).value());
+  return Image::fromBytes(path, readFile(sourceDirectory() + "/" + path).value());
 }
 
 Pixel pixelAt(const Image& image, int column, int row) {

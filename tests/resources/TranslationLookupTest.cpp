@@ -4,14 +4,15 @@
 #include <string>
 #include <vector>
 
+#include <tests/support/SourceDirectory.h>
 #include <velmora/platform/resources/Bundle.h>
 #include <velmora/platform/time/Locale.h>
 
 namespace velmora {
 namespace {
 
-const std::filesystem::path kLibrary = VELMORA_SOURCE_DIR "/velmora/resources";
-const std::filesystem::path kHost = VELMORA_SOURCE_DIR "/app/resources";
+const std::filesystem::path kLibrary = sourceDirectory() + "/velmora/resources";
+const std::filesystem::path kHost = sourceDirectory() + "/app/resources";
 
 std::string libraryText(const std::string& key, const std::string& locale) {
   const ScopedLibraryBundle shipped(kLibrary);

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include <tests/resources/WritingScripts.h>
+#include <tests/support/SourceDirectory.h>
 #include <velmora/platform/resources/PropertyList.h>
 
 namespace velmora {
@@ -17,8 +18,8 @@ namespace {
 
 using Texts = std::map<std::string, std::string>;
 
-const std::filesystem::path kLibrary = VELMORA_SOURCE_DIR "/velmora/resources";
-const std::filesystem::path kHost = VELMORA_SOURCE_DIR "/app/resources";
+const std::filesystem::path kLibrary = sourceDirectory() + "/velmora/resources";
+const std::filesystem::path kHost = sourceDirectory() + "/app/resources";
 
 const std::map<std::string, Script> kLanguages = {
     {"en", Script::latin},        {"de", Script::latin},       {"fr", Script::latin},

@@ -2,6 +2,7 @@
 #include <iterator>
 
 #include <tests/service/ServiceTest.h>
+#include <tests/support/SourceDirectory.h>
 #include <velmora/service/PictureName.h>
 
 namespace velmora {
@@ -10,7 +11,7 @@ namespace {
 class PhasePictures : public ServiceTest {
  protected:
   static std::string samplePicture() {
-    std::ifstream in(VELMORA_SOURCE_DIR "/tests/data/resources/images/sample.png", std::ios::binary);
+    std::ifstream in(sourceDirectory() + "/tests/data/resources/images/sample.png", std::ios::binary);
     return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
   }
   static std::string nameOfCurrentPicture() {

@@ -6,6 +6,8 @@
 #include <iterator>
 #include <sstream>
 
+#include <tests/support/SourceDirectory.h>
+
 namespace velmora::testing {
 namespace {
 
@@ -57,7 +59,7 @@ AssertionResult areAlike(const Image& actual, const Image& golden, const Picture
 
 AssertionResult looksLikeGolden(CairoCanvas& canvas, const std::string& name,
                                 const PictureTolerance& tolerance) {
-  const fs::path goldenPath = fs::path(VELMORA_SOURCE_DIR) / "tests/golden" / fileName(name);
+  const fs::path goldenPath = fs::path(sourceDirectory()) / "tests/golden" / fileName(name);
   const fs::path actualPath = fs::path(VELMORA_BINARY_DIR) / "golden" / fileName(name);
   std::ostringstream output;
   if (const auto failure = canvas.write(output)) return AssertionFailure() << failure->message;

@@ -1,3 +1,4 @@
+#include <tests/support/SourceDirectory.h>
 #include <velmora/platform/resources/Bundle.h>
 
 #include <gtest/gtest.h>
@@ -8,7 +9,7 @@
 namespace velmora {
 namespace {
 
-const std::filesystem::path kData = std::filesystem::path(VELMORA_SOURCE_DIR) / "tests/data/resources";
+const std::filesystem::path kData = std::filesystem::path(sourceDirectory()) / "tests/data/resources";
 
 TEST(Bundle, TheLibrarysIsFoundByItsIdentifier) {
   EXPECT_EQ(Bundle::library().identifier(), "velmora");

@@ -1,3 +1,4 @@
+#include <tests/support/SourceDirectory.h>
 #include <velmora/platform/resources/Image.h>
 
 #include <gtest/gtest.h>
@@ -9,7 +10,7 @@ namespace {
 
 /// Three pixels by two, straight colours: red, green, blue; white half transparent, orange hardly, nothing.
 std::string encodedSample() {
-  return readFile(std::string(VELMORA_SOURCE_DIR) + "/tests/data/resources/images/sample.png").value();
+  return readFile(sourceDirectory() + "/tests/data/resources/images/sample.png").value();
 }
 
 const PixelBytes kPixels = {255, 0,   0,   255, 0, 255, 0, 255, 0, 0, 255, 255,  //
