@@ -1,0 +1,185 @@
+#include <tests/service/ServiceTest.h>
+#include <velmora/platform/resources/Log.h>
+
+namespace velmora {
+namespace {
+
+class EclipseCatalogueReading : public ServiceTest {
+ protected:
+  /// Reads a catalogue of that text.
+  const MoonPhaseData::Eclipses& read(const std::string& text) {
+    resources.writeCatalogue(text);
+    service().loadEventsFromFile();
+    return *service().eventsData();
+  }
+  static std::shared_ptr<const EclipseInfo> onlyOf(const MoonPhaseData::Eclipses& eclipses) {
+    EXPECT_EQ(eclipses.size(), 1U);
+    return eclipses.begin()->second;
+  }
+
+  const OwnResources resources;
+  const ScopedLogRecord log;
+};
+
+using Messages = std::vector<std::string>;
+const Messages kInvalidEntry = {"Invalid entry"};
+
+TEST_F(EclipseCatalogueReading, ALineGivesAllOfAnEclipse) {
+  const auto eclipse = onlyOf(read("04/08/2024 18:17,TSE"));
+  EXPECT_EQ(eclipse->key, "TSE");
+  EXPECT_EQ(eclipse->title, "Total Solar Eclipse");
+  EXPECT_EQ(eclipse->datetime, utc(2024, 4, 8, 18, 17));
+  EXPECT_FALSE(eclipse->isLunarEvent);
+  EXPECT_EQ(service().eventsData()->begin()->first, eclipse->datetime);
+}
+
+TEST_F(EclipseCatalogueReading, EachCodeHasItsTitleAndBody) {
+  const std::tuple<const char*, const char*, bool> cases[] = {
+      {"TLE", "Total Lunar Eclipse", true},    {"PLE", "Partial Lunar Eclipse", true},
+      {"NLE", "Penumbra Lunar Eclipse", true}, {"TSE", "Total Solar Eclipse", false},
+      {"PSE", "Partial Solar Eclipse", false}, {"ASE", "Annular Solar Eclipse", false},
+      {"HSE", "Hybrid Solar Eclipse", false},
+  };
+  for (const auto& [code, title, isLunar] : cases) {
+    const auto eclipse = onlyOf(read(std::string("01/31/2000 00:00,") + code));
+    EXPECT_EQ(eclipse->title, title);
+    EXPECT_EQ(eclipse->isLunarEvent, isLunar) << code;
+  }
+  EXPECT_EQ(log.messages(), Messages());
+}
+
+TEST_F(EclipseCatalogueReading, AnUnknownCodeIsKeptWithoutATitle) {
+  const std::pair<const char*, bool> cases[] = {{"XSE", false}, {"XLE", true}, {"LEO", true},
+                                                {"tle", false}, {"", false},   {" TSE", false}};
+  for (const auto& [code, isLunar] : cases) {
+    const auto eclipse = onlyOf(read(std::string("04/08/2024 18:17,") + code));
+    EXPECT_EQ(eclipse->key, code);
+    EXPECT_EQ(eclipse->title, std::nullopt) << code;
+    EXPECT_EQ(eclipse->isLunarEvent, isLunar) << code;
+  }
+  EXPECT_EQ(log.messages(), Messages());
+}
+
+TEST_F(EclipseCatalogueReading, BlankLinesArePassedOverInSilence) {
+  EXPECT_EQ(read("\n\n04/08/2024 18:17,TSE\n\n10/14/2023 18:00,ASE\n\n").size(), 2U);
+  EXPECT_TRUE(read("").empty());
+  EXPECT_TRUE(read("\n").empty());
+  EXPECT_EQ(log.messages(), Messages());
+}
+
+TEST_F(EclipseCatalogueReading, ALineOfOtherThanTwoFieldsIsInvalid) {
+  for (const char* line :
+       {"04/08/2024 18:17,TSE,x", "04/08/2024 18:17", "TSE", " ", "04/08/2024 18:17,TSE,"}) {
+    const ScopedLogRecord own;
+    EXPECT_TRUE(read(line).empty()) << line;
+    EXPECT_EQ(own.messages(), kInvalidEntry) << line;
+  }
+}
+
+TEST_F(EclipseCatalogueReading, ALineOfOneCarriageReturnIsInvalid) {
+  EXPECT_EQ(read("04/08/2024 18:17,TSE\n\r\n").size(), 1U);
+  EXPECT_EQ(log.messages(), kInvalidEntry);
+}
+
+TEST_F(EclipseCatalogueReading, ADateThatCannotBeReadIsInvalid) {
+  for (const char* date : {"", "moon", "13/08/2024 18:17", "02/30/2024 18:17", "04/08/2024",
+                           "04/08/2024 24:17", "04/08/2024 18:60", "2024-04-08 18:17", "04/08/2024 18:17x"}) {
+    const ScopedLogRecord own;
+    EXPECT_TRUE(read(std::string(date) + ",TSE").empty()) << date;
+    EXPECT_EQ(own.messages(), kInvalidEntry) << date;
+  }
+}
+
+TEST_F(EclipseCatalogueReading, InvalidLinesLeaveTheOthersAlone) {
+  EXPECT_EQ(read("x\n04/08/2024 18:17,TSE\nfoo,TSE\n10/14/2023 18:00,ASE\n").size(), 2U);
+  EXPECT_EQ(log.messages(), (Messages{"Invalid entry", "Invalid entry"}));
+}
+
+TEST_F(EclipseCatalogueReading, ACarriageReturnStaysPartOfTheCode) {
+  const auto& eclipses = read("11/08/2022 10:59,TLE\r\n04/08/2024 18:17,TSE\r\n");
+  ASSERT_EQ(eclipses.size(), 2U);
+  const auto lunar = eclipses.at(utc(2022, 11, 8, 10, 59)), solar = eclipses.at(utc(2024, 4, 8, 18, 17));
+  EXPECT_EQ(lunar->key, "TLE\r");
+  EXPECT_EQ(lunar->title, std::nullopt);
+  EXPECT_TRUE(lunar->isLunarEvent);
+  EXPECT_EQ(solar->title, std::nullopt);
+  EXPECT_FALSE(solar->isLunarEvent);
+  EXPECT_EQ(log.messages(), Messages());
+}
+
+TEST_F(EclipseCatalogueReading, OfTwoEclipsesAtOneInstantTheLaterLineStays) {
+  EXPECT_EQ(onlyOf(read("04/08/2024 18:17,TSE\n04/08/2024 18:17,PLE\n"))->key, "PLE");
+}
+
+TEST_F(EclipseCatalogueReading, LinesNeedNoOrder) {
+  const auto& eclipses = read("04/08/2024 18:17,TSE\n10/14/2023 18:00,ASE\n03/25/2024 07:13,NLE");
+  std::string keys;
+  for (const auto& [instant, eclipse] : eclipses) keys += eclipse->key + " ";
+  EXPECT_EQ(keys, "ASE NLE TSE ");
+}
+
+TEST_F(EclipseCatalogueReading, IsInUtcAndAmericanInEveryProcess) {
+  const ScopedDefaultTimeZone zone("Asia/Tokyo");
+  for (const char* identifier : {"ar_EG", "fa_IR", "th_TH", "de_DE"}) {
+    const ScopedLocale locale(identifier);
+    EXPECT_EQ(onlyOf(read("04/08/2024 18:17,TSE"))->datetime, utc(2024, 4, 8, 18, 17)) << identifier;
+  }
+}
+
+TEST_F(EclipseCatalogueReading, ReadingAfreshReplacesTheWholeCatalogue) {
+  read("04/08/2024 18:17,TSE\n10/14/2023 18:00,ASE\n");
+  EXPECT_EQ(onlyOf(read("11/08/2022 10:59,TLE\n"))->key, "TLE");
+}
+
+TEST_F(EclipseCatalogueReading, AnUnreadableFileKeepsTheFormerCatalogue) {
+  read("04/08/2024 18:17,TSE");
+  const auto former = service().eventsData();
+  resources.writeCatalogue("10/14/2023 18:00,ASE\n\xff\xfe");
+  service().loadEventsFromFile();
+  EXPECT_EQ(service().eventsData(), former) << "not UTF-8";
+  std::filesystem::remove(resources.folder.path() / "Data/events.txt");
+  service().loadEventsFromFile();
+  EXPECT_EQ(service().eventsData(), former) << "missing";
+  std::filesystem::create_directory(resources.folder.path() / "Data/events.txt");
+  service().loadEventsFromFile();
+  EXPECT_EQ(service().eventsData(), former) << "a folder";
+  EXPECT_EQ(log.messages(), Messages());
+}
+
+TEST_F(EclipseCatalogueReading, AQueryReadsUntilItSucceedsAndThenNoMore) {
+  service().SetSelectedLocation(placeAt(32.7767, -96.797, "America/Chicago"));
+  const auto askFor8April2024 = [] {
+    return service().eventsOnDate(utc(2024, 4, 8, 18), *TimeZone::named("America/Chicago"));
+  };
+  EXPECT_EQ(askFor8April2024(), nullptr);
+  EXPECT_EQ(service().eventsData(), nullptr);
+  resources.writeCatalogue("04/08/2024 18:17,TSE");
+  ASSERT_NE(askFor8April2024(), nullptr);
+  const auto read = service().eventsData();
+  resources.writeCatalogue("");
+  EXPECT_NE(askFor8April2024(), nullptr);
+  EXPECT_EQ(service().eventsData(), read);
+}
+
+using ShippedEclipses = ServiceTest;
+
+TEST_F(ShippedEclipses, AreReadWithoutAComplaint) {
+  const ScopedLogRecord log;
+  service().loadEventsFromFile();
+  ASSERT_NE(service().eventsData(), nullptr);
+  EXPECT_GT(service().eventsData()->size(), 150U);
+  for (const auto& [instant, eclipse] : *service().eventsData()) {
+    EXPECT_TRUE(eclipse->title) << eclipse->key;
+    EXPECT_EQ(eclipse->datetime, instant);
+  }
+  EXPECT_EQ(log.messages(), Messages());
+}
+
+TEST_F(ShippedEclipses, HaveTitlesInTheUsersLanguage) {
+  const ScopedLocale locale("de_DE");
+  service().loadEventsFromFile();
+  EXPECT_EQ(service().eventsData()->at(utc(2024, 4, 8, 18, 17))->title, "Totale Sonnenfinsternis");
+}
+
+}  // namespace
+}  // namespace velmora
