@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <csignal>
 #include <iostream>
 
@@ -7,5 +8,5 @@ int main(int count, char** values) {
   std::signal(SIGPIPE, SIG_IGN);  // a closed output is an exit status, not a death
   std::ios::sync_with_stdio(false);
   std::cin.tie(nullptr);
-  return velmora::app::run({values + 1, values + count}, std::cin, std::cout, std::cerr);
+  return velmora::app::run({values + std::min(count, 1), values + count}, std::cin, std::cout, std::cerr);
 }

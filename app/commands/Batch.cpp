@@ -77,6 +77,7 @@ void serveBatch(const Request& request, std::istream& in, std::ostream& out) {
   while (out) {
     if (in.rdbuf()->in_avail() <= 0) out.flush();  // whoever waits for an answer before asking on gets it
     const auto line = nextLine(in, buffer);
+    if (!line && in.bad()) throw Failure("standard input cannot be read");
     if (!line) return;
     answer(*line, out);
   }

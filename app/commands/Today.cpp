@@ -10,6 +10,8 @@
 namespace velmora::app {
 namespace {
 
+const std::string none = "none";
+
 Json placeJson(const Place& place) {
   const GeoLocationData& location = place.location;
   return {{"name", location.name ? Json(*location.name) : Json(nullptr)},
@@ -32,7 +34,7 @@ Json json(const Query& query) {
 
 std::string eventText(const std::string& recordText, const Query& query) {
   const auto event = dayEvent(recordText);
-  if (!event) return "none";
+  if (!event) return none;
   return clockText(event->minutes, query.use24HourClock) + (event->isNextDay ? " next day" : "");
 }
 
@@ -53,8 +55,11 @@ std::string bodiesText(const RiseSetDay& day, Instant present, const Query& quer
 }
 
 std::string twilightText(const RiseSetDay& day, const Query& query) {
-  return "from " + eventText(day.record.twilightBeginText, query) + " to " +
-         eventText(day.record.twilightEndText, query);
+  const std::string begin = eventText(day.record.twilightBeginText, query);
+  const std::string end = eventText(day.record.twilightEndText, query);
+  if (begin == none && end == none) return "neither begins nor ends";
+  if (end == none) return "from " + begin;
+  return (begin == none ? "until " : "from " + begin + " to ") + end;
 }
 
 /// "Thursday 20 June 2024, 14:05 (GMT-07:00)".

@@ -1,5 +1,7 @@
 #include <app/request/JsonRequest.h>
 
+#include <set>
+
 #include <app/Errors.h>
 #include <app/commands/Command.h>
 #include <app/request/Options.h>
@@ -10,13 +12,26 @@ namespace {
 
 constexpr int deepestNesting = 16;
 
-/// Stops the parser before a deep value is built: values are destroyed and written by recursion.
-bool checkNesting(int depth, Json::parse_event_t event, const Json&) {
-  const bool opens = event == Json::parse_event_t::object_start || event == Json::parse_event_t::array_start;
-  if (opens && depth > deepestNesting)
-    throw BadInput("the line is nested too deeply; accepted: one object of plain values");
-  return true;
-}
+/// Watches the parser. A deep value is stopped before it is built: values are destroyed and written by
+/// recursion. An option that is given twice is stopped because the parser would keep the last alone.
+class Watch {
+ public:
+  bool operator()(int depth, Json::parse_event_t event, const Json& parsed) {
+    const bool opens =
+        event == Json::parse_event_t::object_start || event == Json::parse_event_t::array_start;
+    if (opens && depth > deepestNesting)
+      throw BadInput("the line is nested too deeply; accepted: one object of plain values");
+    if (event == Json::parse_event_t::key && depth == 1) checkOnce(parsed.get_ref<const std::string&>());
+    return true;
+  }
+
+ private:
+  void checkOnce(const std::string& name) {
+    if (!_names.insert(name).second) throw BadInput(quote(name) + " is given more than once");
+  }
+
+  std::set<std::string> _names;
+};
 
 std::string commandNames() {
   std::string names;
@@ -52,7 +67,7 @@ const Option& optionOf(const std::string& name, const Command& command) {
 
 Json jsonFromLine(std::string_view line) {
   try {
-    return Json::parse(line.begin(), line.end(), checkNesting);
+    return Json::parse(line.begin(), line.end(), Watch());
   } catch (const Json::parse_error& error) {
     throw BadInput("the line is not valid JSON at byte " + std::to_string(error.byte) +
                    "; accepted: one object in UTF-8");

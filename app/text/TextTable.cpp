@@ -29,27 +29,29 @@ std::string lineOf(const TextTable::Row& row, const std::vector<std::size_t>& wi
 
 }  // namespace
 
-std::vector<std::size_t> TextTable::columnWidths() const {
+std::vector<std::size_t> TextTable::columnWidths(std::size_t gap) const {
   std::vector<std::size_t> widths;
   for (const auto& text : _headings) widths.push_back(length(text));
   for (const Row& row : _rows) {
     std::size_t column = 0;
     for (const Cell& cell : row) {
-      if (cell.span == 1) widths[column] = std::max(widths[column], length(cell.text));
+      const std::size_t others =
+          std::accumulate(&widths[column], &widths[column] + cell.span - 1, gap * (cell.span - 1));
       column += cell.span;
+      widths[column - 1] = std::max(widths[column - 1] + others, length(cell.text)) - others;
     }
   }
   return widths;
 }
 
 std::size_t TextTable::width(std::size_t gap) const {
-  const auto widths = columnWidths();
+  const auto widths = columnWidths(gap);
   return std::accumulate(widths.begin(), widths.end(), gap * (widths.size() - 1));
 }
 
 std::string TextTable::text(bool boldHeadings) const {
-  const auto widths = columnWidths();
   const std::size_t gap = width(2) <= pageWidth ? 2 : 1;
+  const auto widths = columnWidths(gap);
   std::string lines =
       heading(lineOf(Row(_headings.begin(), _headings.end()), widths, gap), boldHeadings) + "\n";
   for (const Row& row : _rows) lines += lineOf(row, widths, gap) + "\n";

@@ -31,7 +31,7 @@ class TextTable {
   std::string text(bool boldHeadings) const;
 
  private:
-  std::vector<std::size_t> columnWidths() const;
+  std::vector<std::size_t> columnWidths(std::size_t gap) const;
 
   std::vector<std::string> _headings;
   std::vector<Row> _rows;

@@ -103,6 +103,7 @@ TEST_F(BatchTest, BadLinesSayWhatIsWrongAndTheStreamGoesOn) {
       {R"({"op": "position", "date": "2023-02-29"})", "is not a date that exists"},
       {R"({"op": "riseset", "from": "2024-01-02", "to": "2024-01-01"})", "backwards"},
       {R"({"op": "position", "gmt-offset": 0.5})", "not a whole number"},
+      {R"({"op": "position", "lat": 1, "lat": 2, "lon": 3})", "'lat' is given more than once"},
       {"\xff\xfe{}", "not valid JSON"},
       {"{\"op\": \"position\", \"city\": \"\xff\"}", "not valid JSON"},
       {std::string("{\"op\": \"posi\0tion\"}", 19), "not valid JSON"},
@@ -194,6 +195,14 @@ TEST_F(BatchTest, WhoAsksLineByLineIsAnsweredLineByLine) {
   EXPECT_EQ(run({"batch"}, in, out, err), 0);
   EXPECT_TRUE(conversation.wasAnsweredInTime());
   EXPECT_EQ(linesOf(out.str()).size(), 3U);
+}
+
+TEST_F(BatchTest, AnUnreadableInputIsAFailure) {
+  std::istringstream in("{\"op\": \"position\"}\n");
+  in.setstate(std::ios::badbit);
+  std::ostringstream out, err;
+  EXPECT_EQ(run({"batch"}, in, out, err), 1);
+  EXPECT_NE(err.str().find("standard input cannot be read"), std::string::npos);
 }
 
 TEST_F(BatchTest, AClosedOutputEndsItWithStatusOne) {

@@ -22,7 +22,7 @@ TEST(TextTable, LettersOfSeveralBytesCountOnce) {
 TEST(TextTable, ACellMayStandInTwoColumns) {
   TextTable table({"Name", "Rise", "Set", "Next"});
   table.add({"Sun", {"up all day", 2}, "x"});
-  EXPECT_EQ(table.text(false), "Name  Rise  Set  Next\nSun   up all day x\n");
+  EXPECT_EQ(table.text(false), "Name  Rise  Set   Next\nSun   up all day  x\n");
 }
 
 TEST(TextTable, ANarrowPageHasOneBlankBetweenColumns) {

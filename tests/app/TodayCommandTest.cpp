@@ -54,6 +54,14 @@ TEST_F(TodayCommandTest, PolarNightReadsAsSuch) {
   const std::string text = answer({"--city", "Longyearbyen", "--date", "2024-12-21", "--24h"});
   EXPECT_NE(text.find("\nSun   down all day"), std::string::npos) << text;
   EXPECT_NE(text.find("\nDaylight          0h 00m\n"), std::string::npos) << text;
+  EXPECT_NE(text.find("neither begins nor ends"), std::string::npos) << text;
+}
+
+TEST_F(TodayCommandTest, AtThePoleEveryColumnStandsApart) {
+  const std::string text = answer({"--lat", "90", "--lon", "0", "--date", "2024-12-21", "--24h"});
+  EXPECT_NE(text.find("      Rise  Set     Then\nSun   down all day  23.4° below the horizon"),
+            std::string::npos)
+      << text;
 }
 
 TEST_F(TodayCommandTest, MidnightIsTwelveOnTheTwelveHourClock) {
