@@ -4,16 +4,24 @@
 #include <app/commands/Command.h>
 
 namespace velmora::app {
+namespace {
 
-Json jsonAnswer(const Request& request) {
+/// Asks the command while the process is as the request and its place want it.
+template <typename Ask>
+auto asked(const Request& request, bool boldHeadings, Ask ask) {
   const RequestScope scope(request);
-  return request.command->json({request, scope.place(), scope.use24HourClock(), false});
+  const Place place = placeOf(request);
+  const ScopedDefaultTimeZone zone(place.zone);
+  return ask(Query{request, place, scope.use24HourClock(), boldHeadings});
 }
+
+}  // namespace
+
+Json jsonAnswer(const Request& request) { return asked(request, false, request.command->json); }
 
 std::string printedAnswer(const Request& request, bool boldHeadings) {
   if (request.json) return jsonLine(jsonAnswer(request)) + "\n";
-  const RequestScope scope(request);
-  return request.command->text({request, scope.place(), scope.use24HourClock(), boldHeadings});
+  return asked(request, boldHeadings, request.command->text);
 }
 
 }  // namespace velmora::app

@@ -23,9 +23,7 @@ ScopedTimeFormat::~ScopedTimeFormat() { SettingsModel::sharedInstance().setTimeF
 RequestScope::RequestScope(const Request& request)
     : _locale(localeOf(request)),
       _use24HourClock(Locale::current().uses24HourClock()),
-      _timeFormat(_use24HourClock),
-      _place(placeOf(request)),
-      _zone(_place.zone) {
+      _timeFormat(_use24HourClock) {
   if (request.now) _now.emplace(*request.now);
   VelmoraCalendar::resetSymbols();
 }

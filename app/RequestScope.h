@@ -3,10 +3,9 @@
 #include <cstdint>
 #include <optional>
 
-#include <app/commands/Command.h>
+#include <app/request/Request.h>
 #include <velmora/platform/time/Clock.h>
 #include <velmora/platform/time/Locale.h>
-#include <velmora/platform/time/TimeZone.h>
 
 namespace velmora::app {
 
@@ -22,13 +21,12 @@ class ScopedTimeFormat {
   std::int64_t _former;
 };
 
-/// The process as one request wants it: locale, clock form, present, and the place's zone as the default
-/// zone. Everything is put back at the end, so that no request leaves a trace for the next.
+/// The process as one request wants it: locale, clock form and present. Everything is put back at the end, so
+/// that no request leaves a trace for the next.
 class RequestScope {
  public:
   explicit RequestScope(const Request& request);
 
-  const Place& place() const { return _place; }
   bool use24HourClock() const { return _use24HourClock; }
 
  private:
@@ -36,8 +34,6 @@ class RequestScope {
   bool _use24HourClock;
   ScopedTimeFormat _timeFormat;
   std::optional<ScopedNow> _now;
-  Place _place;
-  ScopedDefaultTimeZone _zone;
 };
 
 }  // namespace velmora::app

@@ -75,69 +75,77 @@ void setClock(Request& request, Locale::HourCycle cycle) {
 
 constexpr std::string_view dateForm = "YYYY-MM-DD from 1900-01-01 to 2100-12-31";
 
+void readTwilight(Request& request, const std::string& text) {
+  request.twilight = oneOf<Twilight>(text, {{"civil", Twilight::civil},
+                                            {"nautical", Twilight::nautical},
+                                            {"astronomical", Twilight::astronomical}});
+}
+
+void readBody(Request& request, const std::string& text) {
+  request.body = oneOf<Body>(text, {{"moon", Body::moon}, {"sun", Body::sun}});
+}
+
+void readClock(Request& request, const std::string& text) {
+  setClock(request, oneOf<Locale::HourCycle>(
+                        text, {{"24h", Locale::HourCycle::h24}, {"12h", Locale::HourCycle::h12}}));
+}
+
+void readColor(Request& request, const std::string& text) {
+  request.color = oneOf<ColorChoice>(
+      text,
+      {{"auto", ColorChoice::automatic}, {"always", ColorChoice::always}, {"never", ColorChoice::never}});
+}
+
 std::vector<Option> makeOptions() {
   using Switch = Option::Switch;
   using Number = Option::Number;
   using Text = Option::Text;
+  using R = Request;
+  using S = const std::string;
+  constexpr bool onlyOnCommandLine = true;
   return {
-      {"city", "NAME", "a city of the system's time zone table, spelled freely", "", false,
-       Text([](Request& r, const std::string& v) { r.city = v; })},
-      {"lat", "DEGREES", "latitude, north positive", "-90 to 90 degrees", false,
-       Number([](Request& r, double v) { r.latitude = within(v, 90); })},
-      {"lon", "DEGREES", "longitude, east positive", "-180 to 180 degrees", false,
-       Number([](Request& r, double v) { r.longitude = within(v, 180); })},
+      {"city", "NAME", "a city of the system's time zone table, spelled freely", "",
+       Text([](R& r, S& v) { r.city = v; })},
+      {"lat", "DEGREES", "latitude, north positive", "-90 to 90 degrees",
+       Number([](R& r, double v) { r.latitude = within(v, 90); })},
+      {"lon", "DEGREES", "longitude, east positive", "-180 to 180 degrees",
+       Number([](R& r, double v) { r.longitude = within(v, 180); })},
       {"tz", "ZONE", "time zone of the place", "an identifier such as Europe/Helsinki, UTC or GMT+05:30",
-       false, Text([](Request& r, const std::string& v) { r.zone = zone(v); })},
+       Text([](R& r, S& v) { r.zone = zone(v); })},
       {"gmt-offset", "SECONDS", "fixed offset from GMT in place of a time zone",
-       "whole seconds from -64800 to 64800 (18 hours), east positive", false,
-       Number([](Request& r, double v) { r.gmtOffset = wholeNumber(within(v, farthestGmtOffset)); })},
-      {"name", "TEXT", "what to call the place", "", false,
-       Text([](Request& r, const std::string& v) { r.name = v; })},
-      {"date", "YYYY-MM-DD", "the day (default: today)", dateForm, false,
-       Text([](Request& r, const std::string& v) { r.date = date(v); })},
-      {"time", "HH:MM", "the time of day at the place", "HH:MM from 00:00 to 23:59", false,
-       Text([](Request& r, const std::string& v) { r.time = timeOfDay(v); })},
-      {"from", "YYYY-MM-DD", "first day of a range", dateForm, false,
-       Text([](Request& r, const std::string& v) { r.from = date(v); })},
-      {"to", "YYYY-MM-DD", "last day of a range, at most 41 years long", dateForm, false,
-       Text([](Request& r, const std::string& v) { r.to = date(v); })},
+       "whole seconds from -64800 to 64800 (18 hours), east positive",
+       Number([](R& r, double v) { r.gmtOffset = wholeNumber(within(v, farthestGmtOffset)); })},
+      {"name", "TEXT", "what to call the place", "", Text([](R& r, S& v) { r.name = v; })},
+      {"date", "YYYY-MM-DD", "the day (default: today)", dateForm,
+       Text([](R& r, S& v) { r.date = date(v); })},
+      {"time", "HH:MM", "the time of day at the place", "HH:MM from 00:00 to 23:59",
+       Text([](R& r, S& v) { r.time = timeOfDay(v); })},
+      {"from", "YYYY-MM-DD", "first day of a range", dateForm, Text([](R& r, S& v) { r.from = date(v); })},
+      {"to", "YYYY-MM-DD", "last day of a range, at most 41 years long", dateForm,
+       Text([](R& r, S& v) { r.to = date(v); })},
       {"twilight", "KIND", "civil (default), nautical or astronomical", "civil, nautical or astronomical",
-       false, Text([](Request& r, const std::string& v) {
-         r.twilight = oneOf<Twilight>(v, {{"civil", Twilight::civil},
-                                          {"nautical", Twilight::nautical},
-                                          {"astronomical", Twilight::astronomical}});
-       })},
-      {"body", "BODY", "moon (default) or sun", "moon or sun", false,
-       Text([](Request& r, const std::string& v) {
-         r.body = oneOf<Body>(v, {{"moon", Body::moon}, {"sun", Body::sun}});
-       })},
-      {"degrees", "DEGREES", "elevation above the horizon", "-90 to 90 degrees", false,
-       Number([](Request& r, double v) { r.degrees = within(v, 90); })},
-      {"intermediate", "", "also list the hourly positions after the first event", "", false,
-       Switch([](Request& r) { r.intermediate = true; })},
+       Text(readTwilight)},
+      {"body", "BODY", "moon (default) or sun", "moon or sun", Text(readBody)},
+      {"degrees", "DEGREES", "elevation above the horizon", "-90 to 90 degrees",
+       Number([](R& r, double v) { r.degrees = within(v, 90); })},
+      {"intermediate", "", "also list the hourly positions after the first event", "",
+       Switch([](R& r) { r.intermediate = true; })},
       {"now", "INSTANT", "the present, in place of the clock",
-       "an ISO 8601 instant such as 2024-06-20T12:00:00Z, from 1900 to 2100", false,
-       Text([](Request& r, const std::string& v) { r.now = instant(v); })},
-      {"clock", "FORM", "24h or 12h (default: the locale's habit)", "24h or 12h", false,
-       Text([](Request& r, const std::string& v) {
-         setClock(r, oneOf<Locale::HourCycle>(
-                         v, {{"24h", Locale::HourCycle::h24}, {"12h", Locale::HourCycle::h12}}));
-       })},
-      {"24h", "", "the same as --clock 24h", "", true,
-       Switch([](Request& r) { setClock(r, Locale::HourCycle::h24); })},
-      {"12h", "", "the same as --clock 12h", "", true,
-       Switch([](Request& r) { setClock(r, Locale::HourCycle::h12); })},
+       "an ISO 8601 instant such as 2024-06-20T12:00:00Z, from 1900 to 2100",
+       Text([](R& r, S& v) { r.now = instant(v); })},
+      {"clock", "FORM", "24h or 12h (default: the locale's habit)", "24h or 12h", Text(readClock)},
+      {"24h", "", "the same as --clock 24h", "", Switch([](R& r) { setClock(r, Locale::HourCycle::h24); }),
+       onlyOnCommandLine},
+      {"12h", "", "the same as --clock 12h", "", Switch([](R& r) { setClock(r, Locale::HourCycle::h12); }),
+       onlyOnCommandLine},
       {"locale", "ID", "language and region, such as en_US", "letters, digits and _ - @ = . (at most 64)",
-       false, Text([](Request& r, const std::string& v) { r.locale = locale(v); })},
-      {"json", "", "answer in JSON", "", true, Switch([](Request& r) { r.json = true; })},
-      {"color", "WHEN", "bold headings: auto (default), always or never", "auto, always or never", true,
-       Text([](Request& r, const std::string& v) {
-         r.color = oneOf<ColorChoice>(v, {{"auto", ColorChoice::automatic},
-                                          {"always", ColorChoice::always},
-                                          {"never", ColorChoice::never}});
-       })},
-      {"help", "", "say what is accepted", "", true, Switch([](Request& r) { r.help = true; })},
-      {"version", "", "say which version this is", "", true, Switch([](Request& r) { r.version = true; })},
+       Text([](R& r, S& v) { r.locale = locale(v); })},
+      {"json", "", "answer in JSON", "", Switch([](R& r) { r.json = true; }), onlyOnCommandLine},
+      {"color", "WHEN", "bold headings: auto (default), always or never", "auto, always or never",
+       Text(readColor), onlyOnCommandLine},
+      {"help", "", "say what is accepted", "", Switch([](R& r) { r.help = true; }), onlyOnCommandLine},
+      {"version", "", "say which version this is", "", Switch([](R& r) { r.version = true; }),
+       onlyOnCommandLine},
   };
 }
 

@@ -21,9 +21,9 @@ struct Option {
   std::string_view valueName;  ///< as the help shows it; empty for a switch
   std::string_view help;
   std::string_view accepts;  ///< the values accepted, as an error message says it; empty for any
-  bool onlyOnCommandLine = false;
   /// Puts a value into the request; throws BadInput with what is wrong about it.
   std::variant<Switch, Number, Text> read;
+  bool onlyOnCommandLine = false;
 
   bool isSwitch() const { return std::holds_alternative<Switch>(read); }
 };

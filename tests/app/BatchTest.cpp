@@ -158,6 +158,13 @@ TEST_F(BatchTest, EachLineIsAnsweredAsIfItWereTheFirst) {
   for (const std::string& line : before) EXPECT_EQ(answers(line + "\n" + plain + "\n").at(1), alone) << line;
 }
 
+TEST_F(BatchTest, CoordinatesWithoutAZoneTakeTheProcessesOnEveryLine) {
+  const ScopedDefaultTimeZone zone("Asia/Tokyo");
+  const std::string plain = R"({"op": "today", "lat": 10, "lon": 20})";
+  for (const Json& answer : answers(plain + "\n" + plain + "\n"))
+    EXPECT_EQ(answer["result"]["place"]["timezone"], "Asia/Tokyo");
+}
+
 TEST_F(BatchTest, ItsOwnOptionsAreWhatEveryLineBeginsWith) {
   const auto list = answers("{\"op\": \"today\"}\n{\"op\": \"today\", \"clock\": \"12h\"}\n",
                             {"--now", "2030-01-01T20:00:00Z", "--24h"});
