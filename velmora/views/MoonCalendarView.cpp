@@ -7,10 +7,10 @@
 
 #include <velmora/platform/graphics/TextLayout.h>
 #include <velmora/platform/resources/Bundle.h>
-#include <velmora/platform/time/Clock.h>
 #include <velmora/platform/time/DateFormatter.h>
 #include <velmora/platform/time/NumberText.h>
 #include <velmora/service/MoonPhaseData.h>
+#include <velmora/views/Today.h>
 
 namespace velmora {
 namespace {
@@ -56,13 +56,6 @@ std::optional<std::int64_t> columnOfFirstDay(const MoonPhaseData& service) {
   return service.calendar().components(*first).weekday - 1;
 }
 
-/// Today's day number when the selected month is the device's present one, else 0.
-std::int64_t todayIn(const MoonPhaseData& service) {
-  const DateComponents now = Calendar::currentCalendar().components(Clock::now());
-  const bool isThisMonth = now.month == service.currentMonth() && now.year == service.currentYear();
-  return isThisMonth ? now.day : 0;
-}
-
 // The number stays at the left of its label, by intent, and midway between top and bottom.
 void drawDayNumber(Canvas& canvas, std::int64_t day, Rect label, const Color& color) {
   const TextLayout number(AttributedText(
@@ -81,7 +74,7 @@ void MoonCalendarView::drawRect(Canvas& canvas, Rect rect) {
   const auto pictures = service.currentMonthImageDictionary();
   const auto firstColumn = columnOfFirstDay(service);
   if (pictures == nullptr || !firstColumn) return;
-  const std::int64_t today = todayIn(service);
+  const std::int64_t today = todayInSelectedMonth(service);
   const PictureGrid grid(bounds().size());
   const Bundle bundle = Bundle::library();
   for (const auto& [day, number] : *pictures) {

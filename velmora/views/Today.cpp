@@ -1,0 +1,14 @@
+#include <velmora/views/Today.h>
+
+#include <velmora/platform/time/Clock.h>
+#include <velmora/service/MoonPhaseData.h>
+
+namespace velmora {
+
+std::int64_t todayInSelectedMonth(const MoonPhaseData& service) {
+  const DateComponents now = Calendar::currentCalendar().components(Clock::now());
+  const bool isThisMonth = now.month == service.currentMonth() && now.year == service.currentYear();
+  return isThisMonth ? now.day : 0;
+}
+
+}  // namespace velmora

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <cstdint>
+
+namespace velmora {
+
+class MoonPhaseData;
+
+/// The device's present day, in the process's zone, when it lies in the selected month; else 0.
+std::int64_t todayInSelectedMonth(const MoonPhaseData& service);
+
+}  // namespace velmora
