@@ -2,6 +2,7 @@
 
 #include <velmora/foundation/SettingsModel.h>
 #include <velmora/foundation/VelmoraCalendar.h>
+#include <velmora/service/MoonPhaseData.h>
 
 namespace velmora::app {
 namespace {
@@ -26,6 +27,10 @@ RequestScope::RequestScope(const Request& request)
       _timeFormat(_use24HourClock) {
   if (request.now) _now.emplace(*request.now);
   VelmoraCalendar::resetSymbols();
+  MoonPhaseData::resetSharedInstance();
+  MoonPhaseData::sharedInstance().setUse24HrTimeFormat(_use24HourClock);
 }
+
+RequestScope::~RequestScope() { MoonPhaseData::resetSharedInstance(); }
 
 }  // namespace velmora::app

@@ -21,11 +21,14 @@ class ScopedTimeFormat {
   std::int64_t _former;
 };
 
-/// The process as one request wants it: locale, clock form and present. Everything is put back at the end, so
-/// that no request leaves a trace for the next.
+/// The process as one request wants it: locale, clock form and present, and a service without a selection.
+/// Everything is put back at the end, so that no request leaves a trace for the next.
 class RequestScope {
  public:
   explicit RequestScope(const Request& request);
+  ~RequestScope();
+  RequestScope(const RequestScope&) = delete;
+  RequestScope& operator=(const RequestScope&) = delete;
 
   bool use24HourClock() const { return _use24HourClock; }
 

@@ -1,6 +1,7 @@
 #include <app/RequestScope.h>
 
 #include <velmora/foundation/SettingsModel.h>
+#include <velmora/service/MoonPhaseData.h>
 
 #include "AppTest.h"
 
@@ -41,6 +42,21 @@ TEST_F(RequestScopeTest, OneSwitchSetsTheSettingsAndTheLocalesHourCycle) {
   const RequestScope scope(request);
   EXPECT_EQ(timeFormat(), 0);
   EXPECT_FALSE(Locale::current().uses24HourClock());
+}
+
+TEST_F(RequestScopeTest, TheServiceStartsAfreshInTheClockFormOfTheRequest) {
+  Request request;
+  request.clock = Locale::HourCycle::h24;
+  {
+    const RequestScope scope(request);
+    EXPECT_TRUE(MoonPhaseData::sharedInstance().use24HrTimeFormat());
+    MoonPhaseData::sharedInstance().SetSelectedLocation(GeoLocationData::DefaultLocation(), Clock::now());
+  }
+  request.clock = Locale::HourCycle::h12;
+  const RequestScope scope(request);
+  EXPECT_FALSE(MoonPhaseData::sharedInstance().use24HrTimeFormat());
+  EXPECT_EQ(MoonPhaseData::sharedInstance().currentLocation(), nullptr);
+  EXPECT_EQ(MoonPhaseData::sharedInstance().currentDate(), std::nullopt);
 }
 
 TEST_F(RequestScopeTest, AnAnswerLeavesTheProcessAsItWas) {
