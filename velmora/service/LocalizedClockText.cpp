@@ -4,7 +4,7 @@
 #include <optional>
 #include <string_view>
 
-#include <velmora/foundation/VelmoraCalendar.h>
+#include <velmora/service/ShortTimeText.h>
 
 namespace velmora {
 namespace {
@@ -33,13 +33,6 @@ std::optional<std::int64_t> minuteOfDay(std::string_view text) {
   const std::string_view half = text.substr(6);
   if (!hour || !minute || *hour > 12 || *minute > 59 || (half != "AM" && half != "PM")) return std::nullopt;
   return (*hour % 12 + (half == "PM" ? 12 : 0)) * 60 + *minute;
-}
-
-std::string shortTimeText(std::int64_t minuteOfDay) {
-  DateFormatter formatter = VelmoraCalendar::calendarDateFormatter();
-  formatter.setTimeZone(TimeZone::fixed(0));
-  formatter.setTimeStyle(DateFormatter::Style::shortStyle);
-  return formatter.stringFromDate(Instant(std::chrono::minutes(minuteOfDay)));
 }
 
 }  // namespace

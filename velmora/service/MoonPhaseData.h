@@ -16,7 +16,6 @@
 #include <velmora/phases/RiseSetPhaseItem.h>
 #include <velmora/platform/resources/Image.h>
 #include <velmora/platform/time/Calendar.h>
-#include <velmora/platform/time/DateFormatter.h>
 #include <velmora/platform/time/Instant.h>
 #include <velmora/service/EclipseInfo.h>
 
@@ -244,10 +243,11 @@ class MoonPhaseData {
   std::optional<std::int64_t> offsetOfPlace(std::optional<Instant> date) const;
   void useZoneOfPlace();
   void forgetMonth();
+  std::shared_ptr<const PhaseCalendar> phasesOfMonth() const;
   void setPlace(std::shared_ptr<GeoLocationData> location);
   std::shared_ptr<RiseSetPhaseItem> riseSetItem(const PhaseItem& day, Instant instant,
-                                                const DateFormatter& times) const;
-  std::shared_ptr<RiseSetPhaseItem> eventItem(const TableEvent& event, const DateFormatter& times) const;
+                                                const Calendar& timeCalendar) const;
+  std::shared_ptr<RiseSetPhaseItem> eventItem(const TableEvent& event, const Calendar& localCalendar) const;
 
   Calendar _calendar;
   MonthEvents _currentMonthData;

@@ -1,10 +1,8 @@
-#include <utility>
-
 #include <velmora/astronomy/RiseAndSetCalc.h>
-#include <velmora/foundation/VelmoraCalendar.h>
 #include <velmora/phases/TableLine.h>
 #include <velmora/service/LocalizedClockText.h>
 #include <velmora/service/MoonPhaseData.h>
+#include <velmora/service/ShortTimeText.h>
 
 namespace velmora {
 namespace {
@@ -14,13 +12,6 @@ constexpr std::int64_t december = 12, lastYear = 2040;
 
 // A day without an event of its own is described for 03:00.
 constexpr std::int64_t hourOfQuietDays = 3;
-
-DateFormatter shortTimes(TimeZone zone) {
-  DateFormatter formatter = VelmoraCalendar::calendarDateFormatter();
-  formatter.setTimeZone(std::move(zone));
-  formatter.setTimeStyle(DateFormatter::Style::shortStyle);
-  return formatter;
-}
 
 std::shared_ptr<RiseSetPhaseItem> itemOfDay(const PhaseItem& day) {
   auto item = std::make_shared<RiseSetPhaseItem>();
@@ -56,16 +47,13 @@ std::vector<RiseSetData> MoonPhaseData::getRiseSetDataFrom(Instant from, Instant
 
 std::shared_ptr<const MoonPhaseData::RiseSetItems> MoonPhaseData::GetRiseSetPhaseItemsForCurrentMonth() {
   if (!_rawDataDictionary || _currentRiseSetPhaseItemDictionary) return _currentRiseSetPhaseItemDictionary;
-  const Instant reference = _currentDate.value_or(Instant());
-  const PhaseCalendar days = MoonPhaseCalc::GetPhaseCalendar(
-      *_rawDataDictionary, _currentMonth - 1, _currentYear, reference, place(), _use24HrTimeFormat);
+  const auto days = _currentPhaseDictionary ? _currentPhaseDictionary : phasesOfMonth();
   const Calendar localCalendar(zoneOfPlace());
-  const DateFormatter times = shortTimes(localCalendar.timeZone());
 
   auto items = std::make_shared<RiseSetItems>();
-  for (const auto& [number, day] : days) {
+  for (const auto& [number, day] : *days) {
     const Instant instant = day->localDate ? *day->localDate : quietHour(*day, localCalendar);
-    (*items)[number] = riseSetItem(*day, instant, times);
+    (*items)[number] = riseSetItem(*day, instant, localCalendar);
   }
   _currentRiseSetPhaseItemDictionary = std::move(items);
   return _currentRiseSetPhaseItemDictionary;
@@ -86,10 +74,10 @@ std::shared_ptr<const MoonPhaseData::RiseSetItems> MoonPhaseData::GetRiseSetPhas
   const PhaseCalendar days =
       MoonPhaseCalc::GetPhaseCalendar(*table, zeroBasedMonth, year, reference, place(), _use24HrTimeFormat);
   const Calendar localCalendar(zoneOfPlace());
-  const DateFormatter times = shortTimes(TimeZone::defaultZone());
+  const Calendar deviceCalendar;
   auto items = std::make_shared<RiseSetItems>();
   for (const auto& [number, day] : days) {
-    (*items)[number] = riseSetItem(*day, quietHour(*day, localCalendar), times);
+    (*items)[number] = riseSetItem(*day, quietHour(*day, localCalendar), deviceCalendar);
   }
   return items;
 }
@@ -98,14 +86,14 @@ MoonPhaseData::YearItems MoonPhaseData::GetRiseSetPhaseItemsForYear(std::int64_t
   YearItems items;
   const auto table = getDataForYear(year);
   if (!table) return items;
-  const DateFormatter times = shortTimes(zoneOfPlace());
+  const Calendar localCalendar(zoneOfPlace());
   for (std::int64_t month = 1; month <= december; ++month) {
     const auto lines = table->find(std::to_string(month));
     if (lines == table->end()) continue;
     for (const std::string& line : lines->second) {
       const auto event = readTableLine(line, year, month);
       if (!event) continue;
-      auto item = eventItem(*event, times);
+      auto item = eventItem(*event, localCalendar);
       items[item->month].push_back(std::move(item));
     }
   }
@@ -129,11 +117,11 @@ void MoonPhaseData::localizeDateTimeStringsForRiseSetPhaseItem(RiseSetPhaseItem*
 }
 
 std::shared_ptr<RiseSetPhaseItem> MoonPhaseData::riseSetItem(const PhaseItem& day, Instant instant,
-                                                             const DateFormatter& times) const {
+                                                             const Calendar& timeCalendar) const {
   auto item = itemOfDay(day);
   item->localDate = instant;
   item->riseSetData = GetRiseSetDataForDate(instant);
-  item->timeText = times.stringFromDate(instant);
+  item->timeText = shortTimeText(instant, timeCalendar);
   item->weekDay = _calendar.components(instant).weekday;
   localizeDateTimeStringsForRiseSetPhaseItem(item.get(), place().timezone);
   return item;
@@ -142,7 +130,7 @@ std::shared_ptr<RiseSetPhaseItem> MoonPhaseData::riseSetItem(const PhaseItem& da
 // The instant shifted by the place's offset is kept in the item and handed to the search, by intent: the item
 // then stands for the event's reading on the place's clock.
 std::shared_ptr<RiseSetPhaseItem> MoonPhaseData::eventItem(const TableEvent& event,
-                                                           const DateFormatter& times) const {
+                                                           const Calendar& localCalendar) const {
   const std::int64_t offset = place().GetTimezoneIntervalFromGMT(event.instant);
   const Instant shifted = event.instant + std::chrono::seconds(offset);
   const DateComponents local = _calendar.components(event.instant);
@@ -153,7 +141,7 @@ std::shared_ptr<RiseSetPhaseItem> MoonPhaseData::eventItem(const TableEvent& eve
   item->weekDay = local.weekday;
   item->phase = event.phase;
   item->fullFactor = fullFactorForPrincipalPhase(event.phase);
-  item->timeText = times.stringFromDate(event.instant);
+  item->timeText = shortTimeText(event.instant, localCalendar);
   item->localDate = shifted;
   item->riseSetData =
       RiseAndSetCalc::Compute(shifted, place(), zoneOfPlace().secondsFromGMT(event.instant), civilTwilight);

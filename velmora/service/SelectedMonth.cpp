@@ -21,12 +21,15 @@ std::shared_ptr<const MoonPhaseCalc::ImageCalendar> MoonPhaseData::currentMonthI
 }
 
 std::shared_ptr<const MoonPhaseCalc::PhaseCalendar> MoonPhaseData::currentMonthPhaseDictionary() {
-  if (_rawDataDictionary && !_currentPhaseDictionary) {
-    _currentPhaseDictionary = std::make_shared<const PhaseCalendar>(
-        MoonPhaseCalc::GetPhaseCalendar(*_rawDataDictionary, _currentMonth - 1, _currentYear,
-                                        _currentDate.value_or(Instant()), place(), _use24HrTimeFormat));
-  }
+  if (_rawDataDictionary && !_currentPhaseDictionary) _currentPhaseDictionary = phasesOfMonth();
   return _currentPhaseDictionary;
+}
+
+/// The phases of the selected month, made anew; needs a table.
+std::shared_ptr<const MoonPhaseCalc::PhaseCalendar> MoonPhaseData::phasesOfMonth() const {
+  return std::make_shared<const PhaseCalendar>(
+      MoonPhaseCalc::GetPhaseCalendar(*_rawDataDictionary, _currentMonth - 1, _currentYear,
+                                      _currentDate.value_or(Instant()), place(), _use24HrTimeFormat));
 }
 
 std::shared_ptr<const MoonPhaseCalc::PhaseCalendar> MoonPhaseData::monthPhaseDictionaryForDate(
