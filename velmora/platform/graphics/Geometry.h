@@ -23,6 +23,14 @@ struct Size {
   friend bool operator==(const Size&, const Size&) = default;
 };
 
+/// What is left free along the edges of a rectangle, in points.
+struct EdgeInsets {
+  double top = 0;
+  double left = 0;
+  double bottom = 0;
+  double right = 0;
+};
+
 /// A rectangle: one corner and the way to the opposite one. Width and height may be negative; the area is
 /// then the same as that of the standardised rectangle, and so are the edges below.
 struct Rect {
