@@ -1,129 +1,17 @@
 #include <velmora/views/MoonRiseSetDayView.h>
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <memory>
-#include <optional>
 #include <string>
-#include <vector>
 
-#include <velmora/foundation/SettingsModel.h>
-#include <velmora/phases/Phase.h>
-#include <velmora/phases/RiseSetPhaseItem.h>
 #include <velmora/platform/graphics/cairo/CairoCanvas.h>
-#include <velmora/platform/resources/Bundle.h>
-#include <velmora/platform/time/Locale.h>
-#include <velmora/platform/ui/Device.h>
-#include <velmora/service/MoonPhaseData.h>
-#include <velmora/views/OncePerProcess.h>
 
-#include "tests/support/FixedTextEngine.h"
-#include "tests/support/RecordingCanvas.h"
-#include "tests/support/SourceDirectory.h"
+#include "tests/views/RiseSetDayTesting.h"
 
 namespace velmora {
 namespace {
 
-using testing::FixedTextEngine;
-using testing::RecordingCanvas;
-using Lines = std::vector<std::string>;
-
-RiseSetData risesAndSets() {
-  RiseSetData data;
-  data.moonRiseText = "10:00";
-  data.moonRiseMinutesFromMidnight = 600;
-  data.moonSetText = "20:00";
-  data.moonSetMinutesFromMidnight = 1200;
-  data.sunRiseText = "06:00";
-  data.sunRiseMinutesFromMidnight = 360;
-  data.sunSetText = "18:00";
-  data.sunSetMinutesFromMidnight = 1080;
-  data.dayLengthMinutes = 720;
-  return data;
-}
-
-RiseSetData withMoon(std::int64_t rise, std::int64_t set) {
-  RiseSetData data = risesAndSets();
-  data.moonRiseMinutesFromMidnight = rise;
-  data.moonSetMinutesFromMidnight = set;
-  return data;
-}
-
-std::shared_ptr<RiseSetPhaseItem> fullMoonOn(RiseSetData data) {
-  auto item = std::make_shared<RiseSetPhaseItem>();
-  item->phase = kFullMoon;
-  item->fullFactor = 1;
-  item->riseSetData = std::move(data);
-  return item;
-}
-
-class MoonRiseSetDayViewTest : public ::testing::Test {
- protected:
-  MoonRiseSetDayViewTest() {
-    MoonPhaseData::resetSharedInstance();
-    ProcessValues::resetAll();
-    row->setFrame({0, 160, 425, 80});
-    row->setPhaseItem(fullMoonOn(risesAndSets()));
-    row->setLabelText(AttributedText("14 Fri", {.font = Font::systemFont(13), .color = Color::white()}));
-  }
-  ~MoonRiseSetDayViewTest() override {
-    SettingsModel::setIsIPad(false);
-    MoonPhaseData::resetSharedInstance();
-    ProcessValues::resetAll();
-  }
-
-  Lines drawn() {
-    RecordingCanvas canvas;
-    row->drawRect(canvas, row->bounds());
-    EXPECT_TRUE(canvas.isBalanced());
-    return canvas.lines();
-  }
-
-  Lines drawnStarting(const std::string& beginning) {
-    Lines found;
-    for (const std::string& line : drawn()) {
-      if (line.starts_with(beginning)) found.push_back(line);
-    }
-    return found;
-  }
-
-  /// What the strip draws of the Moon: up to the first line in the colour of daylight.
-  Lines drawnOfMoon(std::int64_t rise, std::int64_t set) {
-    row->setPhaseItem(fullMoonOn(withMoon(rise, set)));
-    const Lines all = drawn();
-    const auto begin = std::find(all.begin(), all.end(), "setFillColor #2E4073CC");
-    return {begin, std::find(begin, all.end(), "setFillColor #67518666")};
-  }
-
-  std::optional<std::string> lineOfText(const std::string& text) {
-    const Lines found = drawnStarting("drawText \"" + text + "\"");
-    return found.size() == 1 ? std::optional(found.front()) : std::nullopt;
-  }
-
-  ScopedLocale english{"en_US"};
-  ScopedDevice device{Device()};
-  ScopedMainBundle mainBundle{testing::sourceDirectory() + "/app/resources"};
-  ScopedTextEngine textEngine{std::make_shared<FixedTextEngine>()};
-  std::shared_ptr<MoonRiseSetDayView> row = std::make_shared<MoonRiseSetDayView>();
-};
-
-const char* const moonColor = "setFillColor #2E4073CC";
-
-Lines iconLines(const std::string& name, const std::string& alpha, const std::string& rect) {
-  return {"save", "setBlendMode overlay", "setAlpha " + alpha, "drawImage " + name + " in " + rect,
-          "restore"};
-}
-
-std::string timeLine(const std::string& text, const std::string& place) {
-  return "drawText \"" + text + "\" at " + place + " System bold 12 #999999FF";
-}
-
-Lines joined(const std::vector<Lines>& parts) {
-  Lines all;
-  for (const Lines& part : parts) all.insert(all.end(), part.begin(), part.end());
-  return all;
-}
+using MoonRiseSetDayViewTest = RiseSetDayTest;
 
 TEST_F(MoonRiseSetDayViewTest, DrawsDiscLabelSeparatorsAndStripFromLeftToRight) {
   EXPECT_EQ(drawn(), joined({
@@ -200,126 +88,6 @@ TEST_F(MoonRiseSetDayViewTest, RightToLeftEverythingIsMirrored) {
                              "restore",
                          },
                      }));
-}
-
-TEST_F(MoonRiseSetDayViewTest, ADayOnWhichTheMoonIsUpAtMidnightHasTwoBarsRoundedWhereItSetsAndRises) {
-  EXPECT_EQ(drawnOfMoon(1200, 400), joined({
-                                        {
-                                            moonColor,
-                                            "fill roundedRect 65 5 100 30 corners 10 radii 8 8",
-                                            "fill roundedRect 365 5 60 30 corners 5 radii 8 8",
-                                        },
-                                        iconLines("moonrise", "1", "367 10 20 20"),
-                                        {timeLine("10:00", "330 18")},
-                                        iconLines("moonset", "1", "143 10 20 20"),
-                                        {timeLine("20:00", "170 18")},
-                                    }));
-}
-
-TEST_F(MoonRiseSetDayViewTest, RightToLeftTheTwoBarsRoundTheOtherCorners) {
-  const ScopedDevice mirrored(Device{.forcedDirection = LayoutDirection::rightToLeft});
-  const Lines lines = drawnOfMoon(1200, 400);
-  EXPECT_EQ(lines.at(1), "fill roundedRect 260 5 100 30 corners 5 radii 8 8");
-  EXPECT_EQ(lines.at(2), "fill roundedRect 0 5 60 30 corners 10 radii 8 8");
-}
-
-TEST_F(MoonRiseSetDayViewTest, WithoutMoonriseTheBarBeginsWithTheDayAndOnlyTheSetIsMarked) {
-  EXPECT_EQ(drawnOfMoon(-1, 1200), joined({
-                                       {
-                                           moonColor,
-                                           "clearRect 65 5 300 30",
-                                           "fill roundedRect 65 5 300 30 corners 15 radii 8 8",
-                                       },
-                                       iconLines("moonset", "1", "343 10 20 20"),
-                                       {timeLine("20:00", "370 18")},
-                                   }));
-}
-
-TEST_F(MoonRiseSetDayViewTest, WithoutMoonsetABarLastsToTheDaysEndAndOnlyTheRiseIsMarked) {
-  EXPECT_EQ(drawnOfMoon(600, -1), joined({
-                                      {
-                                          moonColor,
-                                          "fill roundedRect 65 5 -0.25 30 corners 10 radii 8 8",
-                                          "fill roundedRect 215 5 210 30 corners 5 radii 8 8",
-                                      },
-                                      iconLines("moonrise", "1", "217 10 20 20"),
-                                      {timeLine("10:00", "180 18")},
-                                  }));
-}
-
-TEST_F(MoonRiseSetDayViewTest, WithNeitherMoonriseNorMoonsetTheBarFillsTheDayUnmarked) {
-  EXPECT_EQ(drawnOfMoon(-1, -1),
-            (Lines{moonColor, "clearRect 65 5 360 30", "fill roundedRect 65 5 360 30 corners 15 radii 8 8"}));
-}
-
-TEST_F(MoonRiseSetDayViewTest, AMoonsetOfTomorrowLetsTheBarRunOffUnmarked) {
-  EXPECT_EQ(drawnOfMoon(1200, 1500), joined({
-                                         {
-                                             moonColor,
-                                             "clearRect 365 5 75 30",
-                                             "fill roundedRect 365 5 75 30 corners 15 radii 8 8",
-                                         },
-                                         iconLines("moonrise", "1", "367 10 20 20"),
-                                         {timeLine("10:00", "330 18")},
-                                     }));
-}
-
-TEST_F(MoonRiseSetDayViewTest, TheDaysLastMomentStillCounts) {
-  const Lines lines = drawnOfMoon(600, 1440);
-  EXPECT_EQ(lines.at(12), "drawImage moonset in 403 10 20 20");
-  EXPECT_EQ(lines.at(14), timeLine("20:00", "368 18"));
-}
-
-TEST_F(MoonRiseSetDayViewTest, AMoonriseNearTheStripsEdgeIsWrittenBehindItsIcon) {
-  drawnOfMoon(136, 1200);
-  EXPECT_EQ(lineOfText("10:00"), timeLine("10:00", "126 18"));
-  drawnOfMoon(140, 1200);
-  EXPECT_EQ(lineOfText("10:00"), timeLine("10:00", "65 18"));
-}
-
-TEST_F(MoonRiseSetDayViewTest, AMoonsetNearTheStripsEdgeIsWrittenBeforeItsIcon) {
-  drawnOfMoon(600, 1296);
-  EXPECT_EQ(lineOfText("20:00"), timeLine("20:00", "394 18"));
-  drawnOfMoon(600, 1304);
-  EXPECT_EQ(lineOfText("20:00"), timeLine("20:00", "334 18"));
-  drawnOfMoon(600, 1300);
-  EXPECT_EQ(lineOfText("20:00"), std::nullopt) << "it would end at the very edge";
-}
-
-TEST_F(MoonRiseSetDayViewTest, RightToLeftTimesChangeSidesNearTheStripsOtherEdges) {
-  const ScopedDevice mirrored(Device{.forcedDirection = LayoutDirection::rightToLeft});
-  drawnOfMoon(0, 1440);
-  EXPECT_EQ(lineOfText("10:00"), timeLine("10:00", "303 18"));
-  EXPECT_EQ(lineOfText("20:00"), timeLine("20:00", "27 18"));
-}
-
-TEST_F(MoonRiseSetDayViewTest, AMoonsetSoonAfterMidnightHasNoRoomForItsIcon) {
-  EXPECT_EQ(drawnOfMoon(1200, 87).size(), 3U + 5 + 1 + 1);
-  EXPECT_EQ(lineOfText("20:00"), timeLine("20:00", "91 18"));
-  EXPECT_EQ(drawnOfMoon(1200, 88).size(), 3U + 5 + 1 + 5 + 1);
-  EXPECT_EQ(drawnStarting("drawImage moonset"), Lines{"drawImage moonset in 65 10 20 20"});
-}
-
-TEST_F(MoonRiseSetDayViewTest, ASunThatDoesNotSetFillsTheLowerHalfWithItsTextsBesideIt) {
-  RiseSetData data = risesAndSets();
-  data.sunRiseText = data.sunSetText = "--";
-  data.sunRiseMinutesFromMidnight = data.sunSetMinutesFromMidnight = -1;
-  data.dayLengthMinutes = 1440;
-  row->setPhaseItem(fullMoonOn(data));
-  EXPECT_EQ(drawnStarting("fill rounded").at(1), "fill roundedRect 64.75 45 360 30 corners 15 radii 8 8");
-  EXPECT_EQ(drawnStarting("drawText \"--\""),
-            (Lines{timeLine("--", "47.75 58"), timeLine("--", "429.75 58")}));
-  EXPECT_EQ(drawnStarting("drawImage sun"),
-            (Lines{"drawImage sunrise in 66.75 50 20 20", "drawImage sunset in 402.75 50 20 20"}));
-}
-
-TEST_F(MoonRiseSetDayViewTest, MissingIconsLeaveBarsAndTimes) {
-  const Lines complete = drawn();
-  const ScopedMainBundle empty("/nowhere");
-  const Lines lines = drawn();
-  EXPECT_EQ(drawnStarting("drawImage"), Lines());
-  EXPECT_EQ(lines.size(), complete.size() - 4 * 5U);
-  EXPECT_EQ(drawnStarting("drawText").size(), 5U);
 }
 
 TEST_F(MoonRiseSetDayViewTest, WithoutADayThereAreLabelSeparatorsAndMidlineAlone) {
@@ -401,29 +169,6 @@ TEST_F(MoonRiseSetDayViewTest, ARowWithoutAThemeTakesTheSharedCalendarTheme) {
   EXPECT_EQ(row->calendarTheme(), VelmoraTheme::calendarTheme());
 }
 
-TEST_F(MoonRiseSetDayViewTest, OnATabletTimesAreLarger) {
-  SettingsModel::setIsIPad(true);
-  EXPECT_EQ(lineOfText("10:00"), "drawText \"10:00\" at 172 15 System bold 15 #999999FF");
-}
-
-TEST_F(MoonRiseSetDayViewTest, OnANarrowScreenTimesAreSmaller) {
-  const ScopedDevice narrow(Device{.screenWidth = 320});
-  EXPECT_EQ(lineOfText("10:00"), "drawText \"10:00\" at 185 20 System bold 10 #999999FF");
-}
-
-TEST_F(MoonRiseSetDayViewTest, OnAScreenJustWiderTimesAreOfSmallSystemSize) {
-  const ScopedDevice wider(Device{.screenWidth = 321});
-  EXPECT_EQ(lineOfText("10:00"), timeLine("10:00", "180 18"));
-}
-
-TEST_F(MoonRiseSetDayViewTest, TheTimesAttributesAreMadeOnceAProcess) {
-  const Lines first = drawn();
-  SettingsModel::setIsIPad(true);
-  EXPECT_EQ(drawn(), first);
-  ProcessValues::resetAll();
-  EXPECT_NE(drawn(), first);
-}
-
 TEST_F(MoonRiseSetDayViewTest, ALabelWiderThanItsColumnIsCutAtItsEdges) {
   row->setLabelText(AttributedText(
       "14 Wednesday",
@@ -453,7 +198,7 @@ TEST_F(MoonRiseSetDayViewTest, ItIsNeverOpaque) {
 }
 
 TEST_F(MoonRiseSetDayViewTest, ATouchOnlyAsksForDrawing) {
-  RecordingCanvas canvas;
+  testing::RecordingCanvas canvas;
   row->render(canvas);
   ASSERT_FALSE(row->needsDisplay());
   const Lines before = canvas.lines();
@@ -466,7 +211,7 @@ TEST_F(MoonRiseSetDayViewTest, ATouchOnlyAsksForDrawing) {
 
 TEST_F(MoonRiseSetDayViewTest, WhatIsSetAsksForDrawing) {
   const auto asks = [this](auto&& set) {
-    RecordingCanvas canvas;
+    testing::RecordingCanvas canvas;
     row->render(canvas);
     set();
     return row->needsDisplay();

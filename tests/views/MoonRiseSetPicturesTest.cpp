@@ -62,7 +62,7 @@ class MoonRiseSetPicturesTest : public ::testing::TestWithParam<Week> {
 
   ScopedDevice device{Device()};
   ScopedDefaultTimeZone zone{"Etc/UTC"};
-  ScopedMainBundle mainBundle{testing::sourceDirectory() + "/app/resources"};
+  ScopedMainBundle mainBundle{sourceDirectory() + "/app/resources"};
 };
 
 TEST_P(MoonRiseSetPicturesTest, AWeekLooksAsItShould) {

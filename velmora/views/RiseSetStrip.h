@@ -36,7 +36,8 @@ class RiseSetStrip {
 
   /// The one bar of a Moon that rises before it sets.
   Rect moonBar(MoonHours hours) const;
-  /// The two bars of a Moon that is up at midnight.
+  /// The two bars of a Moon that is up at midnight. Without a set the first is the minute before midnight, a
+  /// sliver outside the strip, by intent, and the second lasts to the day's end.
   Rect moonBarUntilSet(MoonHours hours) const;
   Rect moonBarFromRise(MoonHours hours) const;
   Rect dayBar(std::int64_t sunrise, std::int64_t dayLength) const;
