@@ -110,6 +110,7 @@ class iPhoneCalendarView : public View {
 
   /// The geometry of the last drawing, which touches and accessibility go by; all 0 before it.
   MonthGrid& grid() { return _grid; }
+  const MonthGrid& grid() const { return _grid; }
   const NumberFormatter& numberFormatter() const { return _numberFormatter; }
 
   /// Whether the finger has left the cell that it came down on.

@@ -1,0 +1,90 @@
+#include <velmora/views/MoonPhaseYearView.h>
+
+#include <cmath>
+#include <utility>
+
+#include <velmora/views/UIControls.h>
+
+namespace velmora {
+namespace {
+
+/// The number of whole cells in a length; 0 where cells have no size.
+std::int64_t wholeCells(double length, double cellSize) {
+  const double cells = std::trunc(length / cellSize);
+  return std::isfinite(cells) && std::abs(cells) < 1e9 ? static_cast<std::int64_t>(cells) : 0;
+}
+
+}  // namespace
+
+void MoonPhaseYearView::calendarDateChanged() {
+  const std::int64_t year = MoonPhaseData::sharedInstance().currentYear();
+  if (year != _selectedYear) {
+    loadYear(year);
+    setNeedsDisplay();
+  }
+  loadSelectedPhaseItem();
+}
+
+void MoonPhaseYearView::calendarLocationChanged() {
+  loadYear(MoonPhaseData::sharedInstance().currentYear());
+  loadSelectedPhaseItem();
+  setNeedsDisplay();
+}
+
+void MoonPhaseYearView::loadYear(std::int64_t year) {
+  _phaseDictionary =
+      std::make_shared<const YearItems>(MoonPhaseData::sharedInstance().GetRiseSetPhaseItemsForYear(year));
+  _selectedYear = year;
+}
+
+void MoonPhaseYearView::loadSelectedPhaseItem() {
+  _selectedPhaseItem.reset();
+  const MoonPhaseData& service = MoonPhaseData::sharedInstance();
+  if (!_phaseDictionary || !_phaseDictionary->contains(service.currentMonth())) return;
+  for (const auto& item : _phaseDictionary->at(service.currentMonth())) {
+    if (item->phase == _filteredPhase && item->day == service.currentDay() &&
+        item->month == service.currentMonth() && item->year == service.currentYear()) {
+      _selectedPhaseItem = item;
+    }
+  }
+}
+
+void MoonPhaseYearView::clearSelection() {
+  _selectedPhaseItem.reset();
+  setNeedsDisplay();
+}
+
+void MoonPhaseYearView::changeSelectedItem(std::shared_ptr<RiseSetPhaseItem> item) {
+  _selectedPhaseItem = std::move(item);
+  if (!_selectedPhaseItem) return;
+  MoonPhaseData& service = MoonPhaseData::sharedInstance();
+  const RiseSetPhaseItem& selected = *_selectedPhaseItem;
+  const Instant date =
+      service.calendar().date({.year = selected.year, .month = selected.month, .day = selected.day});
+  service.SetSelectedDate(date);
+  setSelectedDate(date);
+  announce(date);
+}
+
+void MoonPhaseYearView::touchesBegan(const Touch& touch) {
+  iPhoneCalendarView::touchesBegan(touch);
+  clearSelection();
+  _touchedCell = cellUnder(touch);
+}
+
+void MoonPhaseYearView::touchesEnded(const Touch& touch) {
+  if (touchCancelled() || cellUnder(touch) != _touchedCell) return;
+  const auto found = _displayedEvents.find(_touchedCell);
+  changeSelectedItem(found == _displayedEvents.end() ? nullptr : found->second);
+  setNeedsDisplay();
+}
+
+// The gap above the first row is not taken off: rows are touched that much higher than they are drawn, by
+// intent.
+MoonPhaseYearView::Cell MoonPhaseYearView::cellUnder(const Touch& touch) const {
+  const Point point = UIControls::pointForCurrentLayoutDirection(touch.locationIn(*this), bounds());
+  return {wholeCells(point.x - grid().leftMargin, grid().cellWidth),
+          wholeCells(point.y - grid().topMargin - heightForHeaderView(), grid().cellHeight)};
+}
+
+}  // namespace velmora
