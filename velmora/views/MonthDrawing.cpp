@@ -22,6 +22,7 @@ constexpr Size headerRadii = {4, 0};
 constexpr double eclipseRingWidth = 3;
 constexpr double frameRadius = 8;
 constexpr double frameLineWidth = 1;
+constexpr double frameDash = 3;  // and its gaps
 constexpr Color alternateDayColor = {0.4, 0.6, 1, 1};
 
 bool isPrincipal(std::int64_t phase) {
@@ -119,7 +120,7 @@ class MonthDays {
   void drawFrame(Rect frame) {
     _canvas.setStrokeColor(_theme.lightTextColor);
     _canvas.setLineWidth(frameLineWidth);
-    _canvas.setLineDash({3, 3});
+    _canvas.setLineDash({frameDash, frameDash});
     _canvas.stroke(Path::roundedRect(frame, frameRadius));
     _canvas.setLineDash({});
   }
