@@ -14,12 +14,6 @@ using std::chrono::years;
 
 constexpr years longestRange{41};
 
-/// Whether the zone's clocks ever showed that day; Apia's went from 29 to 31 December 2011.
-bool exists(CivilDate date, const TimeZone& zone) {
-  const LocalLookup midnight = zone.lookup(LocalTime(local_days(date)));
-  return midnight.kind != LocalLookup::Kind::skipped || dateAt(midnight.change, zone) == date;
-}
-
 void checkRange(CivilDate from, CivilDate to) {
   if (to < from)
     throw BadInput("the range from " + dateText(from) + " to " + dateText(to) +
@@ -33,6 +27,11 @@ void checkRange(CivilDate from, CivilDate to) {
 
 CivilDate dateAt(Instant instant, const TimeZone& zone) {
   return CivilDate(std::chrono::floor<days>(zone.localTime(instant)));
+}
+
+bool exists(CivilDate date, const TimeZone& zone) {
+  const LocalLookup midnight = zone.lookup(LocalTime(local_days(date)));
+  return midnight.kind != LocalLookup::Kind::skipped || dateAt(midnight.change, zone) == date;
 }
 
 Instant instantOn(CivilDate date, ClockTime time, const TimeZone& zone) {

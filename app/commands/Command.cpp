@@ -4,10 +4,14 @@
 
 #include <app/commands/Batch.h>
 #include <app/commands/Elevation.h>
+#include <app/commands/Month.h>
+#include <app/commands/Next.h>
+#include <app/commands/Phases.h>
 #include <app/commands/Position.h>
 #include <app/commands/RiseSet.h>
 #include <app/commands/Today.h>
 #include <app/commands/Track.h>
+#include <app/commands/Year.h>
 
 namespace velmora::app {
 
@@ -17,8 +21,8 @@ bool Command::takes(std::string_view option) const {
 
 const std::vector<const Command*>& allCommands() {
   static const std::vector<const Command*> commands = {
-      &todayCommand(), &riseSetCommand(),   &positionCommand(),
-      &trackCommand(), &elevationCommand(), &batchCommand(),
+      &todayCommand(),   &monthCommand(),    &yearCommand(),  &phasesCommand(),    &nextCommand(),
+      &riseSetCommand(), &positionCommand(), &trackCommand(), &elevationCommand(), &batchCommand(),
   };
   return commands;
 }

@@ -6,6 +6,7 @@
 #include <app/Errors.h>
 #include <app/place/CityTable.h>
 #include <app/request/ValueTexts.h>
+#include <velmora/phases/Phase.h>
 
 namespace velmora::app {
 namespace {
@@ -35,6 +36,23 @@ CivilDate date(const std::string& text) {
   if (!date) throw BadInput("is not a date that exists");
   if (date->year() < firstYear || date->year() > lastYear) throw BadInput("is out of range");
   return *date;
+}
+
+void checkTableYear(std::chrono::year year) {
+  if (year < firstTableYear || year > lastTableYear) throw BadInput("is out of range");
+}
+
+std::chrono::year_month month(const std::string& text) {
+  const auto month = monthFromText(text);
+  if (!month) throw BadInput("is not a month");
+  checkTableYear(month->year());
+  return *month;
+}
+
+std::chrono::year year(double number) {
+  const std::chrono::year year(static_cast<int>(wholeNumber(within(number, 9999))));
+  checkTableYear(year);
+  return year;
 }
 
 ClockTime timeOfDay(const std::string& text) {
@@ -81,6 +99,11 @@ void readTwilight(Request& request, const std::string& text) {
                                             {"astronomical", Twilight::astronomical}});
 }
 
+void readPhase(Request& request, const std::string& text) {
+  request.phase = oneOf<std::int64_t>(
+      text, {{"new", kNewMoon}, {"first", kFirstQuarter}, {"full", kFullMoon}, {"last", kLastQuarter}});
+}
+
 void readBody(Request& request, const std::string& text) {
   request.body = oneOf<Body>(text, {{"moon", Body::moon}, {"sun", Body::sun}});
 }
@@ -123,6 +146,12 @@ std::vector<Option> makeOptions() {
       {"from", "YYYY-MM-DD", "first day of a range", dateForm, Text([](R& r, S& v) { r.from = date(v); })},
       {"to", "YYYY-MM-DD", "last day of a range, at most 41 years long", dateForm,
        Text([](R& r, S& v) { r.to = date(v); })},
+      {"month", "[YYYY-MM]", "the month (default: the present one)", "YYYY-MM from 2000-01 to 2040-12",
+       Text([](R& r, S& v) { r.month = month(v); })},
+      {"year", "[YYYY]", "the year (default: the present one)", "2000 to 2040",
+       Number([](R& r, double v) { r.year = year(v); })},
+      {"phase", "PHASE", "only new, first (quarter), full or last (quarter)", "new, first, full or last",
+       Text(readPhase)},
       {"twilight", "KIND", "civil (default), nautical or astronomical", "civil, nautical or astronomical",
        Text(readTwilight)},
       {"body", "BODY", "moon (default) or sun", "moon or sun", Text(readBody)},

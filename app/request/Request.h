@@ -39,7 +39,11 @@ struct Request {
   std::optional<ClockTime> time;
   std::optional<CivilDate> from;
   std::optional<CivilDate> to;
+  std::optional<std::chrono::year_month> month;
+  std::optional<std::chrono::year> year;
   std::optional<Instant> now;
+
+  std::optional<std::int64_t> phase;  ///< a principal one, by the library's number
 
   Twilight twilight = Twilight::civil;
   Body body = Body::moon;

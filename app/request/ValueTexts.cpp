@@ -56,14 +56,17 @@ class Scanner {
   bool _fits = true;
 };
 
-std::optional<CivilDate> scanDate(Scanner& text) {
+std::chrono::year_month scanMonth(Scanner& text) {
   const int year = text.digits(4);
   text.expect('-');
   const int month = text.digits(2);
+  return {std::chrono::year{year}, std::chrono::month(static_cast<unsigned>(month))};
+}
+
+std::optional<CivilDate> scanDate(Scanner& text) {
+  const std::chrono::year_month month = scanMonth(text);
   text.expect('-');
-  const int day = text.digits(2);
-  const CivilDate date(std::chrono::year{year}, std::chrono::month(static_cast<unsigned>(month)),
-                       std::chrono::day(static_cast<unsigned>(day)));
+  const CivilDate date = month / std::chrono::day(static_cast<unsigned>(text.digits(2)));
   if (!text.fits() || !date.ok()) return std::nullopt;
   return date;
 }
@@ -109,6 +112,13 @@ std::optional<CivilDate> dateFromText(std::string_view text) {
   Scanner scanner(text);
   const auto date = scanDate(scanner);
   return scanner.fitsWhole() ? date : std::nullopt;
+}
+
+std::optional<std::chrono::year_month> monthFromText(std::string_view text) {
+  Scanner scanner(text);
+  const std::chrono::year_month month = scanMonth(scanner);
+  if (!scanner.fitsWhole() || !month.ok()) return std::nullopt;
+  return month;
 }
 
 std::optional<ClockTime> timeFromText(std::string_view text) {

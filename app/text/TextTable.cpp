@@ -3,15 +3,10 @@
 #include <algorithm>
 #include <numeric>
 
+#include <app/text/DisplayWidth.h>
+
 namespace velmora::app {
 namespace {
-
-/// Characters, not bytes: each character of UTF-8 has one byte that continues none.
-std::size_t length(const std::string& text) {
-  return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char byte) {
-    return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;
-  }));
-}
 
 void trimEnd(std::string& line) { line.erase(line.find_last_not_of(' ') + 1); }
 
@@ -19,7 +14,7 @@ std::string lineOf(const TextTable::Row& row, const std::vector<std::size_t>& wi
   std::string line;
   std::size_t column = 0, end = 0;
   for (const auto& cell : row) {
-    line.append(end - std::min(end, length(line)), ' ');
+    line.append(end - std::min(end, displayWidth(line)), ' ');
     line += cell.text;
     for (std::size_t i = 0; i < cell.span && column < widths.size(); ++i) end += widths[column++] + gap;
   }
@@ -31,14 +26,14 @@ std::string lineOf(const TextTable::Row& row, const std::vector<std::size_t>& wi
 
 std::vector<std::size_t> TextTable::columnWidths(std::size_t gap) const {
   std::vector<std::size_t> widths;
-  for (const auto& text : _headings) widths.push_back(length(text));
+  for (const auto& text : _headings) widths.push_back(displayWidth(text));
   for (const Row& row : _rows) {
     std::size_t column = 0;
     for (const Cell& cell : row) {
       const std::size_t others =
           std::accumulate(&widths[column], &widths[column] + cell.span - 1, gap * (cell.span - 1));
       column += cell.span;
-      widths[column - 1] = std::max(widths[column - 1] + others, length(cell.text)) - others;
+      widths[column - 1] = std::max(widths[column - 1] + others, displayWidth(cell.text)) - others;
     }
   }
   return widths;
@@ -56,6 +51,11 @@ std::string TextTable::text(bool boldHeadings) const {
       heading(lineOf(Row(_headings.begin(), _headings.end()), widths, gap), boldHeadings) + "\n";
   for (const Row& row : _rows) lines += lineOf(row, widths, gap) + "\n";
   return lines;
+}
+
+std::string rightAligned(std::int64_t number, std::size_t width) {
+  const std::string digits = std::to_string(number);
+  return std::string(width - std::min(width, digits.size()), ' ') + digits;
 }
 
 std::string heading(const std::string& text, bool bold) { return bold ? "\033[1m" + text + "\033[0m" : text; }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -24,7 +25,7 @@ class TextTable {
 
   void add(Row row) { _rows.push_back(std::move(row)); }
 
-  /// How many characters the longest line has, with that many blanks between columns.
+  /// How many columns of a terminal the longest line takes, with that many blanks between columns.
   std::size_t width(std::size_t gap = 2) const;
 
   /// The lines, with two blanks between columns, or one where the page is too narrow for two.
@@ -36,6 +37,9 @@ class TextTable {
   std::vector<std::string> _headings;
   std::vector<Row> _rows;
 };
+
+/// The number with blanks in front, so that it takes that many columns at least.
+std::string rightAligned(std::int64_t number, std::size_t width);
 
 /// The text in bold on a terminal, or as it is.
 std::string heading(const std::string& text, bool bold);
