@@ -49,6 +49,23 @@ TEST_F(BatchTest, EachCommandAnswersAsOnTheCommandLine) {
             json({"today", "--name", "Home", "--locale", "fi_FI", "--now", "2024-01-01T00:00:00Z"}));
 }
 
+TEST_F(BatchTest, PhaseCommandsAnswerAsOnTheCommandLine) {
+  const auto list = answers(R"({"op": "month", "month": "2024-03", "city": "Oslo", "clock": "24h"})"
+                            "\n"
+                            R"({"op": "year", "year": 2024, "tz": "Asia/Tokyo", "locale": "ja_JP"})"
+                            "\n"
+                            R"({"op": "phases", "from": "2024-12-01", "to": "2025-01-31", "phase": "full"})"
+                            "\n"
+                            R"({"op": "next", "now": "2024-12-31T00:00:00Z"})"
+                            "\n");
+  ASSERT_EQ(list.size(), 4U);
+  EXPECT_EQ(list[0]["result"], json({"month", "2024-03", "--city", "Oslo", "--24h"}));
+  EXPECT_EQ(list[1]["result"], json({"year", "2024", "--tz", "Asia/Tokyo", "--locale", "ja_JP"}));
+  EXPECT_EQ(list[2]["result"],
+            json({"phases", "--from", "2024-12-01", "--to", "2025-01-31", "--phase", "full"}));
+  EXPECT_EQ(list[3]["result"], json({"next", "--now", "2024-12-31T00:00:00Z"}));
+}
+
 TEST_F(BatchTest, AnswersKeepTheOrderAndTheIds) {
   const auto list = answers(R"({"op": "position", "id": 7})"
                             "\n"
@@ -102,6 +119,12 @@ TEST_F(BatchTest, BadLinesSayWhatIsWrongAndTheStreamGoesOn) {
       {R"({"op": "elevation"})", "elevation is missing"},
       {R"({"op": "position", "date": "2023-02-29"})", "is not a date that exists"},
       {R"({"op": "riseset", "from": "2024-01-02", "to": "2024-01-01"})", "backwards"},
+      {R"({"op": "month", "month": 3})", "month '3' is not a text"},
+      {R"({"op": "month", "month": "2041-01"})", "month '2041-01' is out of range"},
+      {R"({"op": "year", "year": "2024"})", "year '2024' is not a number"},
+      {R"({"op": "year", "year": 1999})", "year '1999' is out of range"},
+      {R"({"op": "phases", "from": "2040-12-31", "to": "2041-01-01"})", "to 2041-01-01 lies outside"},
+      {R"({"op": "next", "now": "1999-06-01T00:00:00Z"})", "today's date 1999-05-31 lies outside"},
       {R"({"op": "position", "gmt-offset": 0.5})", "not a whole number"},
       {R"({"op": "position", "lat": 1, "lat": 2, "lon": 3})", "'lat' is given more than once"},
       {"\xff\xfe{}", "not valid JSON"},

@@ -29,6 +29,12 @@ TEST(ValueTexts, DatesMustExist) {
     EXPECT_EQ(dateFromText(text), std::nullopt) << text;
 }
 
+TEST(ValueTexts, MonthsHaveFourAndTwoDigits) {
+  EXPECT_EQ(monthFromText("2024-02"), 2024y / 2);
+  for (const char* text : {"2024-13", "2024-00", "2024-2", "24-02", "2024-02-01", "2024", "2024-02 ", ""})
+    EXPECT_EQ(monthFromText(text), std::nullopt) << text;
+}
+
 TEST(ValueTexts, TimesOfDayGoFromMidnightToAMinuteBeforeIt) {
   EXPECT_EQ(timeFromText("00:00"), 0min);
   EXPECT_EQ(timeFromText("23:59"), 1439min);
