@@ -1,4 +1,5 @@
 #include <app/text/DisplayWidth.h>
+#include <velmora/platform/resources/Bundle.h>
 
 #include "AppTest.h"
 
@@ -80,6 +81,17 @@ TEST_F(PhasesCommandTest, ReadsWithWeekdayDateAndTime) {
 TEST_F(PhasesCommandTest, SaysSoWhereThereIsNone) {
   const std::string text = answer({"phases", "--from", "2024-03-26", "--to", "2024-03-27"});
   EXPECT_TRUE(text.ends_with("\nNone in this range.\n")) << text;
+}
+
+TEST_F(PhasesCommandTest, WithoutTheTablesThereIsNoAnswer) {
+  const ScopedLibraryBundle empty("/nowhere");
+  for (const std::vector<std::string>& question :
+       {std::vector<std::string>{"month", "2024-03"}, {"year", "2024"}, {"next"}}) {
+    const Outcome outcome = runProgram(question);
+    EXPECT_EQ(outcome.status, 1) << question.front();
+    EXPECT_EQ(outcome.out, "");
+    EXPECT_EQ(outcome.err, "velmora: the phase table of 2024 cannot be read\n");
+  }
 }
 
 TEST_F(PhasesCommandTest, PhasesOfEveryLanguageFitThePage) {

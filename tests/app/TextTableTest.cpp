@@ -19,6 +19,19 @@ TEST(TextTable, LettersOfSeveralBytesCountOnce) {
   EXPECT_EQ(table.text(false), "A     B\n60°   x\nabcd  y\n");
 }
 
+TEST(TextTable, WideLettersCountTwice) {
+  TextTable table({"A", "B"});
+  table.add({"満月", "x"});
+  table.add({"abcd", "y"});
+  EXPECT_EQ(table.text(false), "A     B\n満月  x\nabcd  y\n");
+}
+
+TEST(TextTable, ANumberMayStandAtTheRight) {
+  EXPECT_EQ(rightAligned(7, 3), "  7");
+  EXPECT_EQ(rightAligned(100, 3), "100");
+  EXPECT_EQ(rightAligned(1000, 3), "1000");
+}
+
 TEST(TextTable, ACellMayStandInTwoColumns) {
   TextTable table({"Name", "Rise", "Set", "Next"});
   table.add({"Sun", {"up all day", 2}, "x"});
