@@ -1,6 +1,7 @@
 #include <app/PhaseYear.h>
 
 #include <algorithm>
+#include <iterator>
 
 #include <app/Days.h>
 #include <app/Errors.h>

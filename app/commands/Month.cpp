@@ -1,6 +1,5 @@
 #include <app/commands/Month.h>
 
-#include <algorithm>
 #include <cmath>
 
 #include <app/Days.h>
