@@ -42,6 +42,17 @@ CivilDate coveredToday(const Query& query) {
   return today;
 }
 
+CivilDate coveredDay(const Query& query) {
+  if (!query.request.date) return coveredToday(query);
+  const CivilDate day = dayOf(query);
+  checkCovered("date", day);
+  return day;
+}
+
+std::chrono::year coveredYear(const Query& query) {
+  return query.request.year ? *query.request.year : coveredToday(query).year();
+}
+
 PhaseYear::PhaseYear(std::chrono::year year, const Place& place)
     : _year(year), _place(place), _table(tableOfYear(static_cast<int>(year))) {
   if (!_table) throw Failure("the phase table of " + std::to_string(this->year()) + " cannot be read");

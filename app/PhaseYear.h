@@ -13,6 +13,14 @@ void checkCovered(const std::string& label, CivilDate date);
 /// Today at the place. Throws BadInput if the tables do not cover it.
 CivilDate coveredToday(const Query& query);
 
+/// The day or the year that the request asks for, else the present one at the place. Throws BadInput for one
+/// that the tables do not cover.
+CivilDate coveredDay(const Query& query);
+std::chrono::year coveredYear(const Query& query);
+
+/// Longer than any lunation: within it each phase comes at least once.
+constexpr std::chrono::days longestLunation{30};
+
 /// A new moon, first quarter, full moon or last quarter.
 struct PhaseEvent {
   Instant instant;

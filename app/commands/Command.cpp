@@ -3,7 +3,10 @@
 #include <algorithm>
 
 #include <app/commands/Batch.h>
+#include <app/commands/Eclipse.h>
+#include <app/commands/Eclipses.h>
 #include <app/commands/Elevation.h>
+#include <app/commands/Ics.h>
 #include <app/commands/Month.h>
 #include <app/commands/Next.h>
 #include <app/commands/Phases.h>
@@ -21,8 +24,9 @@ bool Command::takes(std::string_view option) const {
 
 const std::vector<const Command*>& allCommands() {
   static const std::vector<const Command*> commands = {
-      &todayCommand(),   &monthCommand(),    &yearCommand(),  &phasesCommand(),    &nextCommand(),
-      &riseSetCommand(), &positionCommand(), &trackCommand(), &elevationCommand(), &batchCommand(),
+      &todayCommand(),    &monthCommand(),    &yearCommand(),  &phasesCommand(),    &nextCommand(),
+      &riseSetCommand(),  &positionCommand(), &trackCommand(), &elevationCommand(), &eclipseCommand(),
+      &eclipsesCommand(), &icsCommand(),      &batchCommand(),
   };
   return commands;
 }

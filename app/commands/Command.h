@@ -15,7 +15,7 @@ struct Query {
   const Request& request;
   const Place& place;
   bool use24HourClock;  ///< in texts for people
-  bool boldHeadings;    ///< the same
+  bool boldHeadings;    ///< the same; drawings are in color then
 };
 
 /// A command: how it is asked for, and its answer for programs and for people. While it answers, the

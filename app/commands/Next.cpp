@@ -10,17 +10,13 @@
 namespace velmora::app {
 namespace {
 
-using std::chrono::days;
 using std::chrono::local_days;
-
-/// Longer than any lunation, so that each phase comes at least once.
-constexpr days longestWait{30};
 
 PhaseEvents answer(const Query& query) {
   coveredToday(query);
   const Instant now = Clock::now();
   PhaseEvents next;
-  for (const PhaseEvent& event : phaseEventsBetween(now, now + longestWait, query.place)) {
+  for (const PhaseEvent& event : phaseEventsBetween(now, now + longestLunation, query.place)) {
     const bool isKnown = std::any_of(next.begin(), next.end(),
                                      [&](const PhaseEvent& known) { return known.phase == event.phase; });
     if (event.instant > now && !isKnown) next.push_back(event);

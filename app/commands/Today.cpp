@@ -1,6 +1,7 @@
 #include <app/commands/Today.h>
 
 #include <app/Days.h>
+#include <app/MoonGlance.h>
 #include <app/Positions.h>
 #include <app/RiseSetDay.h>
 #include <app/request/ValueTexts.h>
@@ -24,12 +25,12 @@ Json json(const Query& query) {
   const Instant present = presentOf(query);
   const Place& place = query.place;
   const CivilDate day = dayOf(query);
-  return {{"date", dateText(day)},
-          {"instant", instantText(present)},
-          {"place", placeJson(place)},
-          {"riseSet", riseSetJson(riseSetDay(day, place, query.request.twilight))},
-          {"sun", positionJson(positionAt(present, Body::sun, place))},
-          {"moon", positionJson(positionAt(present, Body::moon, place))}};
+  Json today{{"date", dateText(day)}, {"instant", instantText(present)}, {"place", placeJson(place)}};
+  today.update(moonGlanceJson(moonGlance(query)));
+  today.update({{"riseSet", riseSetJson(riseSetDay(day, place, query.request.twilight))},
+                {"sun", positionJson(positionAt(present, Body::sun, place))},
+                {"moon", positionJson(positionAt(present, Body::moon, place))}});
+  return today;
 }
 
 std::string eventText(const std::string& recordText, const Query& query) {
@@ -76,7 +77,8 @@ std::string text(const Query& query) {
   const RiseSetDay day = riseSetDayIn24Hours(dayOf(query), query.place, query.request.twilight);
   TextTable facts({"Daylight", lengthText(daylightMinutes(day))});
   facts.add({"Twilight (" + twilightName(query.request.twilight) + ")", twilightText(day, query)});
-  return query.place.heading() + momentText(present, query) + "\n" + bodiesText(day, present, query) + "\n" +
+  return query.place.heading() + momentText(present, query) + "\n" +
+         moonGlanceText(moonGlance(query), query) + "\n" + bodiesText(day, present, query) + "\n" +
          facts.text(false);
 }
 
@@ -85,7 +87,7 @@ std::string text(const Query& query) {
 const Command& todayCommand() {
   static const Command command{
       "today",
-      "the day at a glance: Sun and Moon now, their rise and set, twilight",
+      "the day at a glance: phase, rise and set, twilight, positions",
       optionList({placeOptions(), {"date", "time", "twilight"}, outputOptions(), generalOptions()}),
       "",
       json,

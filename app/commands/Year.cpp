@@ -11,10 +11,6 @@ namespace {
 
 constexpr unsigned monthsPerYear = 12;
 
-std::chrono::year yearOf(const Query& query) {
-  return query.request.year ? *query.request.year : coveredToday(query).year();
-}
-
 /// The time in the locale's short style.
 std::string timeText(Instant instant) {
   DateFormatter times = VelmoraCalendar::calendarDateFormatter();
@@ -40,7 +36,7 @@ Json eventJson(const PhaseEvent& event) {
 }
 
 Json json(const Query& query) {
-  const PhaseYear year(yearOf(query), query.place);
+  const PhaseYear year(coveredYear(query), query.place);
   Json months;
   for (unsigned month = 1; month <= monthsPerYear; ++month) {
     Json& list = months[std::to_string(month)] = Json::array();
@@ -58,7 +54,7 @@ void addMonth(TextTable& table, const PhaseEvents& events, const Query& query) {
 }
 
 std::string text(const Query& query) {
-  const std::chrono::year number = yearOf(query);
+  const std::chrono::year number = coveredYear(query);
   const PhaseYear year(number, query.place);
   TextTable table({std::to_string(static_cast<int>(number)), "", "Day", "Time", "Phase"});
   for (unsigned month = 1; month <= monthsPerYear; ++month)

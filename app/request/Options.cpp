@@ -170,7 +170,7 @@ std::vector<Option> makeOptions() {
       {"locale", "ID", "language and region, such as en_US", "letters, digits and _ - @ = . (at most 64)",
        Text([](R& r, S& v) { r.locale = locale(v); })},
       {"json", "", "answer in JSON", "", Switch([](R& r) { r.json = true; }), onlyOnCommandLine},
-      {"color", "WHEN", "bold headings: auto (default), always or never", "auto, always or never",
+      {"color", "WHEN", "bold headings and color: auto (default), always or never", "auto, always or never",
        Text(readColor), onlyOnCommandLine},
       {"help", "", "say what is accepted", "", Switch([](R& r) { r.help = true; }), onlyOnCommandLine},
       {"version", "", "say which version this is", "", Switch([](R& r) { r.version = true; }),

@@ -170,15 +170,35 @@ TEST_F(BatchTest, MessagesQuoteAtMostEightyCharacters) {
 }
 
 TEST_F(BatchTest, EachLineIsAnsweredAsIfItWereTheFirst) {
-  const std::string plain = R"({"op": "today", "lat": 10, "lon": 20})";
+  const std::string plain = R"({"op": "today", "lat": 10, "lon": 20, "now": "2022-11-08T18:00:00Z"})";
   const std::vector<std::string> before = {
       R"({"op": "today", "clock": "24h", "locale": "fi_FI", "city": "Tokyo", "now": "2030-01-01T00:00:00Z"})",
       R"({"op": "today", "tz": "Asia/Kathmandu", "name": "Home"})",
+      R"({"op": "eclipses", "year": 2030, "city": "Sydney", "locale": "de_DE"})",
       R"({"op": "today", "clock": "24h", "city": "nowhere to be found"})",
       "broken",
   };
   const Json alone = answers(plain + "\n").at(0);
   for (const std::string& line : before) EXPECT_EQ(answers(line + "\n" + plain + "\n").at(1), alone) << line;
+}
+
+TEST_F(BatchTest, EclipsesAndCalendarsAnswerAsOnTheCommandLine) {
+  const auto list = answers(R"({"op": "eclipse", "city": "Tokyo", "date": "2022-11-08", "locale": "ja_JP"})"
+                            "\n"
+                            R"({"op": "eclipse", "city": "Paris", "date": "2022-11-08"})"
+                            "\n"
+                            R"({"op": "eclipses", "year": 2025, "city": "New York"})"
+                            "\n"
+                            R"({"op": "ics", "from": "2024-01-01", "to": "2024-03-31", "clock": "24h"})"
+                            "\n"
+                            R"({"op": "eclipses", "year": 1999})"
+                            "\n");
+  ASSERT_EQ(list.size(), 5U);
+  EXPECT_EQ(list[0]["result"]["title"], "皆既月食");
+  EXPECT_EQ(list[1]["result"], nullptr);
+  EXPECT_EQ(list[2]["result"], json({"eclipses", "2025", "--city", "New York"}));
+  EXPECT_EQ(list[3]["result"], json({"ics", "--from", "2024-01-01", "--to", "2024-03-31"}));
+  EXPECT_EQ(list[4]["error"], "year '1999' is out of range; accepted: 2000 to 2040");
 }
 
 TEST_F(BatchTest, CoordinatesWithoutAZoneTakeTheProcessesOnEveryLine) {

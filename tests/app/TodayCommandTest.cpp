@@ -1,3 +1,7 @@
+#include <app/Illumination.h>
+#include <app/text/DisplayWidth.h>
+#include <velmora/platform/resources/Bundle.h>
+
 #include "AppTest.h"
 
 namespace velmora::app {
@@ -17,12 +21,113 @@ TEST_F(TodayCommandTest, IsTheDayAtThePlace) {
             "37.7855° N, 122.3918° W, America/Los_Angeles\n"
             "Thursday 20 June 2024, 05:00 (GMT-07:00)\n"
             "\n"
+            "    ⢀⣤⣴⣶⣿⣿⣿⣿⣶⣶⣤⡀\n"
+            "  ⢀⣴⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿⣷⣄\n"
+            " ⢴⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿⣦    Waxing Gibbous\n"
+            "⢐⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿⡇   Lit        97%\n"
+            "⢽⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿   Age        day 15 of the lunation\n"
+            "⢽⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿   Full Moon  Fri 2024-06-21 18:08\n"
+            "⢐⢿⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿⡇   New Moon   Fri 2024-07-05 15:57\n"
+            " ⠙⢿⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿⠟    Eclipse    none visible\n"
+            "  ⠙⢿⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿⡿⠋\n"
+            "    ⠈⠙⠿⠿⣿⣿⣿⣿⠿⠿⠛⠁\n"
+            "\n"
             "      Rise   Set    Now\n"
             "Sun   05:48  20:35  8.6° below the horizon, NE\n"
             "Moon  19:56  04:13  7.5° below the horizon, WSW\n"
             "\n"
             "Daylight          14h 47m\n"
             "Twilight (civil)  from 05:17 to 21:06\n");
+}
+
+TEST_F(TodayCommandTest, ThePhaseIsTheRecordOfTheDay) {
+  const Json today = json({"today"});
+  for (const Json& day : json({"month", "2024-06"})["days"]) {
+    if (day["day"] != 20) continue;
+    for (const char* name : {"phase", "phaseName", "fullFactor", "moonAge"})
+      EXPECT_EQ(today[name], day.value(name, today[name])) << name;
+    EXPECT_EQ(today["moonAge"], day["moonAge"]);
+  }
+  EXPECT_EQ(today["phase"], 5);
+  EXPECT_EQ(today["phaseName"], "Waxing Gibbous");
+}
+
+TEST_F(TodayCommandTest, TheLitShareIsThatOfTheInstant) {
+  const Json evening = json({"today", "--date", "2024-06-20", "--time", "23:00"});
+  const Json morning = json({"today", "--date", "2024-06-20", "--time", "01:00"});
+  EXPECT_EQ(evening["illumination"], illuminationAt(instant("2024-06-21T06:00:00Z")).fraction);
+  EXPECT_EQ(morning["illumination"], illuminationAt(instant("2024-06-20T08:00:00Z")).fraction);
+  EXPECT_EQ(evening["fullFactor"], morning["fullFactor"]);
+}
+
+TEST_F(TodayCommandTest, TheNextNewAndFullMoonAreTrueInstantsAfterThePresent) {
+  const Json before = json({"today", "--now", "2024-06-22T01:07:00Z"});
+  EXPECT_EQ(before["nextFullMoon"], "2024-06-22T01:08:00Z");
+  const Json after = json({"today", "--now", "2024-06-22T01:09:00Z"});
+  EXPECT_EQ(after["nextFullMoon"], "2024-07-21T10:17:00Z");
+  EXPECT_EQ(after["nextNewMoon"], "2024-07-05T22:57:00Z");
+}
+
+TEST_F(TodayCommandTest, TheNextPhasesMayLieInTheNextYear) {
+  EXPECT_EQ(json({"today", "--date", "2024-12-31"})["nextFullMoon"], "2025-01-13T22:27:00Z");
+}
+
+TEST_F(TodayCommandTest, AtTheEndOfTheTablesThereIsNoNextPhase) {
+  const std::vector<std::string> arguments = {"today", "--date", "2040-12-31"};
+  EXPECT_EQ(json(arguments)["nextNewMoon"], nullptr);
+  EXPECT_NE(answer(arguments).find("New Moon   after 2040, where the tables end\n"), std::string::npos);
+}
+
+TEST_F(TodayCommandTest, TheSoonerOfNewAndFullMoonComesFirst) {
+  const std::string june = answer({"--date", "2024-06-20"}), july = answer({"--date", "2024-06-25"});
+  EXPECT_LT(june.find("Full Moon "), june.find("New Moon "));
+  EXPECT_LT(july.find("New Moon "), july.find("Full Moon "));
+}
+
+TEST_F(TodayCommandTest, ShowsTheVisibleEclipseOfTheDay) {
+  const std::vector<std::string> arguments = {"today", "--city", "Chicago", "--date", "2024-04-08", "--24h"};
+  EXPECT_EQ(json(arguments)["eclipse"], json({"eclipse", "--city", "Chicago", "--date", "2024-04-08"}));
+  EXPECT_NE(answer(arguments).find("Eclipse    Total Solar Eclipse, 13:17\n"), std::string::npos);
+  EXPECT_EQ(json({"today", "--city", "Sydney", "--date", "2024-04-08"})["eclipse"], nullptr);
+}
+
+TEST_F(TodayCommandTest, TheDiscIsMirroredSouthOfTheEquator) {
+  const auto middleOf = [](const char* latitude) {
+    return linesOf(answer({"--lat", latitude, "--lon", "0", "--date", "2024-06-14"})).at(7);
+  };
+  const std::string litOnTheRight = "⠅        ⢸⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿ ";
+  const std::string litOnTheLeft = "⣿⣿⣿⣿⣿⣿⣿⣿⣿⣿⡇        ⠨ ";
+  EXPECT_EQ(middleOf("0").find(litOnTheRight), 0U) << middleOf("0");
+  EXPECT_EQ(middleOf("60").find(litOnTheRight), 0U) << middleOf("60");
+  EXPECT_EQ(middleOf("-0.1").find(litOnTheLeft), 0U) << middleOf("-0.1");
+}
+
+TEST_F(TodayCommandTest, PhasesAreInTheLanguageOfTheUser) {
+  const std::string text = answer({"--city", "Berlin", "--locale", "de_DE"});
+  for (const char* word : {"Zunehmender Dreiviertelmond\n", "Vollmond  Sat 2024-06-22 03:08\n", "Neumond   "})
+    EXPECT_NE(text.find(word), std::string::npos) << word;
+}
+
+TEST_F(TodayCommandTest, DaysOutsideTheTablesAreBadInput) {
+  for (const std::vector<std::string>& arguments : {std::vector<std::string>{"--date", "1999-12-31"},
+                                                    {"--date", "2041-01-01"},
+                                                    {"--city", "Tokyo", "--now", "2040-12-31T15:00:00Z"}}) {
+    const Outcome outcome = runProgram(arguments);
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_EQ(outcome.out, "");
+    EXPECT_NE(outcome.err.find("outside the phase tables; accepted: 2000-01-01 to 2040-12-31"),
+              std::string::npos)
+        << outcome.err;
+  }
+  EXPECT_EQ(runProgram({"--city", "Honolulu", "--now", "2040-12-31T15:00:00Z"}).status, 0);
+}
+
+TEST_F(TodayCommandTest, AMissingTableIsAFailure) {
+  const ScopedLibraryBundle nothing{"/nonexistent"};
+  const Outcome outcome = runProgram({});
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_EQ(outcome.out, "");
+  EXPECT_EQ(outcome.err, "velmora: the phase table of 2024 cannot be read\n");
 }
 
 TEST_F(TodayCommandTest, FollowsTheClockOfTheLocale) {
@@ -69,6 +174,11 @@ TEST_F(TodayCommandTest, MidnightIsTwelveOnTheTwelveHourClock) {
   EXPECT_NE(text.find("to 12:42 AM next day"), std::string::npos) << text;
 }
 
+TEST_F(TodayCommandTest, TheDiscIsInColorOnlyOnDemandOrOnATerminal) {
+  EXPECT_NE(answer({"--color", "always"}).find("\033[93m⣿"), std::string::npos);
+  EXPECT_EQ(answer({"--color", "never"}).find('\033'), std::string::npos);
+}
+
 TEST_F(TodayCommandTest, HeadingsAreBoldOnlyOnDemandOrOnATerminal) {
   EXPECT_EQ(answer({}).find('\033'), std::string::npos);
   EXPECT_EQ(answer({"--color", "auto"}).find('\033'), std::string::npos);
@@ -78,10 +188,12 @@ TEST_F(TodayCommandTest, HeadingsAreBoldOnlyOnDemandOrOnATerminal) {
 
 TEST_F(TodayCommandTest, FitsThePage) {
   for (const char* city : {"Longyearbyen", "America/North_Dakota/New_Salem", "Buenos Aires"}) {
-    for (const char* date : {"2024-06-21", "2024-12-21", "2024-09-21"}) {
-      for (const std::string& line :
-           linesOf(answer({"--city", city, "--date", date, "--12h", "--twilight", "astronomical"})))
-        EXPECT_LE(charactersOf(line), 80U) << line;
+    for (const char* date : {"2024-06-21", "2024-12-21", "2025-03-14", "2040-12-31"}) {
+      for (const char* locale : {"en_US", "de_DE", "es_ES", "ja_JP", "hi_IN", "ru_RU"}) {
+        for (const std::string& line : linesOf(answer({"--city", city, "--date", date, "--12h", "--twilight",
+                                                       "astronomical", "--locale", locale})))
+          EXPECT_LE(displayWidth(line), 80U) << line;
+      }
     }
   }
 }

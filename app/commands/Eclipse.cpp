@@ -1,0 +1,37 @@
+#include <app/commands/Eclipse.h>
+
+#include <app/Days.h>
+#include <app/Eclipses.h>
+#include <app/PhaseYear.h>
+#include <app/text/ClockText.h>
+#include <app/text/EnglishDate.h>
+
+namespace velmora::app {
+namespace {
+
+Json json(const Query& query) { return eclipseJson(visibleEclipse(coveredDay(query), query.place).get()); }
+
+std::string text(const Query& query) {
+  const CivilDate day = coveredDay(query);
+  const auto eclipse = visibleEclipse(day, query.place);
+  const std::string date = englishDate(day, "EEEE d MMMM yyyy");
+  const std::string answer = eclipse
+                                 ? eclipseTitle(*eclipse) + "\nGreatest at " +
+                                       localText(eclipse->datetime, query.place.zone, query.use24HourClock)
+                                 : "No eclipse is visible from here on this day.";
+  return query.place.heading() + date + "\n\n" + answer + "\n";
+}
+
+}  // namespace
+
+const Command& eclipseCommand() {
+  static const Command command{"eclipse",
+                               "the eclipse that is visible on a day",
+                               optionList({placeOptions(), {"date"}, outputOptions(), generalOptions()}),
+                               "",
+                               json,
+                               text};
+  return command;
+}
+
+}  // namespace velmora::app

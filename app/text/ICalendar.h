@@ -1,0 +1,23 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <velmora/platform/time/Instant.h>
+
+namespace velmora::app {
+
+/// An event of no length in a calendar that other programs read.
+struct CalendarEvent {
+  std::string kind;  ///< letters and digits; names the event together with its instant
+  Instant instant;
+  std::string summary;
+  std::optional<std::string> location;
+};
+
+/// The events as an iCalendar object (RFC 5545) in UTF-8: every instant in universal time, each event under a
+/// UID that stays the same from one writing to the next. `stamp`: when it is written.
+std::string iCalendar(const std::vector<CalendarEvent>& events, Instant stamp);
+
+}  // namespace velmora::app

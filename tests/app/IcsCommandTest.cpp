@@ -1,0 +1,81 @@
+#include "AppTest.h"
+
+namespace velmora::app {
+namespace {
+
+class IcsCommandTest : public AppTest {
+ protected:
+  static std::string uidsOf(std::vector<std::string> arguments) {
+    arguments.insert(arguments.begin(), "ics");
+    std::string uids;
+    for (const std::string& line : linesOf(answer(arguments))) {
+      if (line.starts_with("UID:")) uids += line.substr(4, line.find('@') - 4) + "\n";
+    }
+    return uids;
+  }
+};
+
+TEST_F(IcsCommandTest, HoldsPhasesAndVisibleEclipsesInOrderOfTime) {
+  const std::vector<std::string> april = {"--from", "2024-04-01", "--to", "2024-04-30"};
+  auto chicago = april, sydney = april;
+  chicago.insert(chicago.end(), {"--city", "Chicago"});
+  sydney.insert(sydney.end(), {"--city", "Sydney"});
+  EXPECT_EQ(uidsOf(chicago),
+            "LQ-20240402T031500Z\nTSE-20240408T181700Z\nNM-20240408T182100Z\nFQ-20240415T191300Z\n"
+            "FM-20240423T234900Z\n");
+  EXPECT_EQ(uidsOf(sydney),
+            "LQ-20240402T031500Z\nNM-20240408T182100Z\nFQ-20240415T191300Z\nFM-20240423T234900Z\n");
+}
+
+TEST_F(IcsCommandTest, TheRangeIsOfDaysAtThePlace) {
+  EXPECT_EQ(uidsOf({"--from", "2024-04-24", "--to", "2024-04-24", "--city", "Tokyo"}),
+            "FM-20240423T234900Z\n");
+  EXPECT_EQ(uidsOf({"--from", "2024-04-23", "--to", "2024-04-23", "--city", "Tokyo"}), "");
+}
+
+TEST_F(IcsCommandTest, ARangeThatThePlaceSkippedIsEmpty) {
+  EXPECT_EQ(uidsOf({"--from", "2011-12-30", "--to", "2011-12-30", "--city", "Apia"}), "");
+}
+
+TEST_F(IcsCommandTest, TextsAreInTheLanguageOfTheUser) {
+  const std::string calendar = answer(
+      {"ics", "--from", "2025-03-14", "--to", "2025-03-14", "--city", "New York", "--locale", "de_DE"});
+  EXPECT_NE(calendar.find("SUMMARY:Totale Mondfinsternis\r\nLOCATION:New York\r\n"), std::string::npos);
+  EXPECT_NE(calendar.find("SUMMARY:Vollmond\r\n"), std::string::npos);
+}
+
+TEST_F(IcsCommandTest, AnUnnamedPlaceIsCalledByItsCoordinates) {
+  EXPECT_NE(answer({"ics", "--from", "2025-03-14", "--to", "2025-03-14", "--lat", "40.7", "--lon", "-74"})
+                .find("LOCATION:40.7000° N\\, 74.0000° W\r\n"),
+            std::string::npos);
+}
+
+TEST_F(IcsCommandTest, IsStampedWithThePresent) {
+  EXPECT_NE(
+      answer({"ics", "--from", "2024-04-08", "--to", "2024-04-08"}).find("DTSTAMP:20240620T120000Z\r\n"),
+      std::string::npos);
+}
+
+TEST_F(IcsCommandTest, InJsonItIsTheWholeCalendarAsOneText) {
+  const std::vector<std::string> arguments = {"ics", "--from", "2024-04-01", "--to", "2024-04-30"};
+  EXPECT_EQ(json(arguments), Json({{"calendar", answer(arguments)}}));
+}
+
+TEST_F(IcsCommandTest, BadRangesAreBadInput) {
+  const std::vector<std::pair<std::vector<std::string>, std::string>> cases = {
+      {{"ics"}, "from and to are missing"},
+      {{"ics", "--from", "2024-01-01"}, "from and to come together"},
+      {{"ics", "--from", "2024-01-02", "--to", "2024-01-01"}, "runs backwards"},
+      {{"ics", "--from", "1999-12-31", "--to", "2000-01-01"}, "from 1999-12-31 lies outside"},
+      {{"ics", "--from", "2040-12-31", "--to", "2041-01-01"}, "to 2041-01-01 lies outside"},
+  };
+  for (const auto& [arguments, message] : cases) {
+    const Outcome outcome = runProgram(arguments);
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_EQ(outcome.out, "");
+    EXPECT_NE(outcome.err.find(message), std::string::npos) << outcome.err;
+  }
+}
+
+}  // namespace
+}  // namespace velmora::app
