@@ -17,6 +17,7 @@
 #include <velmora/platform/resources/Image.h>
 #include <velmora/platform/time/Calendar.h>
 #include <velmora/platform/time/Instant.h>
+#include <velmora/service/EclipseCatalogue.h>
 #include <velmora/service/EclipseInfo.h>
 
 namespace velmora {
@@ -43,7 +44,7 @@ class MoonPhaseData {
   /// A year's principal events by month, 1 to 12, in the order of the table.
   using YearItems = std::map<std::int64_t, std::vector<std::shared_ptr<RiseSetPhaseItem>>>;
   /// The eclipse catalogue by instant.
-  using Eclipses = std::map<Instant, std::shared_ptr<const EclipseInfo>>;
+  using Eclipses = EclipseCatalogue;
 
   /// The one instance, made on the first call.
   static MoonPhaseData& sharedInstance();
