@@ -86,6 +86,15 @@ Locale locale(const std::string& text) {
   return Locale(text);
 }
 
+std::string unicodeText(const std::string& text) {
+  try {
+    Json(text).dump();  // writes nothing but UTF-8
+  } catch (const Json::type_error&) {
+    throw BadInput("is not UTF-8");
+  }
+  return text;
+}
+
 void setClock(Request& request, Locale::HourCycle cycle) {
   if (request.clock && *request.clock != cycle) throw BadInput("contradicts the clock chosen before");
   request.clock = cycle;
@@ -138,7 +147,8 @@ std::vector<Option> makeOptions() {
       {"gmt-offset", "SECONDS", "fixed offset from GMT in place of a time zone",
        "whole seconds from -64800 to 64800 (18 hours), east positive",
        Number([](R& r, double v) { r.gmtOffset = wholeNumber(within(v, farthestGmtOffset)); })},
-      {"name", "TEXT", "what to call the place", "", Text([](R& r, S& v) { r.name = v; })},
+      {"name", "TEXT", "what to call the place", "text in UTF-8",
+       Text([](R& r, S& v) { r.name = unicodeText(v); })},
       {"date", "YYYY-MM-DD", "the day (default: today)", dateForm,
        Text([](R& r, S& v) { r.date = date(v); })},
       {"time", "HH:MM", "the time of day at the place", "HH:MM from 00:00 to 23:59",

@@ -96,6 +96,7 @@ INSTANTIATE_TEST_SUITE_P(
         {"NextAfterTheTables", {"next", "--now", "2041-01-02T00:00:00Z"}, {"today's date 2041-01-01"}},
         {"Twilight", {"--twilight", "dark"}, {"'dark' is not known", "civil, nautical or astronomical"}},
         {"Body", {"position", "--body", "mars"}, {"'mars' is not known", "moon or sun"}},
+        {"NameThatIsNoUnicode", {"--name", "a\xff"}, {"is not UTF-8", "text in UTF-8"}},
         {"Clock", {"--clock", "25h"}, {"'25h'", "24h or 12h"}},
         {"BothClocks", {"--24h", "--12h"}, {"contradicts"}},
         {"Locale", {"--locale", "en US"}, {"'en US'", "letters"}},
