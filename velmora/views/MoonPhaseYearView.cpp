@@ -8,10 +8,12 @@
 namespace velmora {
 namespace {
 
-/// The number of whole cells in a length; 0 where cells have no size.
+constexpr double farthestCell = 1e9;
+
+/// The number of whole cells in a length, cut toward zero; 0 where cells have next to no size.
 std::int64_t wholeCells(double length, double cellSize) {
-  const double cells = std::trunc(length / cellSize);
-  return std::isfinite(cells) && std::abs(cells) < 1e9 ? static_cast<std::int64_t>(cells) : 0;
+  const double cells = length / cellSize;
+  return std::abs(cells) < farthestCell ? static_cast<std::int64_t>(cells) : 0;
 }
 
 }  // namespace
@@ -66,6 +68,7 @@ void MoonPhaseYearView::changeSelectedItem(std::shared_ptr<RiseSetPhaseItem> ite
   announce(date);
 }
 
+// A move is told by the month view, which remembers a cell of its own.
 void MoonPhaseYearView::touchesBegan(const Touch& touch) {
   iPhoneCalendarView::touchesBegan(touch);
   clearSelection();

@@ -1,10 +1,11 @@
 #pragma once
 
+#include <compare>
 #include <cstdint>
 #include <map>
 #include <memory>
 #include <optional>
-#include <string>
+#include <utility>
 
 #include <velmora/platform/graphics/AttributedText.h>
 #include <velmora/platform/time/NumberFormatter.h>
@@ -14,17 +15,19 @@
 namespace velmora {
 
 /// The full or the new moons of a year: a row a month, a column a weekday from Sunday on, and a header that
-/// says the selected one's time and elevation. A tap on a moon selects its day in the service.
+/// says the selected one's time and elevation. A tap on a moon selects its day in the service. The colours
+/// are those of the shared default theme, except for the dark part of crescents.
 ///
 /// The host calls `calendarDateChanged` and `calendarLocationChanged` when the service posts so; until the
-/// first of these there is nothing to draw.
+/// first of these there is nothing to draw. `weekStartDay` moves the weekdays' names and not the moons, by
+/// intent.
 ///
 /// Source files: MoonPhaseYearView.cpp (selection and touches), YearDrawing.cpp.
 class MoonPhaseYearView : public iPhoneCalendarView {
  public:
   using YearItems = MoonPhaseData::YearItems;
 
-  /// The year's principal events by month; none before they are loaded.
+  /// The year's principal events by month, 1 to 12; none before they are loaded.
   const std::shared_ptr<const YearItems>& phaseDictionary() const { return _phaseDictionary; }
   void setPhaseDictionary(std::shared_ptr<const YearItems> items) { _phaseDictionary = std::move(items); }
 
@@ -40,15 +43,18 @@ class MoonPhaseYearView : public iPhoneCalendarView {
   const std::shared_ptr<RiseSetPhaseItem>& selectedPhaseItem() const { return _selectedPhaseItem; }
 
   /// Loads the service's year where it is another than `selectedYear`, and selects the event of the
-  /// service's day. The month view's way of following a notification stays in place beside it.
+  /// service's day. The service's post alone does not lead here: it reaches the month view's operation of
+  /// this name, which asks for drawing.
   void calendarDateChanged();
   /// Loads the service's year for its place, and selects the event of the service's day.
   void calendarLocationChanged();
 
+  /// Selects the event of the service's day.
   void didMoveToSuperview() override { loadSelectedPhaseItem(); }
 
   /// Selects the shown event of the service's day, or none; of several the last.
   void loadSelectedPhaseItem();
+  /// Ends the selection; the service keeps its day.
   void clearSelection();
   /// Selects the event, and its day in the service, and announces the date; none clears the selection alone.
   void changeSelectedItem(std::shared_ptr<RiseSetPhaseItem> item);
@@ -64,7 +70,7 @@ class MoonPhaseYearView : public iPhoneCalendarView {
   /// Height of the header above the grid, in points.
   static double heightForHeaderView() { return 40; }
 
-  // Text attributes, made once per process.
+  // Text attributes: centred, cut at their rectangle, made once per process.
   static const TextAttributes& dateTextAttributes();
   static const TextAttributes& selectedDateTextAttributes();
   static const TextAttributes& headerCenterTitleTextAttributes();
@@ -78,8 +84,7 @@ class MoonPhaseYearView : public iPhoneCalendarView {
   /// A column and a row, counted from 0.
   struct Cell {
     std::int64_t x = 0, y = 0;
-    friend bool operator==(const Cell&, const Cell&) = default;
-    friend bool operator<(const Cell& a, const Cell& b) { return a.y != b.y ? a.y < b.y : a.x < b.x; }
+    friend auto operator<=>(const Cell&, const Cell&) = default;
   };
 
   void loadYear(std::int64_t year);

@@ -1,5 +1,6 @@
 #include <cmath>
 #include <string>
+#include <string_view>
 
 #include <velmora/foundation/SettingsModel.h>
 #include <velmora/foundation/VelmoraCalendar.h>
@@ -17,7 +18,7 @@ namespace {
 
 constexpr double topMargin = 30, bottomMargin = 15, sideMargin = 8;
 constexpr double gapAboveRows = 8;
-constexpr std::int64_t columns = 7, months = 12;
+constexpr std::int64_t columns = MonthGrid::columns, months = 12;
 constexpr double discPaddingShare = 0.4;  // of a cell's width
 constexpr double labelOverlap = 2;        // of a label with its disc's rectangle
 constexpr double lineWidth = 0.5;
@@ -133,6 +134,7 @@ void MoonPhaseYearView::drawEvents(Canvas& canvas) {
   _displayedEvents.clear();
   _yearOfLastEvent = _selectedYear;
   for (const auto& [month, items] : *_phaseDictionary) {
+    if (month < 1 || month > months) continue;
     for (const auto& item : items) {
       if (item->phase == _filteredPhase) drawEvent(canvas, item, {item->weekDay - 1, month - 1});
     }
@@ -152,9 +154,8 @@ void MoonPhaseYearView::drawEvent(Canvas& canvas, const std::shared_ptr<RiseSetP
   canvas.setFillColor(color);
   drawMoonPhaseInRect(UIControls::rectForCurrentLayoutDirection(disc, bounds()), *item, canvas);
 
-  const auto month = static_cast<std::size_t>(item->month - 1);
-  const std::string date =
-      VelmoraCalendar::shortMonthStrings().at(month) + " " + numberFormatter().stringFromNumber(item->day);
+  const std::string& month = VelmoraCalendar::shortMonthStrings().at(static_cast<std::size_t>(cell.y));
+  const std::string date = month + " " + numberFormatter().stringFromNumber(item->day);
   const Rect label = {disc.x, disc.maxY() - labelOverlap, columnWidth, forDevice(21, 16)};
   TextLayout(AttributedText(date, isSelected ? selectedDateTextAttributes() : dateTextAttributes()))
       .drawInRect(canvas, UIControls::rectForCurrentLayoutDirection(label, bounds()));
