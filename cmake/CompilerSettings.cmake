@@ -17,7 +17,8 @@ endif()
 add_library(velmora_compiler_settings INTERFACE)
 target_compile_options(velmora_compiler_settings INTERFACE
   -ffp-contract=off
-  -Wall -Wextra -Wpedantic -Wconversion -Wshadow)
+  -Wall -Wextra -Wpedantic -Wconversion -Wshadow
+  $<$<CONFIG:Release>:-fno-semantic-interposition>)  # the library calls its own functions, whoever links it
 if(VELMORA_WARNINGS_AS_ERRORS)
   target_compile_options(velmora_compiler_settings INTERFACE -Werror)
 endif()
