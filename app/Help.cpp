@@ -20,8 +20,8 @@ std::string optionsText(const Command& command) {
 std::string positionalText(const Command& command) {
   if (command.positional.empty()) return "";
   const Option& option = *findOption(command.positional);
-  return std::string(option.valueName) + ": " + std::string(option.help) + ", " +
-         std::string(option.accepts) + "\n\n";
+  const std::string accepted = command.notes ? "" : ", " + std::string(option.accepts);
+  return std::string(option.valueName) + ": " + std::string(option.help) + accepted + "\n\n";
 }
 
 std::string commandsText() {
@@ -47,7 +47,8 @@ std::string usageText(const Command& command) {
 
 std::string helpText(const Command& command) {
   const bool answersUnnamed = &command == allCommands().front();
-  return (answersUnnamed ? programText() : usageText(command)) + optionsText(command);
+  const std::string notes = command.notes ? command.notes() + "\n" : "";
+  return (answersUnnamed ? programText() : usageText(command)) + notes + optionsText(command);
 }
 
 }  // namespace velmora::app

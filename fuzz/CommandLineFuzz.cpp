@@ -9,11 +9,25 @@
 #include <vector>
 
 #include <app/Run.h>
+#include <app/commands/Draw.h>
+#include <app/request/CommandLine.h>
+
+// Such arguments are read, but the file that they name is not written.
+static bool asksForPicture(const std::vector<std::string>& arguments) {
+  using namespace velmora::app;
+  try {
+    return requestFromArguments(arguments).command == &drawCommand();
+  } catch (const std::exception&) {
+    return false;
+  }
+}
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   std::istringstream text(std::string(reinterpret_cast<const char*>(data), size));
   std::vector<std::string> arguments;
   for (std::string argument; std::getline(text, argument);) arguments.push_back(argument);
+
+  if (asksForPicture(arguments)) return 0;
 
   std::istringstream in;
   std::ostringstream out, err;

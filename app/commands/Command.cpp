@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include <app/commands/Batch.h>
+#include <app/commands/Draw.h>
 #include <app/commands/Eclipse.h>
 #include <app/commands/Eclipses.h>
 #include <app/commands/Elevation.h>
@@ -26,7 +27,7 @@ const std::vector<const Command*>& allCommands() {
   static const std::vector<const Command*> commands = {
       &todayCommand(),    &monthCommand(),    &yearCommand(),  &phasesCommand(),    &nextCommand(),
       &riseSetCommand(),  &positionCommand(), &trackCommand(), &elevationCommand(), &eclipseCommand(),
-      &eclipsesCommand(), &icsCommand(),      &batchCommand(),
+      &eclipsesCommand(), &drawCommand(),     &icsCommand(),   &batchCommand(),
   };
   return commands;
 }

@@ -27,6 +27,7 @@ struct Command {
   std::string_view positional;            ///< the option whose value stands without a name; empty for none
   Json (*json)(const Query&);
   std::string (*text)(const Query&);
+  std::string (*notes)() = nullptr;  ///< for the help: the positional option's values; none for most
 
   bool takes(std::string_view option) const;
 };

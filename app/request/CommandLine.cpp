@@ -15,8 +15,10 @@ namespace {
 void declare(CLI::App& parser, const Command& command) {
   parser.allow_extras();
   for (const std::string_view name : command.options) {
-    const std::string spelling = (name == command.positional ? "" : "--") + std::string(name);
-    if (findOption(name)->isSwitch()) {
+    const Option& option = *findOption(name);
+    std::string spelling = (name == command.positional ? "" : "--") + std::string(name);
+    if (option.letter) spelling += std::string(",-") + option.letter;
+    if (option.isSwitch()) {
       parser.add_flag(spelling);
     } else {
       parser.add_option(spelling)->type_size(1)->expected(1)->multi_option_policy(

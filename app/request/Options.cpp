@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include <app/Errors.h>
+#include <app/drawing/DrawingOptions.h>
 #include <app/place/CityTable.h>
 #include <app/request/ValueTexts.h>
 #include <velmora/phases/Phase.h>
@@ -21,14 +21,6 @@ double within(double number, double limit) {
 std::int64_t wholeNumber(double number) {
   if (number != std::floor(number)) throw BadInput("is not a whole number");
   return static_cast<std::int64_t>(number);
-}
-
-template <typename Value>
-Value oneOf(const std::string& text, const std::vector<std::pair<std::string_view, Value>>& values) {
-  for (const auto& [name, value] : values) {
-    if (name == text) return value;
-  }
-  throw BadInput("is not known");
 }
 
 CivilDate date(const std::string& text) {
@@ -188,6 +180,11 @@ std::vector<Option> makeOptions() {
   };
 }
 
+std::vector<Option> joined(std::vector<Option> list, const std::vector<Option>& more) {
+  list.insert(list.end(), more.begin(), more.end());
+  return list;
+}
+
 /// Runs a reader; what it finds wrong becomes a whole message.
 template <typename Read>
 void reading(const Option& option, const std::string& label, std::string_view value, Read read) {
@@ -223,7 +220,7 @@ void readJson(const Option& option, const Json& value, Request& request) {
 }  // namespace
 
 const std::vector<Option>& allOptions() {
-  static const std::vector<Option> options = makeOptions();
+  static const std::vector<Option> options = joined(drawingOptions(), makeOptions());
   return options;
 }
 
@@ -239,11 +236,13 @@ void readOptionText(const Option& option, const std::string& value, Request& req
     if (const auto* turnOn = std::get_if<Option::Switch>(&option.read)) return (*turnOn)(request);
     readText(option, value, request);
   });
+  request.given.push_back(option.name);
 }
 
 void readOptionJson(const Option& option, const Json& value, Request& request) {
   const std::string text = value.is_string() ? value.get<std::string>() : jsonLine(value);
   reading(option, std::string(option.name), text, [&] { readJson(option, value, request); });
+  if (value != Json(false)) request.given.push_back(option.name);
 }
 
 }  // namespace velmora::app

@@ -2,9 +2,11 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 #include <variant>
 #include <vector>
 
+#include <app/Errors.h>
 #include <app/Json.h>
 #include <app/request/Request.h>
 
@@ -24,6 +26,7 @@ struct Option {
   /// Puts a value into the request; throws BadInput with what is wrong about it.
   std::variant<Switch, Number, Text> read;
   bool onlyOnCommandLine = false;
+  char letter = '\0';  ///< its short spelling on the command line; none for most
 
   bool isSwitch() const { return std::holds_alternative<Switch>(read); }
 };
@@ -33,6 +36,15 @@ const std::vector<Option>& allOptions();
 
 /// The option of that name; none if there is no such option.
 const Option* findOption(std::string_view name);
+
+/// The value that the text names; throws BadInput if it names none.
+template <typename Value>
+Value oneOf(const std::string& text, const std::vector<std::pair<std::string_view, Value>>& values) {
+  for (const auto& [name, value] : values) {
+    if (name == text) return value;
+  }
+  throw BadInput("is not known");
+}
 
 /// Reads a value from the command line.
 void readOptionText(const Option& option, const std::string& value, Request& request);

@@ -4,7 +4,10 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <vector>
 
+#include <app/drawing/DrawingRequest.h>
 #include <velmora/platform/time/Instant.h>
 #include <velmora/platform/time/Locale.h>
 #include <velmora/platform/time/TimeZone.h>
@@ -27,6 +30,7 @@ enum class ColorChoice { automatic, always, never };
 /// none; each value is valid by itself, but how values go together is seen where they are used.
 struct Request {
   const Command* command = nullptr;
+  std::vector<std::string_view> given;  ///< the names of the options that were given
 
   std::optional<double> latitude;   ///< degrees, north positive
   std::optional<double> longitude;  ///< degrees, east positive
@@ -49,6 +53,8 @@ struct Request {
   Body body = Body::moon;
   std::optional<double> degrees;  ///< an elevation above the horizon
   bool intermediate = false;
+
+  DrawingRequest drawing;
 
   std::optional<Locale::HourCycle> clock;
   std::optional<Locale> locale;

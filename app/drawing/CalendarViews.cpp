@@ -1,0 +1,104 @@
+#include <app/drawing/CalendarViews.h>
+
+#include <algorithm>
+
+#include <app/Errors.h>
+#include <app/drawing/Hosting.h>
+#include <velmora/phases/Phase.h>
+#include <velmora/service/MoonPhaseData.h>
+#include <velmora/views/MoonPhaseIconView.h>
+#include <velmora/views/MoonPhaseYearView.h>
+#include <velmora/views/MoonRiseSetDayView.h>
+#include <velmora/views/MoonRiseSetMonthView.h>
+#include <velmora/views/iPhoneCalendarView.h>
+
+namespace velmora::app {
+namespace {
+
+constexpr double discMargin = 10;
+// Wide enough for Arabic names of months.
+constexpr Size phoneYear = {460, 650}, tabletYear = {tabletWidth, 940};
+constexpr Size phoneMonth = {phoneWidth, 540}, tabletMonth = {tabletWidth, 850};
+
+void checkCalendarOfRows(AlternateCalendarType calendar) {
+  if (calendar == kChineseCalendar || calendar == kIndianCalendar)
+    throw BadInput(
+        "draw riseset does not take that calendar; accepted: hebrew, islamic, buddhist or japanese");
+}
+
+std::int64_t phaseOfYear(const Request& request) {
+  const std::int64_t phase = request.phase.value_or(kFullMoon);
+  if (phase != kFullMoon && phase != kNewMoon)
+    throw BadInput("draw year does not show the quarters; accepted for phase: new or full");
+  return phase;
+}
+
+}  // namespace
+
+std::shared_ptr<View> makeDisc(const Query& query, Size size) {
+  MoonPhaseData& service = MoonPhaseData::sharedInstance();
+  const auto phases = service.currentMonthPhaseDictionary();
+  const auto theme = themeOf(query);
+  auto disc = std::make_shared<MoonPhaseIconView>();
+  disc->setFrame(squareIn(size).inset(discMargin, discMargin));
+  disc->setPhaseItem(phases->at(service.currentDay()));
+  disc->setStrokeColor(theme->lightTextColor);
+  disc->setFillColor(theme->lightTextColor);
+  disc->setPhaseBackgroundColor(theme->backgroundColor);
+  disc->setIsSouthernHemisphere(service.isSouthernHemisphere());
+  auto host = makeHost(size);
+  host->addSubview(disc);
+  return host;
+}
+
+Size monthSize(const Query& query) {
+  const DrawingRequest& drawing = query.request.drawing;
+  const bool isWide = drawing.isTablet || drawing.calendar != kNoAlternateCalendar;
+  return isWide ? tabletMonth : phoneMonth;
+}
+
+std::shared_ptr<View> makeMonth(const Query& query, Size size) {
+  const DrawingRequest& drawing = query.request.drawing;
+  auto month = std::make_shared<iPhoneCalendarView>();
+  month->setFrame({0, 0, size.width, size.height});
+  month->setColorTheme(themeOf(query));
+  month->setAlternateCalendarType(drawing.calendar);
+  month->setWeekStartDay(drawing.weekStartDay);
+  month->setHideEclipeInfo(drawing.hidesEclipses);
+  return month;
+}
+
+Size yearSize(const Query& query) { return query.request.drawing.isTablet ? tabletYear : phoneYear; }
+
+std::shared_ptr<View> makeYear(const Query& query, Size size) {
+  auto year = std::make_shared<MoonPhaseYearView>();
+  year->setFrame({0, 0, size.width, size.height});
+  year->setFilteredPhase(phaseOfYear(query.request));
+  year->calendarLocationChanged();
+  return year;
+}
+
+Size riseSetSize(const Query&) {
+  const MoonPhaseData& service = MoonPhaseData::sharedInstance();
+  const auto days = MoonPhaseCalc::GetNumberOfDaysInMonth(service.currentMonth() - 1, service.currentYear());
+  return {tabletWidth, static_cast<double>(days) * MoonRiseSetDayView().cellSize().height};
+}
+
+std::shared_ptr<View> makeRiseSet(const Query& query, Size size) {
+  const DrawingRequest& drawing = query.request.drawing;
+  checkCalendarOfRows(drawing.calendar);
+  auto list = std::make_shared<MoonRiseSetMonthView>();
+  list->setAlternateCalendarType(drawing.calendar);
+  list->installDayViews();
+  for (const auto& row : list->subviews())
+    std::static_pointer_cast<MoonRiseSetDayView>(row)->setColorTheme(themeOf(query));
+  const double height = list->intrinsicContentSize().height;
+  const double farthest = std::max(height - size.height, 0.0);
+  const double wanted = list->offsetForDay(MoonPhaseData::sharedInstance().currentDay());
+  list->setFrame({0, -std::min(wanted, farthest), size.width, height});
+  auto host = makeHost(size);
+  host->addSubview(list);
+  return host;
+}
+
+}  // namespace velmora::app

@@ -1,0 +1,163 @@
+#include <app/drawing/Picture.h>
+
+#include <algorithm>
+#include <cctype>
+#include <cmath>
+#include <filesystem>
+
+#include <app/Days.h>
+#include <app/Errors.h>
+#include <app/PhaseYear.h>
+#include <app/drawing/DrawingOptions.h>
+#include <app/drawing/Hosting.h>
+#include <app/drawing/Title.h>
+#include <velmora/foundation/SettingsModel.h>
+#include <velmora/platform/graphics/ReplacedFile.h>
+#include <velmora/platform/graphics/cairo/CairoCanvas.h>
+#include <velmora/platform/resources/Log.h>
+#include <velmora/platform/ui/Device.h>
+#include <velmora/service/MoonPhaseData.h>
+
+namespace velmora::app {
+namespace {
+
+constexpr double leastTitledWidth = 80, leastTitledHeight = 2 * Title::height;
+
+class ScopedTablet {
+ public:
+  explicit ScopedTablet(bool isTablet) : _former(SettingsModel::isIPad()) {
+    SettingsModel::setIsIPad(isTablet);
+  }
+  ~ScopedTablet() { SettingsModel::setIsIPad(_former); }
+  ScopedTablet(const ScopedTablet&) = delete;
+  ScopedTablet& operator=(const ScopedTablet&) = delete;
+
+ private:
+  bool _former;
+};
+
+std::optional<LayoutDirection> forcedDirection(const DrawingRequest& drawing) {
+  return drawing.isRightToLeft ? std::optional(LayoutDirection::rightToLeft) : std::nullopt;
+}
+
+const DrawableView& viewOf(const Request& request) {
+  const DrawableView* view = request.drawing.view;
+  if (!view) throw BadInput("the view is missing; accepted: " + std::string(viewNames()));
+  const auto contains = [](const auto& names, std::string_view name) {
+    return std::find(names.begin(), names.end(), name) != names.end();
+  };
+  for (const std::string_view name : request.given) {
+    if (!contains(viewOptions(), name) || contains(view->options, name)) continue;
+    std::string accepted;
+    for (const auto& names : {view->options, pictureOptions()})
+      for (const auto known : names) accepted += (accepted.empty() ? "" : ", ") + std::string(known);
+    throw BadInput("draw " + std::string(view->name) + " does not take " + std::string(name) +
+                   "; accepted of a picture's options: " + accepted);
+  }
+  return *view;
+}
+
+const std::string& fileOf(const DrawingRequest& drawing) {
+  if (!drawing.output) throw BadInput("output is missing; accepted: a file that ends in .png, .svg or .pdf");
+  return *drawing.output;
+}
+
+PictureFormat formatOf(const std::string& file) {
+  const bool isPlain = file.find('\0') == std::string::npos;
+  std::string ending = std::filesystem::path(file).extension().string();
+  for (char& letter : ending) letter = static_cast<char>(std::tolower(static_cast<unsigned char>(letter)));
+  if (isPlain && ending == ".png") return PictureFormat::png;
+  if (isPlain && ending == ".svg") return PictureFormat::svg;
+  if (isPlain && ending == ".pdf") return PictureFormat::pdf;
+  throw BadInput("output " + quote(file) +
+                 " has no known format; accepted: a file that ends in .png, .svg or .pdf");
+}
+
+void select(const Query& query, const DrawableView& view) {
+  if (view.needsTables) checkCovered("date", dayOf(query));
+  MoonPhaseData& service = MoonPhaseData::sharedInstance();
+  service.SetSelectedLocation(std::make_shared<GeoLocationData>(query.place.location), presentOf(query));
+  if (view.needsTables && !service.currentYearDictionary())
+    throw Failure("the phase table of " + std::to_string(service.currentYear()) + " cannot be read");
+}
+
+/// Where title and view lie in the picture, in points.
+struct Layout {
+  Size size;
+  std::optional<Rect> title;
+  Rect view;
+};
+
+/// A picture that is too small for a title has none.
+Layout layoutOf(const Query& query, const DrawableView& view) {
+  const DrawingRequest& drawing = query.request.drawing;
+  const bool isAboveView = view.freeTop == 0;
+  const double titleHeight = isAboveView ? Title::height : view.freeTop;
+  const bool wantsTitle = drawing.hasTitle && !view.titleFields.empty();
+
+  Size size = view.usualSize(query);
+  if (wantsTitle && isAboveView) size.height += titleHeight;
+  size = drawing.size.value_or(size);
+  if (!wantsTitle || size.width < leastTitledWidth || size.height < leastTitledHeight)
+    return {size, std::nullopt, {0, 0, size.width, size.height}};
+  const double top = isAboveView ? titleHeight : 0;
+  return {size, Rect{0, 0, size.width, titleHeight}, {0, top, size.width, size.height - top}};
+}
+
+void checkSize(const CairoCanvas& canvas) {
+  const auto error = canvas.error();
+  if (error && error->kind == PictureError::Kind::size) throw BadInput(error->message);
+  if (error) throw Failure(error->message);
+}
+
+void draw(CairoCanvas& canvas, const Layout& layout, const DrawableView& view, const Query& query) {
+  if (layout.title) Title(presentOf(query), view.titleFields, query.place).draw(canvas, *layout.title);
+  canvas.save();
+  canvas.clip(Path::rect(layout.view));
+  canvas.translate(layout.view.x, layout.view.y);
+  view.make(query, layout.view.size())->render(canvas);
+  canvas.restore();
+}
+
+void warnOfUncovered(const CairoCanvas& canvas) {
+  std::string characters;
+  for (const std::string& character : canvas.uncoveredCharacters()) characters += character;
+  if (!characters.empty()) Log::write("velmora: no installed font has " + quote(characters));
+}
+
+void write(CairoCanvas& canvas, const std::string& file) {
+  std::optional<PictureError> error;
+  const auto refusal = replaceFile(file, [&](std::ostream& output) {
+    error = canvas.write(output);
+    return !error;
+  });
+  if (error && error->kind != PictureError::Kind::output) throw Failure(error->message);
+  if (refusal) throw Failure("output " + quote(file) + " cannot be written: " + *refusal);
+}
+
+}  // namespace
+
+Picture drawPicture(const Query& query) {
+  const DrawingRequest& drawing = query.request.drawing;
+  const DrawableView& view = viewOf(query.request);
+  const std::string& file = fileOf(drawing);
+  const PictureFormat format = formatOf(file);
+  select(query, view);
+
+  const ScopedTablet tablet(drawing.isTablet);
+  const Layout layout = layoutOf(query, view);
+  const ScopedDevice device({layout.size.width, drawing.scale, forcedDirection(drawing)});
+  CairoCanvas canvas(format, layout.size, drawing.scale,
+                     drawing.background.value_or(VelmoraTheme::calendarTheme()->backgroundColor));
+  checkSize(canvas);
+  draw(canvas, layout, view, query);
+  warnOfUncovered(canvas);
+  write(canvas, file);
+
+  const bool isPng = format == PictureFormat::png;
+  const double unit = isPng ? drawing.scale : 1;
+  return {view, file, std::lround(layout.size.width * unit), std::lround(layout.size.height * unit),
+          isPng ? "pixels" : "points"};
+}
+
+}  // namespace velmora::app

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include <app/commands/Command.h>
+#include <app/drawing/DrawableView.h>
+
+namespace velmora::app {
+
+/// A picture that has been written.
+struct Picture {
+  const DrawableView& view;
+  std::string file;
+  std::int64_t width, height;  ///< in pixels of a PNG, else in points
+  std::string unit;            ///< "pixels" or "points"
+};
+
+/// Draws what the request asks for into its file. Characters that no installed font has are named in the log.
+/// Throws BadInput and Failure; the file is then as it was.
+Picture drawPicture(const Query& query);
+
+}  // namespace velmora::app

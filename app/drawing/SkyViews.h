@@ -1,0 +1,19 @@
+#pragma once
+
+#include <memory>
+
+#include <app/commands/Command.h>
+#include <velmora/platform/ui/View.h>
+
+namespace velmora::app {
+
+/// A compass with the direction up that the request faces. On it lies the Moon's way, a half circle from the
+/// azimuth of moonrise to that of moonset by the side on which the Moon is highest, and the Moon as it stands
+/// at the request's moment. There is no way where the Moon neither rises nor sets.
+std::shared_ptr<View> makeCompass(const Query& query, Size size);
+
+/// The Moon's way alone as who faces its highest point sees it: the zenith up, due east and due west at the
+/// ends.
+std::shared_ptr<View> makeElevationArc(const Query& query, Size size);
+
+}  // namespace velmora::app

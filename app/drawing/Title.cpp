@@ -1,0 +1,49 @@
+#include <app/drawing/Title.h>
+
+#include <velmora/platform/graphics/TextLayout.h>
+#include <velmora/platform/time/DateFormatter.h>
+#include <velmora/views/VelmoraTheme.h>
+
+namespace velmora::app {
+namespace {
+
+constexpr double margin = 10;  // on either side
+constexpr double lineGap = 4;  // scripts that hang low need it
+
+std::string dateText(Instant date, std::string_view fields) {
+  DateFormatter formatter;
+  formatter.setDateFormat(DateFormatter::dateFormatFromTemplate(fields, formatter.locale()));
+  return formatter.stringFromDate(date);
+}
+
+TextLayout fitting(const std::string& text, TextAttributes attributes, double width) {
+  const TextLayout line(AttributedText(text, attributes));
+  if (line.width() <= width) return line;
+  attributes.font.size *= width / line.width();
+  return TextLayout(AttributedText(text, attributes));
+}
+
+}  // namespace
+
+Title::Title(Instant date, std::string_view fields, const Place& place)
+    : _date(dateText(date, fields)), _place(place.location.name.value_or(place.location.locationText)) {}
+
+void Title::draw(Canvas& canvas, Rect band) const {
+  const double width = band.width - 2 * margin;
+  const auto theme = VelmoraTheme::calendarTheme();
+  const TextLayout date = fitting(_date,
+                                  {.font = Font::boldSystemFont(Font::labelFontSize),
+                                   .color = theme->lightTextColor,
+                                   .alignment = TextAlignment::center},
+                                  width);
+  const TextLayout place = fitting(_place,
+                                   {.font = Font::systemFont(Font::systemFontSize),
+                                    .color = theme->darkTextColor,
+                                    .alignment = TextAlignment::center},
+                                   width);
+  const double top = band.midY() - (date.height() + lineGap + place.height()) * 0.5;
+  date.drawInRect(canvas, {band.x + margin, top, width, date.height()});
+  place.drawInRect(canvas, {band.x + margin, top + date.height() + lineGap, width, place.height()});
+}
+
+}  // namespace velmora::app

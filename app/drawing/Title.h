@@ -1,0 +1,26 @@
+#pragma once
+
+#include <string>
+
+#include <app/place/Place.h>
+#include <velmora/platform/graphics/Canvas.h>
+
+namespace velmora::app {
+
+/// The two lines that stand above a view: the date, the place.
+class Title {
+ public:
+  static constexpr double height = 56;  ///< of the band that it needs, in points
+
+  /// The date has the template's fields in the order of the locale.
+  Title(Instant date, std::string_view fields, const Place& place);
+
+  /// Draws it in the middle of the band, a line that is too wide in smaller letters.
+  void draw(Canvas& canvas, Rect band) const;
+
+ private:
+  std::string _date;
+  std::string _place;
+};
+
+}  // namespace velmora::app

@@ -1,0 +1,310 @@
+#include <sys/resource.h>
+
+#include <csignal>
+
+#include <app/drawing/DrawableView.h>
+#include <velmora/foundation/SettingsModel.h>
+#include <velmora/platform/resources/Log.h>
+#include <velmora/platform/ui/Device.h>
+#include <velmora/views/VelmoraTheme.h>
+
+#include "PictureTesting.h"
+
+namespace velmora::app {
+namespace {
+
+class EachView : public PictureTest, public ::testing::WithParamInterface<std::string> {};
+
+INSTANTIATE_TEST_SUITE_P(Draw, EachView, ::testing::ValuesIn([] {
+                           std::vector<std::string> names;
+                           for (const auto& view : allViews()) names.emplace_back(view.name);
+                           return names;
+                         }()),
+                         [](const auto& name) { return name.param; });
+
+TEST_P(EachView, HasTheSizeThatIsAskedForInEveryFormat) {
+  const std::vector<std::string> arguments = {GetParam(), "--size", "300x420", "--scale", "1.5"};
+  EXPECT_EQ(picture(arguments).size(), (PixelSize{450, 630}));
+  EXPECT_EQ(statedSize(draw(arguments, "picture.svg")), (Size{300, 420}));
+  EXPECT_EQ(statedSize(draw(arguments, "picture.PDF")), (Size{300, 420}));
+}
+
+TEST_P(EachView, HasAUsualSizeAndLiesOnTheCalendarsBackground) {
+  const DrawnPicture drawn = picture({GetParam()});
+  EXPECT_GE(drawn.size().width, 240);
+  EXPECT_GE(drawn.size().height, 64);
+  const Color background = VelmoraTheme::calendarTheme()->backgroundColor;
+  EXPECT_TRUE(drawn.has(background, 0, 0));
+  EXPECT_LT(drawn.count(background), drawn.whole().width * drawn.whole().height * 0.99);
+}
+
+TEST_P(EachView, IsDrawnFromOnePixelOn) {
+  for (const char* size : {"1x1", "1x500", "500x1", "20x20"}) {
+    draw({GetParam(), "--size", size}, "picture.png");
+    draw({GetParam(), "--size", size}, "picture.svg");
+  }
+  EXPECT_EQ(picture({GetParam(), "--size", "1x1"}).size(), (PixelSize{1, 1}));
+}
+
+TEST_P(EachView, ReadsFromRightToLeftAndInOtherScripts) {
+  const ScopedLogRecord log;
+  for (const char* locale : {"ar_EG", "he_IL", "ja_JP", "hi_IN", "zh_TW"})
+    EXPECT_GT(picture({GetParam(), "--locale", locale, "--rtl", "--tablet"}).size().width, 0) << locale;
+  EXPECT_EQ(log.messages(), std::vector<std::string>());
+}
+
+TEST_P(EachView, IsTheSameForEveryRequestWhateverWasDrawnBefore) {
+  const std::string first = bytesOf(draw({GetParam()}));
+  draw({GetParam(), "--locale", "ar_EG", "--tablet", "--rtl", "--city", "Sydney", "--24h"}, "other.png");
+  draw({"month", "--theme", "default", "--calendar", "hebrew"}, "month.png");
+  EXPECT_EQ(bytesOf(draw({GetParam()})), first);
+}
+
+using DrawTest = PictureTest;
+
+TEST_F(DrawTest, SaysWhatItWrote) {
+  const std::string file = path("month.png");
+  EXPECT_EQ(answer({"draw", "month", "--size", "300x400", "--scale", "2", "--output", file}),
+            "Wrote " + file + ", 600 x 800 pixels\n");
+  EXPECT_EQ(json({"draw", "month", "--size", "300x400", "-o", file}),
+            Json({{"view", "month"}, {"output", file}, {"width", 300}, {"height", 400}}));
+  const std::string svg = path("month.svg");
+  EXPECT_EQ(answer({"draw", "month", "--size", "300x400", "--scale", "2", "-o", svg}),
+            "Wrote " + svg + ", 300 x 400 points\n");
+}
+
+TEST_F(DrawTest, UsualSizes) {
+  EXPECT_EQ(picture({"month"}).size().width, 390);
+  EXPECT_EQ(picture({"month", "--calendar", "islamic"}).size().width, 768);
+  EXPECT_EQ(picture({"month", "--tablet"}).size().width, 768);
+  EXPECT_EQ(picture({"riseset", "--no-title"}).size(), (PixelSize{768, 30 * 80}));
+  EXPECT_EQ(picture({"riseset", "--no-title", "--date", "2023-02-01"}).size(), (PixelSize{768, 28 * 80}));
+}
+
+TEST_F(DrawTest, BackgroundIsTransparentOrAnyColour) {
+  EXPECT_TRUE(picture({"month", "--background", "none"}).has(Color::clear(), 0, 0));
+  EXPECT_TRUE(picture({"month", "--background", "#102030"}).has(*Color::fromText("#102030"), 0, 0));
+  EXPECT_TRUE(picture({"month", "--background", "FFFFFF"}).has(Color::white(), 0, 0));
+  EXPECT_TRUE(picture({"month", "--background", "black"}).has(Color::black(), 0, 0));
+}
+
+constexpr Rect titleBand = {0, 0, 390, 56};
+
+int paintedPixels(const DrawnPicture& drawn, Rect within) {
+  return static_cast<int>(within.width * within.height) - drawn.count(Color::clear(), within);
+}
+
+TEST_F(DrawTest, TitleStandsAboveTheViewUnlessItIsLeftOut) {
+  const DrawnPicture titled = picture({"disc", "--background", "none"});
+  const DrawnPicture bare = picture({"disc", "--background", "none", "--no-title"});
+  EXPECT_EQ(titled.size(), (PixelSize{240, 240 + 56}));
+  EXPECT_EQ(bare.size(), (PixelSize{240, 240}));
+  EXPECT_GT(paintedPixels(titled, {0, 0, 240, 56}), 300);
+  const std::size_t titleBytes = 4 * 240 * 56;
+  EXPECT_TRUE(std::equal(bare.pixels().begin(), bare.pixels().end(), titled.pixels().begin() + titleBytes));
+}
+
+TEST_F(DrawTest, TitleOfThePicturesStandsWhereTheViewLeavesRoom) {
+  const DrawnPicture titled = picture({"images", "--background", "none"});
+  const DrawnPicture bare = picture({"images", "--background", "none", "--no-title"});
+  EXPECT_EQ(titled.size(), bare.size());
+  EXPECT_EQ(paintedPixels(bare, {0, 0, 390, 90}), 0);
+  EXPECT_GT(paintedPixels(titled, {0, 0, 390, 90}), 300);
+}
+
+TEST_F(DrawTest, TitleOfALongNameFitsThePicture) {
+  const DrawnPicture drawn =
+      picture({"month", "--background", "none", "--name",
+               "Llanfairpwllgwyngyllgogerychwyrndrobwllllantysiliogogogoch on the Isle of Anglesey"});
+  EXPECT_GT(paintedPixels(drawn, titleBand), 300);
+  EXPECT_EQ(paintedPixels(drawn, {0, 0, 9, 56}), 0);
+  EXPECT_EQ(paintedPixels(drawn, {381, 0, 9, 56}), 0);
+}
+
+TEST_F(DrawTest, TitleNamesThePlaceAndTheMonthInTheLanguage) {
+  const std::string here = bytesOf(draw({"month", "--lat", "60", "--lon", "25"}));
+  EXPECT_NE(bytesOf(draw({"month", "--lat", "60", "--lon", "25", "--name", "Home"})), here);
+  EXPECT_NE(picture({"month", "--locale", "fr_FR", "--size", "390x596"}).pixels(),
+            picture({"month", "--locale", "fr_CA", "--date", "2024-07-20", "--size", "390x596"}).pixels());
+}
+
+TEST_F(DrawTest, AVectorPictureOfAMonthHoldsNoPixels) {
+  for (const char* view : {"disc", "month"})
+    EXPECT_EQ(bytesOf(draw({view}, "picture.svg")).find("<image"), std::string::npos) << view;
+}
+
+TEST_F(DrawTest, DiscIsLitOnTheOtherSideSouthOfTheEquator) {
+  const Color lit = VelmoraTheme::calendarTheme()->lightTextColor;
+  const std::vector<std::string> quarter = {"--date", "2024-06-14", "--no-title", "--tz", "UTC"};
+  const auto side = [&](const char* latitude) {
+    std::vector<std::string> arguments = {"disc", "--lat", latitude, "--lon", "0"};
+    arguments.insert(arguments.end(), quarter.begin(), quarter.end());
+    return picture(arguments).middle(lit).x;
+  };
+  EXPECT_GT(side("40"), 130);
+  EXPECT_LT(side("-40"), 110);
+}
+
+TEST_F(DrawTest, MonthRunsFromTheOtherSideFromRightToLeft) {
+  const Color lit = VelmoraTheme::calendarTheme()->lightTextColor;
+  const Rect left = {0, 100, 190, 90}, right = {200, 100, 190, 90};
+  const std::vector<std::string> junStartsOnSaturday = {"month", "--date", "2024-06-20"};
+  EXPECT_EQ(picture(junStartsOnSaturday).count(lit, left), 0);
+  EXPECT_GT(picture(junStartsOnSaturday).count(lit, right), 100);
+  EXPECT_GT(picture({"month", "--date", "2024-06-20", "--rtl"}).count(lit, left), 100);
+  EXPECT_GT(picture({"month", "--date", "2024-06-20", "--week-start", "saturday"}).count(lit, left), 100);
+}
+
+TEST_F(DrawTest, MonthRingsADayWithAnEclipseUnlessHidden) {
+  const std::vector<std::string> losAngeles = {"month", "--city", "Los Angeles", "--date", "2024-03-10"};
+  std::vector<std::string> hidden = losAngeles;
+  hidden.emplace_back("--hide-eclipses");
+  EXPECT_GT(picture(losAngeles).count(Color::cyan()), 50);
+  EXPECT_EQ(picture(hidden).count(Color::cyan()), 0);
+}
+
+TEST_F(DrawTest, MonthMarksTheDayAskedForAndTheRealToday) {
+  const std::string selected = bytesOf(draw({"month", "--date", "2024-06-12"}));
+  EXPECT_NE(bytesOf(draw({"month", "--date", "2024-06-13"})), selected);
+  EXPECT_NE(bytesOf(draw({"month", "--date", "2024-06-12", "--now", "2024-06-25T12:00:00Z"})), selected);
+}
+
+TEST_F(DrawTest, EachCalendarWritesNumbersOfItsOwn) {
+  std::set<std::string> pictures = {bytesOf(draw({"month", "--size", "768x900"}))};
+  for (const char* calendar : {"hebrew", "islamic", "chinese", "indian"})
+    pictures.insert(bytesOf(draw({"month", "--size", "768x900", "--calendar", calendar})));
+  EXPECT_EQ(pictures.size(), 5U);
+  EXPECT_EQ(bytesOf(draw({"month", "--calendar", "buddhist"})),
+            bytesOf(draw({"month", "--calendar", "japanese"})))
+      << "their days are the Gregorian ones";
+}
+
+TEST_F(DrawTest, ThemeColoursTheDark) {
+  const auto dark = [&](const char* theme) {
+    return picture({"disc", "--no-title", "--background", "none", "--date", "2024-06-10", "--theme", theme})
+        .pixel(60, 120);
+  };
+  EXPECT_EQ(dark("calendar")[3], 255);
+  EXPECT_EQ(dark("default")[3], std::lround(0.325 * 255));
+}
+
+TEST_F(DrawTest, YearShowsFullOrNewMoons) {
+  const Color lit = VelmoraTheme::defaultTheme()->defaultTextColor;
+  const int full = picture({"year", "--no-title"}).count(lit);
+  EXPECT_GT(full, 12 * 500);
+  EXPECT_EQ(picture({"year", "--no-title", "--phase", "full"}).count(lit), full);
+  EXPECT_LT(picture({"year", "--no-title", "--phase", "new"}).count(lit), full / 2);
+}
+
+TEST_F(DrawTest, RiseSetShowsTheRowsAroundTheSelectedDay) {
+  const Color selected = VelmoraTheme::calendarTheme()->selectedBackgroundColor;
+  const auto placeOfDay = [&](const char* date) {
+    return picture({"riseset", "--no-title", "--size", "390x400", "--date", date}).middle(selected).y;
+  };
+  EXPECT_NEAR(placeOfDay("2024-06-01"), 40, 15);
+  EXPECT_NEAR(placeOfDay("2024-06-03"), 200, 15);
+  EXPECT_NEAR(placeOfDay("2024-06-04"), 200, 15);
+  EXPECT_NEAR(placeOfDay("2024-06-20"), 200, 15);
+  EXPECT_NEAR(placeOfDay("2024-06-30"), 360, 15) << "the list ends with the picture";
+}
+
+TEST_F(DrawTest, RiseSetWritesTheTimesInTheFormAskedFor) {
+  EXPECT_NE(bytesOf(draw({"riseset", "--size", "768x400", "--24h"})),
+            bytesOf(draw({"riseset", "--size", "768x400", "--12h"})));
+}
+
+TEST_F(DrawTest, CharactersOfNoFontAreNamedInTheLog) {
+  const ScopedLogRecord log;
+  draw({"month", "--name", "A\xF4\x8F\xBF\xBD"});
+  ASSERT_EQ(log.messages().size(), 1U);
+  EXPECT_EQ(log.messages().front(), "velmora: no installed font has '\xF4\x8F\xBF\xBD'");
+}
+
+TEST_F(DrawTest, SkyIsDrawnInYearsWithoutPhaseTables) {
+  for (const char* view : {"compass", "azel", "chart", "timeline"}) draw({view, "--date", "1950-01-01"});
+}
+
+TEST_F(DrawTest, LeavesTheDeviceAsItWas) {
+  const ScopedDevice device({.screenWidth = 111});
+  draw({"month", "--tablet", "--rtl"});
+  EXPECT_FALSE(SettingsModel::isIPad());
+  EXPECT_EQ(Device::current().screenWidth, 111);
+  EXPECT_EQ(Device::current().forcedDirection, std::nullopt);
+}
+
+TEST_F(DrawTest, BatchWritesTheSamePictures) {
+  Json request = {{"op", "draw"},       {"view", "month"},      {"output", path("batch.png")},
+                  {"size", "768x900"},  {"rtl", true},          {"tablet", true},
+                  {"locale", "ar_EG"},  {"calendar", "hebrew"}, {"week-start", "monday"},
+                  {"city", "Helsinki"}, {"no-title", false}};
+  const std::string plain = jsonLine({{"op", "draw"}, {"view", "month"}, {"output", path("plain.png")}});
+  const Outcome outcome = runProgram({"batch"}, jsonLine(request) + "\n" + plain + "\n");
+  ASSERT_EQ(linesOf(outcome.out).size(), 2U);
+  EXPECT_EQ(Json::parse(linesOf(outcome.out).front())["result"]["output"], path("batch.png"));
+  EXPECT_EQ(bytesOf(path("batch.png")),
+            bytesOf(draw({"month", "--size", "768x900", "--rtl", "--tablet", "--locale", "ar_EG",
+                          "--calendar", "hebrew", "--week-start", "monday", "--city", "Helsinki"})));
+  EXPECT_EQ(bytesOf(path("plain.png")), bytesOf(draw({"month"})));
+}
+
+TEST_F(DrawTest, AFileThatCannotBeWrittenIsAFailureOfOneLine) {
+  for (const std::string& file : {path("no/such/folder.png"), std::string("/proc/picture.png")}) {
+    const Outcome outcome = runProgram({"draw", "disc", "-o", file});
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.out, "");
+    ASSERT_EQ(linesOf(outcome.err).size(), 1U);
+    EXPECT_NE(outcome.err.find("'" + file + "' cannot be written"), std::string::npos) << outcome.err;
+  }
+}
+
+/// Lets files grow no longer than that many bytes for as long as it lives.
+class ScopedFileLimit {
+ public:
+  explicit ScopedFileLimit(rlim_t bytes) : _formerHandler(std::signal(SIGXFSZ, SIG_IGN)) {
+    getrlimit(RLIMIT_FSIZE, &_former);
+    const rlimit limit{bytes, _former.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &limit);
+  }
+  ~ScopedFileLimit() {
+    setrlimit(RLIMIT_FSIZE, &_former);
+    std::signal(SIGXFSZ, _formerHandler);
+  }
+  ScopedFileLimit(const ScopedFileLimit&) = delete;
+  ScopedFileLimit& operator=(const ScopedFileLimit&) = delete;
+
+ private:
+  rlimit _former{};
+  void (*_formerHandler)(int);
+};
+
+TEST_F(DrawTest, AFileThatWasThereStaysWholeWhenWritingFails) {
+  for (const char* name : {"old.png", "old.svg", "old.pdf"}) {
+    const std::string file = folder().write(name, "what was there").string();
+    Outcome outcome;
+    {
+      const ScopedFileLimit limit(500);
+      outcome = runProgram({"draw", "month", "-o", file});
+    }
+    EXPECT_EQ(outcome.status, 1) << name;
+    EXPECT_EQ(bytesOf(file), "what was there");
+    std::filesystem::remove(file);
+    EXPECT_TRUE(std::filesystem::is_empty(folder().path())) << "nothing is left behind";
+  }
+}
+
+TEST_F(DrawTest, AFileThatWasThereStaysWholeWhenTheRequestIsRefused) {
+  const std::string file = folder().write("old.png", "what was there").string();
+  EXPECT_EQ(runProgram({"draw", "month", "--size", "99999x9", "-o", file}).status, 2);
+  EXPECT_EQ(runProgram({"draw", "month", "--date", "1999-12-31", "-o", file}).status, 2);
+  EXPECT_EQ(bytesOf(file), "what was there");
+}
+
+TEST_F(DrawTest, HelpNamesEachViewAndSaysThatTheChartIsASample) {
+  const std::string help = answer({"draw", "--help"});
+  for (const DrawableView& view : allViews())
+    EXPECT_NE(help.find("\n  " + std::string(view.name) + " "), std::string::npos) << view.name;
+  EXPECT_NE(help.find("a fixed sample"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace velmora::app

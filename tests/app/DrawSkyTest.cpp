@@ -1,0 +1,84 @@
+#include <velmora/views/VelmoraTheme.h>
+
+#include "PictureTesting.h"
+
+namespace velmora::app {
+namespace {
+
+// All at 23:00, when the Moon of 20 June 2024 is up in the south-south-east of Helsinki.
+class DrawSkyTest : public PictureTest {
+ protected:
+  static constexpr Point middle = {195, 195};
+
+  /// The view without a title, seen from the city at the time of 20 June 2024.
+  DrawnPicture sky(const std::string& view, const std::string& city, const std::string& time,
+                   std::vector<std::string> more = {}) const {
+    more.insert(more.begin(), {view, "--no-title", "--background", "none", "--city", city, "--date",
+                               "2024-06-20", "--time", time});
+    return picture(more);
+  }
+
+  static Color moon() { return VelmoraTheme::calendarTheme()->selectedBackgroundColor; }
+  /// As it covers a transparent picture.
+  static Color way() {
+    const Color color = VelmoraTheme::calendarTheme()->moonLightColor;
+    return {color.red * color.alpha, color.green * color.alpha, color.blue * color.alpha, color.alpha};
+  }
+
+  static Point placeOf(const DrawnPicture& drawn) { return drawn.middle(moon()) - middle; }
+};
+
+// The Moon has just risen: it lies at the way's eastern end, in the direction of moonrise.
+TEST_F(DrawSkyTest, CompassShowsTheMoonInTheDirectionOfItsRise) {
+  const double azimuth = json({"position", "--city", "Helsinki", "--date", "2024-06-20", "--time", "22:27"})
+                             .at("azimuth")
+                             .get<double>();
+  const Point place = placeOf(sky("compass", "Helsinki", "22:27"));
+  const double seen = std::atan2(place.x, -place.y) * 180 / std::numbers::pi;
+  EXPECT_NEAR(seen, azimuth, 2);
+}
+
+TEST_F(DrawSkyTest, CompassIsTurnedSoThatTheHeadingIsUp) {
+  const Point north = placeOf(sky("compass", "Sydney", "17:00"));
+  const Point east = placeOf(sky("compass", "Sydney", "17:00", {"--heading", "90"}));
+  EXPECT_GT(north.x, 30) << "risen in the east, which is on the right";
+  EXPECT_NEAR(east.x, north.y, 1.5);
+  EXPECT_NEAR(east.y, -north.x, 1.5) << "and up when one faces it";
+}
+
+TEST_F(DrawSkyTest, CompassLeadsTheWayBySouthOrNorth) {
+  EXPECT_GT((sky("compass", "Helsinki", "23:00").middle(way()) - middle).y, 30);
+  EXPECT_LT((sky("compass", "Sydney", "17:00").middle(way()) - middle).y, 0);
+}
+
+TEST_F(DrawSkyTest, CompassHasNoWayWhereTheMoonNeverRises) {
+  EXPECT_EQ(sky("compass", "Longyearbyen", "12:00").count(way()), 0);
+  EXPECT_GT(sky("compass", "Helsinki", "12:00").count(way()), 100);
+}
+
+TEST_F(DrawSkyTest, CompassFadesAMoonBelowTheHorizon) {
+  EXPECT_GT(sky("compass", "Helsinki", "23:30").count(moon()), 100);
+  EXPECT_EQ(sky("compass", "Helsinki", "12:00").count(moon()), 0);
+}
+
+TEST_F(DrawSkyTest, ElevationArcHasTheZenithUp) {
+  const DrawnPicture drawn = sky("azel", "Helsinki", "23:30");
+  EXPECT_GT(drawn.count(way(), {0, 0, 390, 195}), 1000);
+  EXPECT_EQ(drawn.count(way(), {0, 196, 390, 194}), 0);
+}
+
+TEST_F(DrawSkyTest, ElevationArcHasTheMoonAsHighAsItIs) {
+  const double elevation = json({"position", "--city", "Sydney", "--date", "2024-06-20", "--time", "19:00"})
+                               .at("altitude")
+                               .get<double>();
+  const Point place = placeOf(sky("azel", "Sydney", "19:00"));
+  EXPECT_NEAR(std::atan2(-place.y, place.x) * 180 / std::numbers::pi, elevation, 1);
+}
+
+TEST_F(DrawSkyTest, ElevationArcHasTheEastOnTheLeftOfWhoFacesSouthAndOnTheRightOfWhoFacesNorth) {
+  EXPECT_LT(placeOf(sky("azel", "Helsinki", "23:30")).x, -100);
+  EXPECT_GT(placeOf(sky("azel", "Sydney", "17:00")).x, 100);
+}
+
+}  // namespace
+}  // namespace velmora::app
