@@ -13,10 +13,11 @@ if(CCACHE_PROGRAM AND PROJECT_IS_TOP_LEVEL)
 endif()
 
 # What every target of the project is compiled with. The astronomy is compared to the last bit, so no
-# compiler may contract a product and a sum into one rounding on its own.
+# compiler may contract a product and a sum into one rounding on its own. Nothing reads errno after a
+# mathematical function.
 add_library(velmora_compiler_settings INTERFACE)
 target_compile_options(velmora_compiler_settings INTERFACE
-  -ffp-contract=off
+  -ffp-contract=off -fno-math-errno
   -Wall -Wextra -Wpedantic -Wconversion -Wshadow
   $<$<CONFIG:Release>:-fno-semantic-interposition>)  # the library calls its own functions, whoever links it
 if(VELMORA_WARNINGS_AS_ERRORS)

@@ -16,16 +16,16 @@ ClockReading clockReading(double hours) {
 std::string wholeText(double number) { return std::to_string(wholeNumber<std::int32_t>(number)); }
 
 std::string twoDigits(double number) {
-  std::string digits = wholeText(number);
-  if (digits.size() < 2) digits.insert(digits.begin(), '0');
-  return digits;
+  const auto whole = wholeNumber<std::int32_t>(number);
+  if (whole < 0 || whole > 9) return std::to_string(whole);
+  return {'0', static_cast<char>('0' + whole)};
 }
 
 std::string clockText(double hours, bool use24Hour) {
   const auto [hour, minute] = clockReading(hours);
-  const std::string text = twoDigits(!use24Hour && hour > 12 ? hour - 12 : hour) + ':' + twoDigits(minute);
-  if (use24Hour) return text;
-  return text + (hour >= 12 ? " PM" : " AM");
+  std::string text = twoDigits(!use24Hour && hour > 12 ? hour - 12 : hour) + ':' + twoDigits(minute);
+  if (!use24Hour) text += hour >= 12 ? " PM" : " AM";
+  return text;
 }
 
 }  // namespace velmora

@@ -107,6 +107,7 @@ std::vector<PositionData> RiseAndSetCalc::Get24HourMoonPositionsForDate(Instant 
   const DateComponents day = Calendar(location.calendarZone(secondsFromGMT)).components(date);
   const double zoneHours = offsetHours(secondsFromGMT);
   std::vector<PositionData> positions;
+  positions.reserve(25);
   for (int hour = 0; hour <= 24; ++hour) {
     positions.push_back(moonPositionAt(location, day, hour - zoneHours, zoneHours));
   }
@@ -119,6 +120,7 @@ std::vector<PositionData> RiseAndSetCalc::Get24HourSunPositionsForDate(Instant d
   const Calendar calendar(location.calendarZone(secondsFromGMT));
   const DateComponents first = calendar.components(movedToUniversalReading(date, secondsFromGMT));
   std::vector<PositionData> positions;
+  positions.reserve(24);
   for (int hour = 0; hour < 24; ++hour) {
     // The zone value is the offset in seconds: the records' hours mean nothing here, by intent.
     positions.push_back(

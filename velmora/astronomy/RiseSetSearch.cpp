@@ -3,15 +3,13 @@
 #include <cmath>
 
 #include <velmora/astronomy/ClockText.h>
+#include <velmora/astronomy/HourlyAltitudes.h>
 #include <velmora/astronomy/RiseAndSetCalc.h>
 #include <velmora/platform/time/Calendar.h>
 
 namespace velmora {
 namespace {
 
-constexpr double moon = 1.0, sun = 2.0;  // objects of _sin_alt
-constexpr double radiansPerDegree = 0.0174532925;
-constexpr int lastHour = 48;  // of the search, counted from local midnight
 constexpr double hoursPerDay = 24.0;
 constexpr double minutesPerDay = 1440.0;
 constexpr double noEvent = -1.0;
@@ -23,30 +21,6 @@ constexpr double sunriseThreshold = -0.01453808048588594;  // −0.833°: refrac
 constexpr double moonriseThreshold = 0.00232710356629117;  // +8′: parallax less refraction and semi-diameter
 constexpr std::array twilightThresholds = {-0.1045284631486492, -0.20791169058366948,
                                            -0.3090169940335378};  // −6°, −12°, −18°
-
-/// The sine of a body's altitude at the whole hours after local midnight, each computed when first asked for.
-class HourlyAltitudes {
- public:
-  HourlyAltitudes(double body, double localMidnight, double longitude, double latitude)
-      : _body(body),
-        _localMidnight(localMidnight),
-        _longitude(longitude),
-        _cosLatitude(std::cos(latitude * radiansPerDegree)),
-        _sinLatitude(std::sin(latitude * radiansPerDegree)) {}
-
-  double at(int hour) {
-    for (; _known <= hour; ++_known) {
-      _sines[static_cast<std::size_t>(_known)] =
-          RiseAndSetCalc::_sin_alt(_body, _localMidnight, _known, _longitude, _cosLatitude, _sinLatitude);
-    }
-    return _sines[static_cast<std::size_t>(hour)];
-  }
-
- private:
-  double _body, _localMidnight, _longitude, _cosLatitude, _sinLatitude;
-  std::array<double, lastHour + 1> _sines;
-  int _known = 0;
-};
 
 /// Where the parabola through (−1, before), (0, middle), (+1, after) is zero within that span.
 struct Crossings {
@@ -106,10 +80,11 @@ void storePair(Events& events, int hour, const Crossings& found) {
 }
 
 /// Steps of two hours, each with a parabola through its three samples, until both events are found.
-Events search(HourlyAltitudes& altitudes, double threshold, SetRule rule) {
+template <class HourlyBody>
+Events search(HourlyAltitudes<HourlyBody>& altitudes, double threshold, SetRule rule) {
   Events events;
   double before = altitudes.at(0) - threshold;
-  for (int hour = 1; hour < lastHour && !events.complete(); hour += 2) {
+  for (int hour = 1; hour < HourlyAltitudes<HourlyBody>::lastHour && !events.complete(); hour += 2) {
     const double middle = altitudes.at(hour) - threshold;
     const double after = altitudes.at(hour + 1) - threshold;
     const Crossings found = crossings(before, middle, after);
@@ -181,7 +156,7 @@ void RiseAndSetCalc::_find_sun_and_twi_events_for_date(RiseSetData& record, int 
                                                        double offsetHours, double longitude,
                                                        double latitude) {
   const auto kind = static_cast<std::size_t>(std::clamp(twilight, 0, 2));
-  HourlyAltitudes altitudes(sun, mjd0 - offsetHours / 24, longitude, latitude);
+  HourlyAltitudes<HourlySun> altitudes(mjd0 - offsetHours / 24, longitude, latitude);
   const Events sunEvents = search(altitudes, sunriseThreshold, SetRule::afterRise);
   const Events twilightEvents = search(altitudes, twilightThresholds[kind], SetRule::afterRise);
   writeTexts(sunEvents, record.sunRiseText, record.sunSetText);
@@ -191,7 +166,7 @@ void RiseAndSetCalc::_find_sun_and_twi_events_for_date(RiseSetData& record, int 
 
 void RiseAndSetCalc::_find_moonrise_set(RiseSetData& record, double mjd0, double offsetHours,
                                         double longitude, double latitude) {
-  HourlyAltitudes altitudes(moon, mjd0 - offsetHours / 24, longitude, latitude);
+  HourlyAltitudes<HourlyMoon> altitudes(mjd0 - offsetHours / 24, longitude, latitude);
   const Events events = search(altitudes, moonriseThreshold, SetRule::first);
   record.moonRiseText = record.moonSetText = neverText;
   writeTexts(events, record.moonRiseText, record.moonSetText);

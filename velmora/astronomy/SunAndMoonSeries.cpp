@@ -1,3 +1,5 @@
+#include <velmora/astronomy/SunAndMoonSeries.h>
+
 #include <cmath>
 
 #include <velmora/astronomy/RiseAndSetCalc.h>
@@ -6,65 +8,41 @@
 namespace velmora {
 namespace {
 
-// The short figures of the printed series; nothing may replace them by more precise ones.
-constexpr double twoPi = 6.283185307;
-constexpr double arcsecondsPerTurn = 1296000;
-constexpr double arcsecondsPerRadian = 206264.8062;
-constexpr double cosObliquity = 0.91748;
-constexpr double sinObliquity = 0.39778;
-constexpr double degreesPerRadian = 57.29577951471995;         // 360 / twoPi
-constexpr double hoursPerHalfAngleRadian = 7.639437268629327;  // 48 / twoPi
+constexpr double degreesPerRadian = 57.29577951471995;         // 360 / 6.283185307
+constexpr double hoursPerHalfAngleRadian = 7.639437268629327;  // 48 / 6.283185307
 constexpr double radiansPerDegree = 0.0174532925;
 
 constexpr double moon = 1.0;  // every other object is the Sun
 
-double angleOf(double turns) { return twoPi * RiseAndSetCalc::_frac(turns); }
-
-/// The direction of a unit vector in the frame of the equator.
-EquatorialCoordinates equatorial(double x, double y, double z) {
-  const double rho = std::sqrt(1 - z * z);
-  const double declination = degreesPerRadian * std::atan(z / rho);
-  const double rightAscension = hoursPerHalfAngleRadian * std::atan(y / (x + rho));
-  return {declination, rightAscension < 0 ? rightAscension + 24 : rightAscension};
+EquatorialCoordinates coordinates(const Direction<double>& direction) {
+  const double rho = std::sqrt(1 - direction.z * direction.z);
+  return {degreesPerRadian * std::atan(direction.z / rho), rightAscensionHours(direction, rho)};
 }
 
 }  // namespace
 
+ArgumentValue<double> valueAt(const MeanArgument& argument, double centuries) {
+  const double turns = RiseAndSetCalc::_frac(argument.atEpoch + argument.perCentury * centuries);
+  return {turns, angleOfRadians(seriesTwoPi * turns)};
+}
+
+Direction<double> moonDirectionAt(double centuries) {
+  const auto angle = [&](const MeanArgument& argument) { return valueAt(argument, centuries).angle; };
+  return moonDirection(valueAt(moonLongitude, centuries), angle(moonAnomaly), angle(sunAnomaly),
+                       angle(moonElongation), angle(moonLatitudeArgument));
+}
+
+double rightAscensionHours(const Direction<double>& direction, double rho) {
+  const double hours = hoursPerHalfAngleRadian * std::atan(direction.y / (direction.x + rho));
+  return hours < 0 ? hours + 24 : hours;
+}
+
 EquatorialCoordinates RiseAndSetCalc::_minisun(double centuries) {
-  const double T = centuries;
-  const double M = angleOf(0.993133 + 99.997361 * T);
-  const double DL = 6893 * std::sin(M) + 72 * std::sin(2 * M);
-  const double L = angleOf(0.7859453 + M / twoPi + (6191.2 * T + DL) / arcsecondsPerTurn);
-  const double SL = std::sin(L);
-  return equatorial(std::cos(L), cosObliquity * SL, sinObliquity * SL);
+  return coordinates(sunDirection(valueAt(sunLongitude, centuries), valueAt(sunAnomaly, centuries).angle));
 }
 
 EquatorialCoordinates RiseAndSetCalc::_minimoon(double centuries) {
-  using std::cos, std::sin;
-  const double T = centuries;
-  const double L0 = _frac(0.606433 + 1336.855225 * T);   // mean longitude, turns
-  const double l = angleOf(0.374897 + 1325.55241 * T);   // mean anomaly of the Moon
-  const double ls = angleOf(0.993133 + 99.997361 * T);   // mean anomaly of the Sun
-  const double D = angleOf(0.827361 + 1236.853086 * T);  // mean elongation
-  const double F = angleOf(0.259086 + 1342.227825 * T);  // argument of latitude
-
-  // Perturbations in longitude and latitude, arc seconds.
-  const double DL = 22640 * sin(l) - 4586 * sin(l - 2 * D) + 2370 * sin(2 * D) + 769 * sin(2 * l) -
-                    668 * sin(ls) - 412 * sin(2 * F) - 212 * sin(2 * l - 2 * D) - 206 * sin(l + ls - 2 * D) +
-                    192 * sin(l + 2 * D) - 165 * sin(ls - 2 * D) - 125 * sin(D) - 110 * sin(l + ls) +
-                    148 * sin(l - ls) - 55 * sin(2 * F - 2 * D);
-  const double S = F + (DL + 412 * sin(2 * F) + 541 * sin(ls)) / arcsecondsPerRadian;
-  const double H = F - 2 * D;
-  const double N = -526 * sin(H) + 44 * sin(l + H) - 31 * sin(H - l) - 23 * sin(ls + H) + 11 * sin(H - ls) -
-                   25 * sin(F - 2 * l) + 21 * sin(F - l);
-
-  const double longitude = angleOf(L0 + DL / arcsecondsPerTurn);
-  const double latitude = (18520 * sin(S) + N) / arcsecondsPerRadian;
-  const double CB = cos(latitude);
-  const double X = CB * cos(longitude);
-  const double V = CB * sin(longitude);
-  const double W = sin(latitude);
-  return equatorial(X, cosObliquity * V - sinObliquity * W, sinObliquity * V + cosObliquity * W);
+  return coordinates(moonDirectionAt(centuries));
 }
 
 double RiseAndSetCalc::_sin_alt(double object, double mjd0, double hour, double longitude, double cosLatitude,

@@ -1,6 +1,8 @@
 #include <velmora/platform/time/NumberText.h>
 
+#include <array>
 #include <cmath>
+#include <cstdint>
 #include <iomanip>
 #include <locale>
 #include <sstream>
@@ -15,14 +17,49 @@ std::ostringstream fixedPointStream() {
   return stream;
 }
 
-}  // namespace
-
-std::string decimalText(double number, int fractionDigits) {
-  if (std::isnan(number)) return "nan";
+std::string decimalTextByStream(double number, int fractionDigits) {
   thread_local std::ostringstream stream = fixedPointStream();  // costs more to make than to use
   stream.str("");
   stream << std::setprecision(fractionDigits) << number;
   return stream.str();
+}
+
+/// The whole number nearest to number · scale; of two as near the even one. Decided on the exact product: its
+/// rounded value and what that lacks. The number is not negative, the product below 2⁵³.
+std::uint64_t nearestWholeProduct(double number, double scale) {
+  const double product = number * scale;
+  const double lacking = std::fma(number, scale, -product);
+  const auto whole = static_cast<std::uint64_t>(product);
+  const double fraction = product - static_cast<double>(whole);
+  const bool isTie = fraction == 0.5 && lacking == 0;
+  const bool isAbove = fraction > 0.5 || (fraction == 0.5 && lacking > 0);
+  return whole + (isAbove || (isTie && whole % 2 == 1) ? 1 : 0);
+}
+
+constexpr std::array<std::uint64_t, 7> powersOfTen = {1, 10, 100, 1000, 10000, 100000, 1000000};
+constexpr double largestScaled = 9e15;  // below 2⁵³
+
+}  // namespace
+
+std::string decimalText(double number, int fractionDigits) {
+  if (std::isnan(number)) return "nan";
+  const auto digits = static_cast<std::size_t>(fractionDigits);
+  if (digits >= powersOfTen.size()) return decimalTextByStream(number, fractionDigits);
+  const std::uint64_t scale = powersOfTen[digits];
+  if (!(std::abs(number) * static_cast<double>(scale) < largestScaled)) {
+    return decimalTextByStream(number, fractionDigits);
+  }
+
+  std::uint64_t rest = nearestWholeProduct(std::abs(number), static_cast<double>(scale));
+  std::array<char, 24> text;  // written from its end
+  char* const end = text.data() + text.size();
+  char* begin = end;
+  for (std::size_t written = 0; written <= digits || rest != 0; ++written, rest /= 10) {
+    if (written == digits && digits != 0) *--begin = '.';
+    *--begin = static_cast<char>('0' + rest % 10);
+  }
+  if (std::signbit(number)) *--begin = '-';
+  return {begin, end};
 }
 
 std::string integerText(std::int64_t number, std::size_t minimumDigits) {
