@@ -1,0 +1,72 @@
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "tests/architecture/SourceTree.h"
+
+namespace velmora::testing {
+namespace {
+
+using Breaches = std::vector<std::string>;
+
+const SourceTree& productTree() {
+  static const SourceTree tree = readSourceTree({"velmora", "app"});
+  return tree;
+}
+
+TEST(Architecture, EveryFolderIncludesOnlyFoldersBelowIt) {
+  EXPECT_EQ(upwardIncludes(productTree()), Breaches{});
+}
+
+TEST(Architecture, OnlyAdaptersReachThirdPartyHeaders) {
+  EXPECT_EQ(thirdPartyOutsideAdapters(productTree()), Breaches{});
+}
+
+TEST(Architecture, NoFileIsTooLongToHoldInTheHead) {
+  EXPECT_EQ(longFiles(readSourceTree({"velmora", "app", "tests", "bench", "fuzz", "examples", "tools"})),
+            Breaches{});
+}
+
+TEST(Architecture, TheTreeIsReadWithItsIncludes) {
+  EXPECT_GT(productTree().size(), 200U);
+  const auto& includes = productTree().at("velmora/astronomy/RiseAndSetCalc.h").includes;
+  EXPECT_NE(std::find(includes.begin(), includes.end(), "velmora/platform/time/Instant.h"), includes.end());
+}
+
+TEST(ArchitectureRules, AnUpwardIncludeIsABreach) {
+  const SourceTree tree = {
+      {"velmora/astronomy/A.cpp",
+       sourceFile("#include <velmora/service/B.h>\n#include <velmora/Version.h>\n")},
+      {"velmora/views/C.cpp", sourceFile("#include <velmora/service/B.h>\n#include <app/D.h>\n")}};
+  EXPECT_EQ(upwardIncludes(tree), (Breaches{"velmora/astronomy/A.cpp includes velmora/service/B.h",
+                                            "velmora/views/C.cpp includes app/D.h"}));
+}
+
+TEST(ArchitectureRules, AThirdPartyHeaderIsABreachEvenThroughAnAdapter) {
+  const SourceTree tree = {
+      {"velmora/platform/graphics/cairo/Handles.h", sourceFile("#include <cairo.h>\n#include <vector>\n")},
+      {"velmora/views/Direct.cpp", sourceFile("#  include <unicode/ucal.h> // calendars\n")},
+      {"velmora/views/Through.h", sourceFile("#include <velmora/platform/graphics/cairo/Handles.h>\n")},
+      {"velmora/views/Well.h", sourceFile("#include <string>\n")}};
+  EXPECT_EQ(thirdPartyOutsideAdapters(tree), (Breaches{"velmora/views/Direct.cpp reaches unicode/ucal.h",
+                                                       "velmora/views/Through.h reaches cairo.h"}));
+}
+
+TEST(ArchitectureRules, OnlyTheProgramMayUseTheLibrariesItIsMadeWith) {
+  const SourceTree tree = {{"app/A.cpp", sourceFile("#include <CLI/CLI.hpp>\n#include <png.h>\n")},
+                           {"velmora/service/B.cpp", sourceFile("#include <CLI/CLI.hpp>\n")}};
+  EXPECT_EQ(thirdPartyOutsideAdapters(tree),
+            (Breaches{"app/A.cpp reaches png.h", "velmora/service/B.cpp reaches CLI/CLI.hpp"}));
+}
+
+TEST(ArchitectureRules, TheFourHundredAndFirstLineIsABreach) {
+  std::string text;
+  for (int line = 0; line < 400; ++line) text += "//\n";
+  EXPECT_EQ(longFiles({{"velmora/A.h", sourceFile(text)}}), Breaches{});
+  EXPECT_EQ(longFiles({{"velmora/A.h", sourceFile(text + "//\n")}}), Breaches{"velmora/A.h has 401 lines"});
+}
+
+}  // namespace
+}  // namespace velmora::testing

@@ -1,0 +1,129 @@
+#include "tests/architecture/SourceTree.h"
+
+#include <algorithm>
+#include <array>
+#include <filesystem>
+#include <fstream>
+#include <optional>
+#include <regex>
+#include <set>
+#include <sstream>
+
+#include "tests/support/SourceDirectory.h"
+
+namespace velmora::testing {
+namespace {
+
+constexpr int mostLines = 400;
+
+/// From the bottom up.
+constexpr std::array layers = {"velmora/platform/time",
+                               "velmora/platform/resources",
+                               "velmora/platform/events",
+                               "velmora/foundation",
+                               "velmora/astronomy",
+                               "velmora/phases",
+                               "velmora/service",
+                               "velmora/platform/graphics",
+                               "velmora/platform/ui",
+                               "velmora/views",
+                               "app"};
+
+const std::set<std::string> adapters = {"cairo", "cctz", "icu", "libplist", "png", "posix"};
+const std::set<std::string> librariesOfProgram = {"CLI/CLI.hpp", "nlohmann/json.hpp", "unistd.h"};
+
+/// None for what lies in no layer: the version, which stands below them all.
+std::optional<std::size_t> layerOf(const std::string& path) {
+  for (std::size_t layer = 0; layer < layers.size(); ++layer) {
+    if (path.starts_with(std::string(layers[layer]) + "/")) return layer;
+  }
+  return std::nullopt;
+}
+
+bool isAdapter(const std::string& path) {
+  return adapters.count(std::filesystem::path(path).parent_path().filename().string()) != 0;
+}
+
+bool isOfProject(const std::string& include) {
+  return include.starts_with("velmora/") || include.starts_with("app/");
+}
+
+/// Headers of the C++ library have neither folder nor ending.
+bool isThirdParty(const std::string& include) {
+  return !isOfProject(include) && include.find_first_of("./") != std::string::npos;
+}
+
+/// The third-party headers that come with the file, whoever includes them.
+std::set<std::string> thirdPartyOf(const std::string& path, const SourceTree& tree) {
+  std::set<std::string> reached;
+  const auto file = tree.find(path);
+  if (file == tree.end()) return reached;
+  for (const std::string& include : file->second.includes) {
+    if (isThirdParty(include)) reached.insert(include);
+    if (isOfProject(include)) reached.merge(thirdPartyOf(include, tree));
+  }
+  return reached;
+}
+
+}  // namespace
+
+SourceFile sourceFile(const std::string& text) {
+  static const std::regex include(R"(\s*#\s*include\s*[<"]([^>"]+)[>"].*)");
+  SourceFile file;
+  std::istringstream lines(text);
+  std::smatch match;
+  for (std::string line; std::getline(lines, line); ++file.lineCount) {
+    if (std::regex_match(line, match, include)) file.includes.push_back(match[1]);
+  }
+  return file;
+}
+
+SourceTree readSourceTree(const std::vector<std::string>& folders) {
+  SourceTree tree;
+  const std::filesystem::path root = sourceDirectory();
+  for (const std::string& folder : folders) {
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(root / folder)) {
+      if (entry.path().extension() != ".h" && entry.path().extension() != ".cpp") continue;
+      std::ostringstream text;
+      text << std::ifstream(entry.path()).rdbuf();
+      tree[entry.path().lexically_relative(root).string()] = sourceFile(text.str());
+    }
+  }
+  return tree;
+}
+
+std::vector<std::string> upwardIncludes(const SourceTree& tree) {
+  std::vector<std::string> breaches;
+  for (const auto& [path, file] : tree) {
+    const auto own = layerOf(path);
+    for (const std::string& include : file.includes) {
+      const auto included = layerOf(include);
+      if (own && included && *included > *own) breaches.push_back(path + " includes " + include);
+    }
+  }
+  return breaches;
+}
+
+std::vector<std::string> thirdPartyOutsideAdapters(const SourceTree& tree) {
+  std::vector<std::string> breaches;
+  for (const auto& [path, file] : tree) {
+    if (isAdapter(path)) continue;
+    for (const std::string& header : thirdPartyOf(path, tree)) {
+      const bool isOfProgram = path.starts_with("app/") && librariesOfProgram.count(header) != 0;
+      if (!isOfProgram) breaches.push_back(path + " reaches " + header);
+    }
+  }
+  return breaches;
+}
+
+std::vector<std::string> longFiles(const SourceTree& tree) {
+  std::vector<std::string> breaches;
+  for (const auto& [path, file] : tree) {
+    if (file.lineCount > mostLines) {
+      breaches.push_back(path + " has " + std::to_string(file.lineCount) + " lines");
+    }
+  }
+  return breaches;
+}
+
+}  // namespace velmora::testing

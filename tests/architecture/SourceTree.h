@@ -1,0 +1,34 @@
+#pragma once
+
+#include <map>
+#include <string>
+#include <vector>
+
+namespace velmora::testing {
+
+/// What a source file says that the rules of the architecture are about.
+struct SourceFile {
+  std::vector<std::string> includes;  ///< as written between the angle brackets
+  int lineCount = 0;
+};
+
+/// Source files by their path from the project's root: "velmora/views/PhaseDisc.h".
+using SourceTree = std::map<std::string, SourceFile>;
+
+SourceFile sourceFile(const std::string& text);
+
+/// The C++ files below the given folders of the project.
+SourceTree readSourceTree(const std::vector<std::string>& folders);
+
+// Each answers the breaches of a rule, one readable line each; none is well.
+
+/// A folder includes only folders below it.
+std::vector<std::string> upwardIncludes(const SourceTree& tree);
+
+/// Only an adapter reaches a third-party header, be it through headers of the project. The host program may
+/// include what it is made with besides: the command line's and JSON's libraries and the terminal.
+std::vector<std::string> thirdPartyOutsideAdapters(const SourceTree& tree);
+
+std::vector<std::string> longFiles(const SourceTree& tree);
+
+}  // namespace velmora::testing
