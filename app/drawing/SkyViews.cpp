@@ -17,7 +17,8 @@ constexpr double quarterTurn = std::numbers::pi / 2;
 constexpr double dueEast = 90, dueWest = 270;  // degrees from north
 
 constexpr double reachOfMoon = 10;     // of its disc from its place, in points
-constexpr double reachOfLetters = 32;  // of the compass's letters from its ring
+constexpr double reachOfLetters = 32;  // of the compass's letters outwards from its ring
+constexpr double reachOfTicks = 20;    // inwards
 
 MoonPhaseData& service() { return MoonPhaseData::sharedInstance(); }
 
@@ -82,12 +83,13 @@ std::shared_ptr<CompassView> makeRing(const Query& query, double side, double ra
 
 }  // namespace
 
-// The way lies inside the ring: its circle reaches at most √2 radii from the middle, where rise and set are a
-// quarter of the horizon apart. The ring has to lie at the origin; it is turned with what holds it.
+// The way lies inside the ring and its ticks: its circle reaches at most √2 radii from the middle, where rise
+// and set are a quarter of the horizon apart. The ring has to lie at the origin; it is turned with what holds
+// it.
 std::shared_ptr<View> makeCompass(const Query& query, Size size) {
   const Rect square = squareIn(size);
   const double ring = square.width * 0.5 - reachOfLetters;
-  const double horizon = (ring - reachOfMoon) / std::numbers::sqrt2;
+  const double horizon = (ring - reachOfTicks - reachOfMoon) / std::numbers::sqrt2;
   const auto way = makeWay(query, square.width, horizon, azimuthAt(&RiseSetData::moonRiseMinutesFromMidnight),
                            azimuthAt(&RiseSetData::moonSetMinutesFromMidnight));
   way->setAnchorPoint(way->rotationPoint());
