@@ -2,6 +2,7 @@
 
 #include <benchmark/benchmark.h>
 
+#include <velmora/astronomy/HorizontalCoordinates.h>
 #include <velmora/platform/time/Calendar.h>
 
 namespace velmora {
@@ -70,6 +71,30 @@ void one(benchmark::State& state) {
     instant += Seconds(3600);
   }
 }
+/// The Moon and the Sun of one moment as numbers, without texts.
+void pairOfCoordinates(benchmark::State& state) {
+  const Angle<double> latitude = angleOfRadians(0.66);
+  double mjd = 60310;
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(moonCoordinates(mjd, -122.39184303, latitude));
+    benchmark::DoNotOptimize(sunCoordinates(mjd - 51544.5, -2.1361, latitude));
+    mjd += 0.04;
+  }
+}
+BENCHMARK(pairOfCoordinates);
+
+/// A day's track: 25 records of the Moon and 24 of the Sun.
+void trackOfADay(benchmark::State& state) {
+  const GeoLocationData place = sanFrancisco();
+  Instant instant = firstNoon();
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(Calc::Get24HourMoonPositionsForDate(instant, place, offset));
+    benchmark::DoNotOptimize(Calc::Get24HourSunPositionsForDate(instant, place, offset));
+    instant += Seconds(86400);
+  }
+}
+BENCHMARK(trackOfADay);
+
 BENCHMARK(one<Calc::ComputeSunPosition>)->Name("sunPosition");
 BENCHMARK(one<Calc::ComputeMoonPosition>)->Name("moonPosition");
 BENCHMARK(one<Calc::Get24HourSunPositionsForDate>)->Name("sunTrackOfADay");

@@ -53,5 +53,10 @@ TEST(Hours, AreReckonedEachAsADoubleByItself) {
   }
 }
 
+TEST(Hours, FollowOneAnother) {
+  const Hours evening = Hours::from(21.5);
+  for (std::size_t i = 0; i < Hours::count; ++i) EXPECT_EQ(evening[i], 21.5 + static_cast<double>(i));
+}
+
 }  // namespace
 }  // namespace velmora

@@ -2,6 +2,7 @@
 #include <optional>
 #include <utility>
 
+#include <velmora/astronomy/HorizontalCoordinates.h>
 #include <velmora/astronomy/RiseAndSetCalc.h>
 #include <velmora/astronomy/TimeScales.h>
 #include <velmora/platform/time/Calendar.h>
@@ -10,8 +11,10 @@ namespace velmora {
 namespace {
 
 constexpr double radiansPerDegree = 0.017453292519943295;
+constexpr double degreesPerRadian = 57.29577951308232;
 constexpr double hitTolerance = 0.05;  // degrees
 constexpr int mostRefinedEvents = 2;
+constexpr std::size_t moonSamples = 25, sunSamples = 24;  // of a day's series
 constexpr Seconds oneDay{86400};
 
 double offsetHours(std::int64_t secondsFromGMT) { return static_cast<double>(secondsFromGMT) / 3600; }
@@ -105,11 +108,20 @@ std::vector<PositionData> RiseAndSetCalc::Get24HourMoonPositionsForDate(Instant 
                                                                         const GeoLocationData& location,
                                                                         std::int64_t secondsFromGMT) {
   const DateComponents day = Calendar(location.calendarZone(secondsFromGMT)).components(date);
-  const double zoneHours = offsetHours(secondsFromGMT);
+  const double zoneHours = offsetHours(secondsFromGMT), mjd0 = _mjd(day.day, day.month, day.year, 0);
+  const Angle<double> latitude = angleOfRadians(location.latitude * radiansPerDegree);
+  const double longitude = location.longitude * radiansPerDegree * degreesPerRadian;
+
   std::vector<PositionData> positions;
-  positions.reserve(25);
-  for (int hour = 0; hour <= 24; ++hour) {
-    positions.push_back(moonPositionAt(location, day, hour - zoneHours, zoneHours));
+  positions.reserve(moonSamples);
+  while (positions.size() < moonSamples) {
+    const Hours hours = Hours::from(static_cast<double>(positions.size())) - zoneHours;
+    const Hours mjd = mjd0 + hours / 24;
+    const Direction<Hours> moon = moonDirectionAt(centuriesSinceJ2000(mjd));
+    for (std::size_t i = 0; i < Hours::count && positions.size() < moonSamples; ++i) {
+      positions.push_back(positionAt(moonCoordinates(directionOfHour(moon, i), mjd[i], longitude, latitude),
+                                     hours[i] + zoneHours));
+    }
   }
   return positions;
 }
@@ -120,8 +132,8 @@ std::vector<PositionData> RiseAndSetCalc::Get24HourSunPositionsForDate(Instant d
   const Calendar calendar(location.calendarZone(secondsFromGMT));
   const DateComponents first = calendar.components(movedToUniversalReading(date, secondsFromGMT));
   std::vector<PositionData> positions;
-  positions.reserve(24);
-  for (int hour = 0; hour < 24; ++hour) {
+  positions.reserve(sunSamples);
+  for (std::int64_t hour = 0; positions.size() < sunSamples; ++hour) {
     // The zone value is the offset in seconds: the records' hours mean nothing here, by intent.
     positions.push_back(
         sunPositionAt(location, first, static_cast<double>(first.hour + hour), secondsFromGMT));

@@ -9,7 +9,6 @@ namespace velmora {
 namespace {
 
 constexpr double pi = 3.141592653589793;
-constexpr double hoursPerCentury = 24 * daysPerCentury;
 
 /// The angle in radians, [0, 2π), to 0.002.
 inline Hours roughRadians(const Angle<Hours>& angle) {
@@ -60,61 +59,7 @@ HourlyAngle hourlySiderealAngle(double mjd, double longitude) {
   return {siderealAngle(mjd, longitude), growth, angleOfRadians(growth.turnsPerHour * growth.radiansPerTurn)};
 }
 
-/// Lets the angle grow; a turn that it completes starts the next one from 0.
-template <class Number>
-ArgumentValue<Number> grown(const ArgumentValue<Number>& value, double turns, const Angle<Number>& growth,
-                            double radiansPerTurn) {
-  const Number sum = value.turns + turns;
-  const Number wholeTurns = selectLess(sum, 1, 0, 1);
-  const Angle<Number> startingAnew{1, wholeTurns * shortfallOfTurn(radiansPerTurn)};
-  return {sum - wholeTurns, value.angle + growth + startingAnew};
-}
-
 }  // namespace
-
-HourlyAngle::HourlyAngle(const ArgumentValue<double>& start, const HourlyGrowth& growth,
-                         const Angle<double>& perHour)
-    : _growth(growth) {
-  ArgumentValue<double> value = start;
-  Angle<double> perStep{1, 0};
-  for (std::size_t i = 0; i < Hours::count; ++i) {
-    _value.turns.set(i, value.turns);
-    _value.angle.cosine.set(i, cos(value.angle));
-    _value.angle.sine.set(i, sin(value.angle));
-    value = grown(value, growth.turnsPerHour, perHour, growth.radiansPerTurn);
-    perStep = perStep + perHour;
-  }
-  _perStep = {cos(perStep), sin(perStep)};
-}
-
-HourlyAngle::HourlyAngle(const MeanArgument& argument, double centuries)
-    : HourlyAngle(valueAt(argument, centuries), {argument.perCentury / hoursPerCentury, seriesTwoPi},
-                  smallAngle(seriesTwoPi * argument.perCentury / hoursPerCentury)) {}
-
-void HourlyAngle::step() {
-  _value = grown(_value, Hours::count * _growth.turnsPerHour, _perStep, _growth.radiansPerTurn);
-}
-
-HourlySun::HourlySun(double centuries)
-    : _longitude(sunLongitude, centuries), _anomaly(sunAnomaly, centuries) {}
-
-void HourlySun::step() {
-  _longitude.step();
-  _anomaly.step();
-}
-
-HourlyMoon::HourlyMoon(double centuries)
-    : _longitude(moonLongitude, centuries),
-      _anomaly(moonAnomaly, centuries),
-      _sunAnomaly(sunAnomaly, centuries),
-      _elongation(moonElongation, centuries),
-      _latitudeArgument(moonLatitudeArgument, centuries) {}
-
-void HourlyMoon::step() {
-  for (HourlyAngle* angle : {&_longitude, &_anomaly, &_sunAnomaly, &_elongation, &_latitudeArgument}) {
-    angle->step();
-  }
-}
 
 template <class HourlyBody>
 HourlyAltitudes<HourlyBody>::HourlyAltitudes(double localMidnight, double longitude, double latitude)

@@ -16,6 +16,9 @@ class Hours {
   Hours() = default;
   Hours(double number) : _early{number, number}, _late{number, number} {}
 
+  /// `first`, first + 1 and so on.
+  static Hours from(double first) { return {Pair{first, first + 1}, Pair{first + 2, first + 3}}; }
+
   double operator[](std::size_t hour) const { return hour < 2 ? _early[hour] : _late[hour - 2]; }
   void set(std::size_t hour, double number) { (hour < 2 ? _early : _late)[hour % 2] = number; }
 

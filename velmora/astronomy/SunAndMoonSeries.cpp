@@ -26,11 +26,21 @@ ArgumentValue<double> valueAt(const MeanArgument& argument, double centuries) {
   return {turns, angleOfRadians(seriesTwoPi * turns)};
 }
 
-Direction<double> moonDirectionAt(double centuries) {
+ArgumentValue<Hours> valueAt(const MeanArgument& argument, const Hours& centuries) {
+  ArgumentValue<Hours> values;
+  for (std::size_t i = 0; i < Hours::count; ++i) setHour(values, i, valueAt(argument, centuries[i]));
+  return values;
+}
+
+template <class Number>
+Direction<Number> moonDirectionAt(const Number& centuries) {
   const auto angle = [&](const MeanArgument& argument) { return valueAt(argument, centuries).angle; };
   return moonDirection(valueAt(moonLongitude, centuries), angle(moonAnomaly), angle(sunAnomaly),
                        angle(moonElongation), angle(moonLatitudeArgument));
 }
+
+template Direction<double> moonDirectionAt(const double&);
+template Direction<Hours> moonDirectionAt(const Hours&);
 
 double rightAscensionHours(const Direction<double>& direction, double rho) {
   const double hours = hoursPerHalfAngleRadian * std::atan(direction.y / (direction.x + rho));

@@ -39,7 +39,14 @@ struct ArgumentValue {
   Angle<Number> angle;
 };
 
+inline void setHour(ArgumentValue<Hours>& values, std::size_t hour, const ArgumentValue<double>& value) {
+  values.turns.set(hour, value.turns);
+  values.angle.cosine.set(hour, cos(value.angle));
+  values.angle.sine.set(hour, sin(value.angle));
+}
+
 ArgumentValue<double> valueAt(const MeanArgument& argument, double centuries);
+ArgumentValue<Hours> valueAt(const MeanArgument& argument, const Hours& centuries);
 
 /// A direction in the frame of the equator and equinox of date. A unit vector but for the short figures of
 /// the obliquity, which make x and y up to 1e-6 too small.
@@ -47,6 +54,10 @@ template <class Number>
 struct Direction {
   Number x, y, z;
 };
+
+inline Direction<double> directionOfHour(const Direction<Hours>& directions, std::size_t hour) {
+  return {directions.x[hour], directions.y[hour], directions.z[hour]};
+}
 
 /// The mean longitude with its perturbation in arc seconds. A turn of the printed 2π is not quite a full one,
 /// which shows where the perturbation passes the end or the beginning of a turn.
@@ -91,8 +102,9 @@ constexpr Direction<Number> moonDirection(const ArgumentValue<Number>& longitude
   return {X, cosObliquity * V - sinObliquity * W, sinObliquity * V + cosObliquity * W};
 }
 
-/// The Moon at one moment.
-Direction<double> moonDirectionAt(double centuries);
+/// The Moon at one moment, or at several: the same to the last bit. `Number` is double or `Hours`.
+template <class Number>
+Direction<Number> moonDirectionAt(const Number& centuries);
 
 /// The printed half-angle formula, in hours, [0, 24). `rho`: cosine of the declination.
 double rightAscensionHours(const Direction<double>& direction, double rho);

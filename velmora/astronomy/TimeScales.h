@@ -12,7 +12,10 @@ inline constexpr double mjdOfJ2000 = 51544.5;  ///< 2000 January 1, 12h
 inline constexpr double daysPerCentury = 36525.0;
 
 /// Julian centuries from 2000 January 1, 12h to the Modified Julian Date.
-constexpr double centuriesSinceJ2000(double mjd) { return (mjd - mjdOfJ2000) / daysPerCentury; }
+template <class Number>
+constexpr Number centuriesSinceJ2000(const Number& mjd) {
+  return (mjd - mjdOfJ2000) / daysPerCentury;
+}
 
 /// Greenwich mean sidereal time at a Modified Julian Date of universal time, in degrees, [0, 360).
 /// Meeus, Astronomical Algorithms, 2nd ed., formula 12.4.
