@@ -16,6 +16,8 @@ namespace {
 constexpr std::string_view yearFields = "y", monthFields = "yMMMM", dayFields = "yMMMMd",
                            momentFields = "yMMMMdjmm";
 
+// Wide enough for Korean hours.
+constexpr double phoneTimelineWidth = 540;
 constexpr double timelineHeight = 76, timelineMargin = 6;
 constexpr double margin = 10;
 
@@ -33,7 +35,7 @@ Size fixedSize(const Query&) {
 }
 
 Size timelineSize(const Query& query) {
-  return {query.request.drawing.isTablet ? tabletWidth : phoneWidth, timelineHeight};
+  return {query.request.drawing.isTablet ? tabletWidth : phoneTimelineWidth, timelineHeight};
 }
 
 std::shared_ptr<View> makeTimeline(const Query&, Size size) {

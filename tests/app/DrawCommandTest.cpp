@@ -5,6 +5,7 @@
 #include <app/drawing/DrawableView.h>
 #include <velmora/foundation/SettingsModel.h>
 #include <velmora/platform/resources/Log.h>
+#include <velmora/platform/time/Locale.h>
 #include <velmora/platform/ui/Device.h>
 #include <velmora/views/VelmoraTheme.h>
 
@@ -92,6 +93,30 @@ constexpr Rect titleBand = {0, 0, 390, 56};
 
 int paintedPixels(const DrawnPicture& drawn, Rect within) {
   return static_cast<int>(within.width * within.height) - drawn.count(Color::clear(), within);
+}
+
+/// How many texts stand side by side in the band, with at least 8 points between two of them.
+int textsIn(const DrawnPicture& drawn, Rect band) {
+  int texts = 0;
+  double blank = 8;
+  for (double x = band.x; x < band.maxX(); ++x) {
+    const bool isPainted = paintedPixels(drawn, {x, band.y, 1, band.height}) > 0;
+    if (isPainted && blank >= 8) ++texts;
+    blank = isPainted ? 0 : blank + 1;
+  }
+  return texts;
+}
+
+TEST_F(DrawTest, TimelineHasRoomForTheHoursOfEveryLanguage) {
+  for (const char* language : {"ar", "de", "en", "es", "fr", "he", "hi", "it", "ja", "ko", "nl", "pl", "pt",
+                               "ru", "tr", "zh-Hans", "zh-Hant"}) {
+    const DrawnPicture drawn =
+        picture({"timeline", "--no-title", "--background", "none", "--locale", language});
+    const double width = drawn.whole().width;
+    EXPECT_EQ(textsIn(drawn, {0, 36, width, 17}), 7) << language;
+    const double dayEnd = Locale(language).isRightToLeft() ? 10 : width - 11;
+    EXPECT_EQ(paintedPixels(drawn, {dayEnd, 36, 1, 17}), 0) << "the last hour is cut in " << language;
+  }
 }
 
 TEST_F(DrawTest, TitleStandsAboveTheViewUnlessItIsLeftOut) {
