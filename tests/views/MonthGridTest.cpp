@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <cstdint>
+#include <limits>
 #include <optional>
 
 #include <velmora/platform/ui/Device.h>
@@ -119,6 +121,14 @@ TEST(MonthGridTest, WithoutRoomThereAreNoCells) {
   EXPECT_EQ(MonthGrid::inView({390, 50}, sunday, 28).cellAt({10, 45}), std::nullopt);
   EXPECT_EQ(MonthGrid::inView({18, 450}, sunday, 28).cellAt({10, 45}), std::nullopt);
   EXPECT_EQ(MonthGrid::inView({1, 1}, sunday, 28).cellAt({0, 0}), std::nullopt);
+}
+
+TEST(MonthGridTest, PointsFartherThanAnyScreenAreInNoCell) {
+  const MonthGrid grid = shortFebruary();
+  const double infinity = std::numeric_limits<double>::infinity();
+  for (const Point point : {Point{1e300, 90}, {20, -1e300}, {infinity, -infinity}, {std::nan(""), 90}})
+    EXPECT_EQ(grid.cellAt(point), std::nullopt) << point.x << " " << point.y;
+  EXPECT_EQ(grid.cellAt({-1e6, 90}), -18867) << "a cell, but of no day";
 }
 
 TEST(MonthDayCellTest, OnAPhoneTheDiscIsAsWideAsTheCellInItsMiddle) {

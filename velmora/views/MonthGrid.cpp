@@ -15,6 +15,8 @@ constexpr double frameDistance = 4;   // from the cell
 constexpr double barDistance = 3, barHeight = 4, barInset = 5;
 constexpr double frameRoomForBar = 8;
 
+constexpr double farthestCell = 1e9;
+
 /// The count of days without whole weeks, 0 to 6 for negative counts too.
 std::int64_t withoutWholeWeeks(std::int64_t days) {
   const std::int64_t rest = days % MonthGrid::columns;
@@ -72,9 +74,11 @@ Rect MonthGrid::cell(std::int64_t day) const {
 std::optional<std::int64_t> MonthGrid::cellAt(Point point) const {
   const double columnPitch = cellPaddingX + cellWidth, rowPitch = cellPaddingY + cellHeight;
   if (columnPitch <= 0 || rowPitch <= 0) return std::nullopt;
-  const auto column = static_cast<std::int64_t>((point.x - leftMargin) / columnPitch);
-  const auto row = static_cast<std::int64_t>((point.y - topMargin) / rowPitch);
-  return column + columns * row + 1;
+  const double column = std::trunc((point.x - leftMargin) / columnPitch);
+  const double row = std::trunc((point.y - topMargin) / rowPitch);
+  const double cell = column + columns * row + 1;
+  if (!(std::abs(cell) < farthestCell)) return std::nullopt;
+  return static_cast<std::int64_t>(cell);
 }
 
 std::optional<std::int64_t> MonthGrid::dayInCell(std::int64_t cell) const {

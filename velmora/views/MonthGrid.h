@@ -43,7 +43,7 @@ struct MonthGrid {
 
   /// The cell at the point, counted row by row from 1, blank ones included. Points in the margins count to
   /// the nearest cells; those right of the last column to the first cell of the next row, by intent. None
-  /// where there is no room for cells.
+  /// where there is no room for cells, and a billion cells away.
   std::optional<std::int64_t> cellAt(Point point) const;
 
   /// The day in the cell; none in a blank one.
