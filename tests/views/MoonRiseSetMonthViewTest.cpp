@@ -128,6 +128,17 @@ TEST_F(MoonRiseSetMonthViewTest, OnATabletLabelsAreLarger) {
   EXPECT_EQ(row(14)->labelText().paragraph().font, Font::systemFont(14));
 }
 
+TEST_F(MoonRiseSetMonthViewTest, LabelsAreCentredAndCut) {
+  const TextAttributes plain = {.font = Font::systemFont(13),
+                                .color = Color::withWhite(0.7, 1),
+                                .alignment = TextAlignment::center,
+                                .lineBreak = LineBreak::clipping};
+  TextAttributes selected = plain;
+  selected.color = {0.89, 0.78, 0.59, 1};
+  EXPECT_EQ(MoonRiseSetMonthView::dateTextAttributes(), plain);
+  EXPECT_EQ(MoonRiseSetMonthView::selectedDateTextAttributes(), selected);
+}
+
 TEST_F(MoonRiseSetMonthViewTest, TheLabelsAttributesAreMadeOnceAProcess) {
   install(noon(2024, 6, 14));
   SettingsModel::setIsIPad(true);

@@ -142,6 +142,14 @@ TEST_F(RiseSetPainterTest, OnAScreenJustWiderTimesAreOfSmallSystemSize) {
   EXPECT_EQ(lineOfText("10:00"), timeLine("10:00", "180 18"));
 }
 
+TEST_F(RiseSetPainterTest, TimesAreBoldOnTheLeftAndCut) {
+  const TextAttributes times = {.font = Font::boldSystemFont(12),
+                                .color = Color::withWhite(0.6, 1),
+                                .alignment = TextAlignment::left,
+                                .lineBreak = LineBreak::clipping};
+  EXPECT_EQ(MoonRiseSetDayView::labelTextTextAttributes(), times);
+}
+
 TEST_F(RiseSetPainterTest, TheTimesAttributesAreMadeOnceAProcess) {
   const Lines first = drawn();
   SettingsModel::setIsIPad(true);

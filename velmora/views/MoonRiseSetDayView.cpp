@@ -3,9 +3,12 @@
 #include <cmath>
 #include <utility>
 
+#include <velmora/foundation/SettingsModel.h>
 #include <velmora/phases/RiseSetPhaseItem.h>
 #include <velmora/platform/graphics/TextLayout.h>
+#include <velmora/platform/ui/Device.h>
 #include <velmora/service/MoonPhaseData.h>
+#include <velmora/views/OncePerProcess.h>
 #include <velmora/views/PhaseDisc.h>
 #include <velmora/views/RiseSetPainter.h>
 #include <velmora/views/UIControls.h>
@@ -21,8 +24,25 @@ constexpr double discColumnWidth = 50, discShareOfHeight = 0.625;
 constexpr double labelHeight = 18, labelOverlap = 2;
 constexpr double stripGap = 5;
 constexpr double hairline = 0.5;
+constexpr double tabletTextSize = 15, narrowScreenTextSize = 10, narrowScreenWidth = 320;
+
+double timeTextSize() {
+  if (SettingsModel::isIPad()) return tabletTextSize;
+  return Device::current().screenWidth <= narrowScreenWidth ? narrowScreenTextSize
+                                                            : Font::smallSystemFontSize;
+}
 
 }  // namespace
+
+const TextAttributes& MoonRiseSetDayView::labelTextTextAttributes() {
+  static OncePerProcess<TextAttributes> attributes;
+  return attributes.get([] {
+    return TextAttributes{.font = Font::boldSystemFont(timeTextSize()),
+                          .color = VelmoraTheme::defaultTheme()->darkTextColor,
+                          .alignment = TextAlignment::left,
+                          .lineBreak = LineBreak::clipping};
+  });
+}
 
 void MoonRiseSetDayView::setPhaseItem(std::shared_ptr<const RiseSetPhaseItem> item) {
   _phaseItem = std::move(item);

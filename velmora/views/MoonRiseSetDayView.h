@@ -55,6 +55,9 @@ class MoonRiseSetDayView : public View {
   /// Asks to be drawn again, nothing else.
   void handleTouchEvent(const Touch& event);
 
+  /// Of the rise and set times: on the left, cut at their rectangle, made once per process.
+  static const TextAttributes& labelTextTextAttributes();
+
   void drawRect(Canvas& canvas, Rect rect) override;
 
   /// Draws the day's disc into the rectangle, its outline and lit part in the canvas's own colours.

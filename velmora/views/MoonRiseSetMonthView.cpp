@@ -25,17 +25,6 @@ TextAttributes labelAttributes(const Color& color) {
           .lineBreak = LineBreak::clipping};
 }
 
-const TextAttributes& dateTextAttributes() {
-  static OncePerProcess<TextAttributes> attributes;
-  return attributes.get([] { return labelAttributes(VelmoraTheme::defaultTheme()->defaultTextColor); });
-}
-
-const TextAttributes& selectedDateTextAttributes() {
-  static OncePerProcess<TextAttributes> attributes;
-  return attributes.get(
-      [] { return labelAttributes(VelmoraTheme::defaultTheme()->selectedBackgroundColor); });
-}
-
 /// The rows know fewer calendars than the month's grid.
 std::optional<AlternateCalendar::Kind> alternateCalendarKind(std::int64_t type) {
   return type <= kJapaneseCalendar ? kindOfAlternateCalendar(type) : std::nullopt;
@@ -61,6 +50,17 @@ void layOut(MoonRiseSetDayView& row, View* above) {
 }
 
 }  // namespace
+
+const TextAttributes& MoonRiseSetMonthView::dateTextAttributes() {
+  static OncePerProcess<TextAttributes> attributes;
+  return attributes.get([] { return labelAttributes(VelmoraTheme::defaultTheme()->defaultTextColor); });
+}
+
+const TextAttributes& MoonRiseSetMonthView::selectedDateTextAttributes() {
+  static OncePerProcess<TextAttributes> attributes;
+  return attributes.get(
+      [] { return labelAttributes(VelmoraTheme::defaultTheme()->selectedBackgroundColor); });
+}
 
 void MoonRiseSetMonthView::installDayViews() {
   removeSubviews();

@@ -37,6 +37,11 @@ class MoonRiseSetMonthView : public View {
   const std::shared_ptr<VelmoraTheme>& colorTheme() const { return _colorTheme; }
   void setColorTheme(std::shared_ptr<VelmoraTheme> theme) { _colorTheme = std::move(theme); }
 
+  /// Of the rows' labels: centred, cut at their rectangle, made once per process.
+  static const TextAttributes& dateTextAttributes();
+  /// The same on the selected day.
+  static const TextAttributes& selectedDateTextAttributes();
+
   /// Replaces all subviews by the rows of the service's selected month. Without items, rows have a number
   /// alone.
   void installDayViews();

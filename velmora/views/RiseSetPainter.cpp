@@ -3,11 +3,8 @@
 #include <cmath>
 
 #include <velmora/astronomy/RiseSetData.h>
-#include <velmora/foundation/SettingsModel.h>
 #include <velmora/platform/resources/Bundle.h>
-#include <velmora/platform/ui/Device.h>
 #include <velmora/views/MoonRiseSetDayView.h>
-#include <velmora/views/OncePerProcess.h>
 #include <velmora/views/UIControls.h>
 #include <velmora/views/VelmoraTheme.h>
 
@@ -16,27 +13,9 @@ namespace {
 
 constexpr double midlineWidth = 0.5, midlineAlpha = 0.9;
 constexpr double moonIconAlpha = 1, sunIconAlpha = 0.7;
-constexpr double tabletTextSize = 15, narrowScreenTextSize = 10, narrowScreenWidth = 320;
-
-double timeTextSize() {
-  if (SettingsModel::isIPad()) return tabletTextSize;
-  return Device::current().screenWidth <= narrowScreenWidth ? narrowScreenTextSize
-                                                            : Font::smallSystemFontSize;
-}
-
-/// Of the rise and set times.
-const TextAttributes& labelTextTextAttributes() {
-  static OncePerProcess<TextAttributes> attributes;
-  return attributes.get([] {
-    return TextAttributes{.font = Font::boldSystemFont(timeTextSize()),
-                          .color = VelmoraTheme::defaultTheme()->darkTextColor,
-                          .alignment = TextAlignment::left,
-                          .lineBreak = LineBreak::clipping};
-  });
-}
 
 TextLayout timeText(const std::string& text) {
-  return TextLayout(AttributedText(text, labelTextTextAttributes()));
+  return TextLayout(AttributedText(text, MoonRiseSetDayView::labelTextTextAttributes()));
 }
 
 }  // namespace
