@@ -157,6 +157,39 @@ TEST(ElevationEvents, AtAnElevationThatTheSunNeverReachesAreNone) {
   EXPECT_TRUE(Calc::EventsMatchingSunElevation(10, winter, placeAt(60.1699, 24.9384), 7200, true).empty());
 }
 
+double morningAltitude(double latitude) {  // at 05:15 of the longest day in Greenwich's longitude
+  return Calc::CalculateSunPosition(0, latitude * degree, 2024, 6, 21, 5.25, 0).altitude;
+}
+
+/// The latitude at which that altitude is exactly 0: halved down to neighbouring doubles, of which one near
+/// by gives it.
+double latitudeOfSunAtTheHorizon() {
+  double south = 20, north = 30;
+  for (double mid = 25; south < mid && mid < north; mid = (south + north) / 2) {
+    (morningAltitude(mid) < 0 ? south : north) = mid;
+  }
+  double latitude = south - 1e-12;
+  while (morningAltitude(latitude) != 0 && latitude < south + 1e-12) {
+    latitude = std::nextafter(latitude, 90);
+  }
+  return latitude;
+}
+
+TEST(ElevationEvents, ASampleAtAltitudeZeroHidesTheCrossingFromBothItsHours) {
+  const double latitude = latitudeOfSunAtTheHorizon();
+  ASSERT_EQ(morningAltitude(latitude), 0);
+  const auto eventsAt = [](double elevation, double atLatitude) {
+    return Calc::EventsMatchingSunElevation(elevation, utc(2024, 6, 21, 3, 15), placeAt(atLatitude, 0), 0,
+                                            false);
+  };
+  for (const double elevation : {3.0, -3.0}) {  // reached in the hour after the sample, in the one before
+    const auto hidden = eventsAt(elevation, latitude);
+    ASSERT_EQ(hidden.size(), 1U) << elevation;
+    EXPECT_GT(hidden[0].azimuth, 180) << elevation;  // only the evening's
+    EXPECT_EQ(eventsAt(elevation, latitude - elevation / 6).size(), 2U) << elevation;
+  }
+}
+
 TEST(ElevationEvents, OfAPolarDayAreDirectHitsOnly) {
   const GeoLocationData place = placeAt(80, 15);
   const Instant june = utc(2024, 6, 21);

@@ -89,6 +89,17 @@ TEST(RiseSetSearch, WritesTheTwelveHourClock) {
   EXPECT_EQ(recordOf(71.2906, -156.7886, -32400, 2024, 8, 1).sunSetText, "00:51 AM **");
 }
 
+TEST(RiseSetData, AFreshRecordHasNoTextsAndZeroNumbers) {
+  const RiseSetData fresh;
+  EXPECT_EQ(fresh.moonRiseText + fresh.moonSetText + fresh.sunRiseText + fresh.sunSetText, "");
+  EXPECT_EQ(fresh.twilightBeginText + fresh.twilightEndText, "");
+  EXPECT_EQ(fresh.sunRiseMinutesFromMidnight, 0);
+  EXPECT_EQ(fresh.sunSetMinutesFromMidnight, 0);
+  EXPECT_EQ(fresh.moonRiseMinutesFromMidnight, 0);
+  EXPECT_EQ(fresh.moonSetMinutesFromMidnight, 0);
+  EXPECT_EQ(fresh.dayLengthMinutes, 0);
+}
+
 TEST(RiseSetSearch, LeavesTheRecordsDateToTheCaller) {
   EXPECT_EQ(recordOf(37.8, -122.4, pacificDaylight, 2024, 6, 21).date, Instant{});
 }
