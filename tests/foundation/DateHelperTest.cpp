@@ -82,9 +82,15 @@ TEST_F(DateHelperTest, DaysKeepTheTimeOnTheClock) {
 
 TEST_F(DateHelperTest, DayLengthsHaveTwoDigitsAtLeast) {
   const std::pair<std::int64_t, const char*> cases[] = {
-      {0, "00 hrs 00 mins"},     {59, "00 hrs 59 mins"},    {605, "10 hrs 05 mins"},
-      {1440, "24 hrs 00 mins"},  {6000, "100 hrs 00 mins"}, {-5, "00 hrs -05 mins"},
-      {-65, "-01 hrs -05 mins"}, {-660, "-11 hrs 00 mins"},
+      {0, "00 hrs 00 mins"},
+      {59, "00 hrs 59 mins"},
+      {605, "10 hrs 05 mins"},
+      {1440, "24 hrs 00 mins"},
+      {6000, "100 hrs 00 mins"},
+      {-5, "00 hrs -05 mins"},
+      {-65, "-01 hrs -05 mins"},
+      {-660, "-11 hrs 00 mins"},
+      {((std::int64_t{1} << 32) + 10) * 60 + 5, "10 hrs 05 mins"},  // hours in 32 bits
   };
   for (const auto& [minutes, text] : cases) EXPECT_EQ(DateHelper::GetDayLengthString(minutes), text);
 }

@@ -58,8 +58,9 @@ std::optional<std::string> DateHelper::GetTimeFormattedStringWithFormat(std::opt
 }
 
 std::string DateHelper::GetDayLengthString(std::int64_t minutes) {
-  return integerText(minutes / minutesPerHour, 2) + " hrs " + integerText(minutes % minutesPerHour, 2) +
-         " mins";
+  const auto hours = static_cast<std::int32_t>(minutes / minutesPerHour);
+  const auto minutesLeft = static_cast<std::int32_t>(minutes % minutesPerHour);
+  return integerText(hours, 2) + " hrs " + integerText(minutesLeft, 2) + " mins";
 }
 
 std::optional<std::string> DateHelper::GetTimeFormattedString(std::optional<Instant> date, bool use24Hour) {

@@ -34,6 +34,7 @@ class DateHelper {
                                                                      const std::string& formatString);
 
   /// "10 hrs 05 mins" for 605 minutes; hours and minutes are cut toward zero, each with at least two digits.
+  /// Of the hours the low 32 bits count.
   static std::string GetDayLengthString(std::int64_t minutes);
 
   /// "17:05" or "05:05 PM".
