@@ -14,8 +14,8 @@ namespace {
 constexpr int coordinateDecimals = 4;
 constexpr std::int64_t secondsPerHour = 3600;
 constexpr std::int64_t secondsPerMinute = 60;
-constexpr std::int64_t morningHour =
-    9;  // clocks change in the small hours, so this is the day's usual offset
+// Clocks change in the small hours, so the offset at this hour is the day's usual one.
+constexpr std::int64_t morningHour = 9;
 
 std::string coordinateText(double degrees, const char* positiveSide, const char* negativeSide) {
   return decimalText(std::abs(degrees), coordinateDecimals) + "° " +

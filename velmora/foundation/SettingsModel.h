@@ -36,9 +36,8 @@ class SettingsModel {
   std::int64_t units() const { return _units; }  ///< kept for the host application
   void setUnits(std::int64_t value) { _units = value; }
 
-  bool disableScreenOrientation() const {
-    return _disableScreenOrientation;
-  }  ///< kept for the host application
+  /// Kept for the host application.
+  bool disableScreenOrientation() const { return _disableScreenOrientation; }
   void setDisableScreenOrientation(bool value) { _disableScreenOrientation = value; }
 
  private:
