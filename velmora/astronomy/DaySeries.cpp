@@ -144,22 +144,22 @@ std::vector<PositionData> RiseAndSetCalc::Get24HourSunPositionsForDate(Instant d
 std::vector<PositionData> RiseAndSetCalc::EventsMatchingSunElevation(double elevation, Instant date,
                                                                      const GeoLocationData& location,
                                                                      std::int64_t secondsFromGMT,
-                                                                     bool includeIntermediateValues) {
+                                                                     bool includeIntermediatealues) {
   const std::int64_t zone = secondsFromGMT / 3600;  // a half-hour zone loses its half hour, by intent
   return eventsMatching(
       elevation, movedToUniversalReading(date, secondsFromGMT),
-      Calendar(location.calendarZone(secondsFromGMT)), includeIntermediateValues,
+      Calendar(location.calendarZone(secondsFromGMT)), includeIntermediatealues,
       [&](const DateComponents& day, double hour) { return sunPositionAt(location, day, hour, zone); });
 }
 
 std::vector<PositionData> RiseAndSetCalc::EventsMatchingMoonElevation(double elevation, Instant date,
                                                                       const GeoLocationData& location,
                                                                       std::int64_t secondsFromGMT,
-                                                                      bool includeIntermediateValues) {
+                                                                      bool includeIntermediatealues) {
   const double zoneHours = offsetHours(secondsFromGMT);
   return eventsMatching(
       elevation, movedToUniversalReading(date, secondsFromGMT),
-      Calendar(location.calendarZone(secondsFromGMT)), includeIntermediateValues,
+      Calendar(location.calendarZone(secondsFromGMT)), includeIntermediatealues,
       [&](const DateComponents& day, double hour) { return moonPositionAt(location, day, hour, zoneHours); });
 }
 

@@ -172,18 +172,19 @@ class RiseAndSetCalc {
   /// order. Hourly samples within 0.05° of it count; between samples it is refined only in hours in which
   /// the Sun crosses the horizon, by intent: made for elevations near 0. Ends with the second refined event.
   /// A refined record's `altitude` is exactly `elevation`; its texts are those of the altitude computed.
-  /// `includeIntermediateValues` adds the hourly samples after the first event. The records' `hour` is that
-  /// of universal time plus the whole hours of the offset, plus 24 once if that is below zero.
+  /// `includeIntermediatealues` (the spelling is kept) adds the hourly samples after the first event. The
+  /// records' `hour` is that of universal time plus the whole hours of the offset, plus 24 once if that is
+  /// below zero.
   static std::vector<PositionData> EventsMatchingSunElevation(double elevation, Instant date,
                                                               const GeoLocationData& location,
                                                               std::int64_t secondsFromGMT,
-                                                              bool includeIntermediateValues);
+                                                              bool includeIntermediatealues);
 
   /// The same of the Moon. The records' `hour` is the local one, below 0 or above 24 where the day changes.
   static std::vector<PositionData> EventsMatchingMoonElevation(double elevation, Instant date,
                                                                const GeoLocationData& location,
                                                                std::int64_t secondsFromGMT,
-                                                               bool includeIntermediateValues);
+                                                               bool includeIntermediatealues);
 };
 
 }  // namespace velmora
