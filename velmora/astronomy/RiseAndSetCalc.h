@@ -134,8 +134,8 @@ class RiseAndSetCalc {
                                            std::int64_t timezoneInterval);
 
   /// The Moon at `hour` of universal time, counted from 0h of the date, below 0 and above 24 too. Longitude
-  /// and latitude in radians. The record's `hour` is hour + `timezoneInterval` (hours). The azimuth is NaN
-  /// where it is undefined: at the poles and the zenith.
+  /// and latitude in radians. The record's `hour` is hour + `timezoneInterval` (hours). The azimuth has no
+  /// meaning at the poles and the zenith and may be NaN there.
   static PositionData CalculateMoonPosition(double longitude, double latitude, std::int32_t year,
                                             std::int32_t month, std::int32_t day, double hour,
                                             double timezoneInterval);

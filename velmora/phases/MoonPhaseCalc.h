@@ -65,15 +65,17 @@ class MoonPhaseCalc {
   // Calendars of a month
 
   /// The phase, lit fraction and age of each day, 1 to the month's length. `table` is the year's; `date` only
-  /// tells the location's offset from GMT. Between two principal phases the lit fraction is linear in whole
-  /// days, by intent. (PhaseCalendar.cpp)
+  /// tells the location's offset from GMT. By intent: between two principal phases the lit fraction is linear
+  /// in whole days; a day without an event before it, where the tables begin, follows a full moon on day 0;
+  /// after a month without a new moon the age starts at that month's length + 3. (PhaseCalendar.cpp)
   static PhaseCalendar GetPhaseCalendar(const YearTable& table, std::int64_t month, std::int64_t year,
                                         Instant date, const GeoLocationData& location,
                                         bool use24HourTimeFormat);
 
   /// The number of the picture that shows each day, 1 to the month's length: 0 new moon, 15 first quarter, 27
-  /// full moon, 40 last quarter, linear between them up to 55. Arguments as above. Empty for a month without
-  /// events. (ImageCalendar.cpp)
+  /// full moon, 40 last quarter, linear between them up to 55. The first of January and the last of December
+  /// take theirs from the event of their own month that is nearest, which may lie above 55, by intent.
+  /// Arguments as above. Empty for a month without events. (ImageCalendar.cpp)
   static ImageCalendar GetImageCalendar(const YearTable& table, std::int64_t month, std::int64_t year,
                                         Instant date, const GeoLocationData& location,
                                         bool use24HourTimeFormat);
