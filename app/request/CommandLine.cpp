@@ -1,5 +1,6 @@
 #include <app/request/CommandLine.h>
 
+#include <algorithm>
 #include <map>
 
 #include <CLI/CLI.hpp>
@@ -12,23 +13,43 @@
 namespace velmora::app {
 namespace {
 
-void declare(CLI::App& parser, const Command& command) {
-  parser.allow_extras();
-  for (const std::string_view name : command.options) {
-    const Option& option = *findOption(name);
-    std::string spelling = (name == command.positional ? "" : "--") + std::string(name);
-    if (option.letter) spelling += std::string(",-") + option.letter;
-    if (option.isSwitch()) {
-      parser.add_flag(spelling);
-    } else {
-      parser.add_option(spelling)->type_size(1)->expected(1)->multi_option_policy(
-          CLI::MultiOptionPolicy::TakeAll);
-    }
+bool isPositional(const Option& option) {
+  const auto& commands = allCommands();
+  return std::any_of(commands.begin(), commands.end(),
+                     [&](const Command* command) { return command->positional == option.name; });
+}
+
+void declare(CLI::App& parser, const Option& option) {
+  std::string spelling = (isPositional(option) ? "" : "--") + std::string(option.name);
+  if (option.letter) spelling += std::string(",-") + option.letter;
+  if (option.isSwitch()) {
+    parser.add_flag(spelling);
+  } else {
+    parser.add_option(spelling)->type_size(1)->expected(1)->multi_option_policy(
+        CLI::MultiOptionPolicy::TakeAll);
   }
 }
 
+/// A command takes its own options; in front of the command any may stand.
+void declareAll(CLI::App& parser) {
+  parser.set_help_flag();
+  parser.allow_extras();
+  parser.require_subcommand(0, 1);
+  for (const Option& option : allOptions()) {
+    if (!isPositional(option)) declare(parser, option);
+  }
+  for (const Command* command : allCommands()) {
+    CLI::App& subcommand = *parser.add_subcommand(std::string(command->name));
+    for (const std::string_view name : command->options) declare(subcommand, *findOption(name));
+  }
+}
+
+bool looksLikeAnOption(const std::string& argument) {
+  return argument.size() > 1 && argument.front() == '-' && (argument[1] < '0' || argument[1] > '9');
+}
+
 [[noreturn]] void refuse(const std::string& extra, const Command& command, bool commandWasNamed) {
-  if (extra.starts_with("--")) {
+  if (looksLikeAnOption(extra)) {
     std::vector<std::string> options;
     for (const auto name : command.options) options.push_back("--" + std::string(name));
     throw BadInput(quote(extra) + " is not an option of " + std::string(command.name) + "; nearest: " +
@@ -39,7 +60,7 @@ void declare(CLI::App& parser, const Command& command) {
                    "; what it takes: velmora " + std::string(command.name) + " --help");
   std::string names;
   for (const Command* known : allCommands()) names += (names.empty() ? "" : ", ") + std::string(known->name);
-  throw BadInput(quote(extra) + " is not a command; accepted: " + names);
+  throw BadInput(quote(extra) + " is not a command; accepted: " + names + "; more: velmora --help");
 }
 
 /// What was given to each option, by its name, before and after the command.
@@ -58,7 +79,7 @@ void readOption(const std::string& name, const std::vector<std::string>& values,
   const Option& option = *findOption(name);
   if (option.isSwitch() && values.front() != "true") throw BadInput("--" + name + " takes no value");
   if (!option.isSwitch() && values.size() > 1) throw BadInput("--" + name + " is given more than once");
-  readOptionText(option, values.front(), request);
+  readOptionText(option, name == command.positional ? name : "--" + name, values.front(), request);
 }
 
 /// In the order in which the parser takes them, the last first; a number that begins with its decimal point
@@ -75,24 +96,20 @@ std::vector<std::string> parserArguments(const std::vector<std::string>& argumen
 
 Request requestFromArguments(const std::vector<std::string>& arguments) {
   CLI::App parser;
-  parser.set_help_flag();
-  parser.require_subcommand(0, 1);
-  declare(parser, *allCommands().front());
-  for (const Command* command : allCommands())
-    declare(*parser.add_subcommand(std::string(command->name)), *command);
+  declareAll(parser);
   try {
     parser.parse(parserArguments(arguments));
     const auto named = parser.get_subcommands();
     Request request;
     request.command = named.empty() ? allCommands().front() : findCommand(named.front()->get_name());
-    const auto extras = parser.remaining(true);
-    if (!extras.empty()) refuse(extras.front(), *request.command, !named.empty());
     Values values;
     collect(parser, values);
     if (!named.empty()) collect(*named.front(), values);
     for (const auto& [name, given] : values) {
       if (!given.empty()) readOption(name, given, request);
     }
+    const auto extras = parser.remaining(true);
+    if (!extras.empty()) refuse(extras.front(), *request.command, !named.empty());
     return request;
   } catch (const CLI::ArgumentMismatch&) {
     throw BadInput(quote(arguments.back()) + " needs a value");

@@ -174,7 +174,8 @@ std::vector<Option> makeOptions() {
       {"json", "", "answer in JSON", "", Switch([](R& r) { r.json = true; }), onlyOnCommandLine},
       {"color", "WHEN", "bold headings and color: auto (default), always or never", "auto, always or never",
        Text(readColor), onlyOnCommandLine},
-      {"help", "", "say what is accepted", "", Switch([](R& r) { r.help = true; }), onlyOnCommandLine},
+      {"help", "", "say what is accepted (-h for short)", "", Switch([](R& r) { r.help = true; }),
+       onlyOnCommandLine, 'h'},
       {"version", "", "say which version this is", "", Switch([](R& r) { r.version = true; }),
        onlyOnCommandLine},
   };
@@ -231,8 +232,9 @@ const Option* findOption(std::string_view name) {
   return found == options.end() ? nullptr : &*found;
 }
 
-void readOptionText(const Option& option, const std::string& value, Request& request) {
-  reading(option, "--" + std::string(option.name), value, [&] {
+void readOptionText(const Option& option, const std::string& label, const std::string& value,
+                    Request& request) {
+  reading(option, label, value, [&] {
     if (const auto* turnOn = std::get_if<Option::Switch>(&option.read)) return (*turnOn)(request);
     readText(option, value, request);
   });

@@ -46,8 +46,9 @@ Value oneOf(const std::string& text, const std::vector<std::pair<std::string_vie
   throw BadInput("is not known");
 }
 
-/// Reads a value from the command line.
-void readOptionText(const Option& option, const std::string& value, Request& request);
+/// Reads a value from the command line; `label` names it in a message.
+void readOptionText(const Option& option, const std::string& label, const std::string& value,
+                    Request& request);
 
 /// Reads a value from a batch: a JSON number, a text, or a yes/no for a switch.
 void readOptionJson(const Option& option, const Json& value, Request& request);

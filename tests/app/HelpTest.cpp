@@ -39,6 +39,11 @@ TEST_F(HelpTest, EveryOptionOfACommandExists) {
   }
 }
 
+TEST_F(HelpTest, HasAShortSpelling) {
+  EXPECT_EQ(answer({"-h"}), answer({"--help"}));
+  EXPECT_EQ(answer({"month", "-h"}), answer({"month", "--help"}));
+}
+
 TEST_F(HelpTest, TheVersionIsTheLibrarys) {
   EXPECT_EQ(answer({"--version"}), std::string("velmora ") + VelmoraVersionString + "\n");
 }

@@ -111,5 +111,10 @@ TEST_F(PositionCommandTest, ABodyOnTheHorizonIsNotBelowIt) {
   EXPECT_EQ(positionText(position), "0.1° below the horizon, E");
 }
 
+TEST_F(PositionCommandTest, OptionsMayStandInFrontOfTheCommand) {
+  EXPECT_EQ(answer({"--body", "sun", "--city", "Oslo", "position"}),
+            answer({"position", "--body", "sun", "--city", "Oslo"}));
+}
+
 }  // namespace
 }  // namespace velmora::app
