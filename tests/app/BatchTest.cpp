@@ -50,7 +50,7 @@ TEST_F(BatchTest, EachCommandAnswersAsOnTheCommandLine) {
 }
 
 TEST_F(BatchTest, PhaseCommandsAnswerAsOnTheCommandLine) {
-  const auto list = answers(R"({"op": "month", "month": "2024-03", "city": "Oslo", "clock": "24h"})"
+  const auto list = answers(R"({"op": "month", "month": "2024-03", "city": "Oslo", "24h": true})"
                             "\n"
                             R"({"op": "year", "year": 2024, "tz": "Asia/Tokyo", "locale": "ja_JP"})"
                             "\n"
@@ -107,7 +107,9 @@ TEST_F(BatchTest, BadLinesSayWhatIsWrongAndTheStreamGoesOn) {
       {R"({"op": "position", "colour": "red"})", "'colour' is not an option of position"},
       {R"({"op": "position", "twilight": "civil"})", "'twilight' is not an option of position"},
       {R"({"op": "position", "json": true})", "'json' is not an option of position"},
-      {R"({"op": "position", "24h": true})", "'24h' is not an option of position"},
+      {R"({"op": "position", "color": "never"})", "'color' is not an option of position"},
+      {R"({"op": "position", "24h": "yes"})", "24h is neither true nor false"},
+      {R"({"op": "position", "24h": true, "clock": "12h"})", "contradicts the clock chosen before"},
       {R"({"op": "position", "lat": "60"})", "lat '60' is not a number"},
       {R"({"op": "position", "lat": 1e999, "lon": 1})", "number out of range"},
       {R"({"op": "position", "lat": 123456789012345678901234567890, "lon": 1})", "is out of range"},
