@@ -1,36 +1,50 @@
 #include <app/Eclipses.h>
 
+#include <algorithm>
+
 #include <app/Days.h>
 #include <app/Errors.h>
+#include <app/Positions.h>
 #include <app/request/ValueTexts.h>
 #include <velmora/service/MoonPhaseData.h>
 
 namespace velmora::app {
 namespace {
 
-/// The service at the place, with the catalogue read.
-MoonPhaseData& serviceAt(const Place& place) {
+constexpr std::chrono::hours oneDay{24};
+
+/// The catalogue of the whole Earth.
+const MoonPhaseData::Eclipses& catalogue() {
   MoonPhaseData& service = MoonPhaseData::sharedInstance();
-  service.SetSelectedLocation(std::make_shared<GeoLocationData>(place.location));
   if (!service.eventsData()) service.loadEventsFromFile();
   if (!service.eventsData() || service.eventsData()->empty())
     throw Failure("the catalogue of eclipses cannot be read");
-  return service;
+  return *service.eventsData();
+}
+
+/// By the altitude at its instant: the service's query goes by the minutes of rise and set, and so knows no
+/// body that stays up all day.
+bool isVisible(const EclipseInfo& eclipse, const Place& place) {
+  const Body body = eclipse.isLunarEvent ? Body::moon : Body::sun;
+  return isRisen(positionAt(eclipse.datetime, body, place).position, body);
 }
 
 }  // namespace
 
 std::shared_ptr<const EclipseInfo> visibleEclipse(CivilDate day, const Place& place) {
   const Instant noon = instantOn(day, std::chrono::hours(12), place.zone);
-  return serviceAt(place).eventsOnDate(noon, place.zone);
+  const auto& eclipses = catalogue();
+  const auto end = eclipses.upper_bound(noon + oneDay);
+  const auto found = std::find_if(eclipses.lower_bound(noon - oneDay), end, [&](const auto& entry) {
+    return dateAt(entry.first, place.zone) == day && isVisible(*entry.second, place);
+  });
+  return found == end ? nullptr : found->second;
 }
 
 std::vector<SeenEclipse> eclipsesOfYear(std::chrono::year year, const Place& place) {
-  MoonPhaseData& service = serviceAt(place);
   std::vector<SeenEclipse> eclipses;
-  for (const auto& [instant, eclipse] : *service.eventsData()) {
-    if (dateAt(instant, place.zone).year() != year) continue;
-    eclipses.push_back({eclipse, service.eventsOnDate(instant, place.zone) == eclipse});
+  for (const auto& [instant, eclipse] : catalogue()) {
+    if (dateAt(instant, place.zone).year() == year) eclipses.push_back({eclipse, isVisible(*eclipse, place)});
   }
   return eclipses;
 }
@@ -42,6 +56,9 @@ Json eclipseJson(const EclipseInfo* eclipse) {
           {"datetime", instantText(eclipse->datetime)},
           {"isLunarEvent", eclipse->isLunarEvent}};
 }
+
+const char* const shadowNote =
+    "Whether the Moon's shadow reaches the place in a solar eclipse is not computed.\n";
 
 std::string eclipseTitle(const EclipseInfo& eclipse) { return eclipse.title.value_or(eclipse.key); }
 

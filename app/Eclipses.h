@@ -9,13 +9,14 @@
 
 namespace velmora::app {
 
-/// An eclipse of the catalogue, and whether what is eclipsed is up at the place then.
+/// An eclipse of the catalogue, and whether the eclipsed Sun or Moon is up at the place at its instant. Where
+/// the Moon's shadow falls is not computed.
 struct SeenEclipse {
   std::shared_ptr<const EclipseInfo> eclipse;
   bool isVisible;
 };
 
-/// The eclipse that is visible at the place on the day; none if there is none. Throws Failure if the
+/// The earliest eclipse of the day that is visible at the place; none if there is none. Throws Failure if the
 /// catalogue cannot be read.
 std::shared_ptr<const EclipseInfo> visibleEclipse(CivilDate day, const Place& place);
 
@@ -27,5 +28,8 @@ Json eclipseJson(const EclipseInfo* eclipse);
 
 /// "Total Solar Eclipse" in the user's language; the bare code where it is not known.
 std::string eclipseTitle(const EclipseInfo& eclipse);
+
+/// What "visible" leaves open of a solar eclipse, a line for people.
+extern const char* const shadowNote;
 
 }  // namespace velmora::app

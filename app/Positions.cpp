@@ -11,6 +11,11 @@
 namespace velmora::app {
 namespace {
 
+// The centre's altitude in degrees at which a body counts as risen: of the Sun less refraction and
+// semi-diameter, of the Moon with its parallax besides.
+constexpr double sunriseAltitude = -0.833;
+constexpr double moonriseAltitude = 0.1333;
+
 /// One decimal and a degree sign, without the sign of a zero.
 std::string degreesText(double degrees) {
   const double tenths = std::round(degrees * 10) / 10;
@@ -34,6 +39,10 @@ TimedPosition positionAt(Instant instant, Body body, const Place& place) {
   const auto compute =
       body == Body::sun ? RiseAndSetCalc::ComputeSunPosition : RiseAndSetCalc::ComputeMoonPosition;
   return {instant, compute(instant, place.location, offset)};
+}
+
+bool isRisen(const PositionData& position, Body body) {
+  return position.altitude > (body == Body::sun ? sunriseAltitude : moonriseAltitude);
 }
 
 Json positionJson(const TimedPosition& sample) {

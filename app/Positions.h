@@ -18,6 +18,9 @@ struct TimedPosition {
 /// Where the body stands at the instant, by the zone's offset then.
 TimedPosition positionAt(Instant instant, Body body, const Place& place);
 
+/// Whether a body at that altitude counts as risen, by the rule of rise and set.
+bool isRisen(const PositionData& position, Body body);
+
 /// The instant and the record's properties by their names.
 Json positionJson(const TimedPosition& sample);
 

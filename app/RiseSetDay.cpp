@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include <app/Days.h>
+#include <app/Positions.h>
 #include <app/RequestScope.h>
 #include <app/request/ValueTexts.h>
 #include <velmora/astronomy/RiseAndSetCalc.h>
@@ -12,18 +13,12 @@ namespace {
 
 using std::chrono::hours;
 
-// The centre's altitude in degrees at which a body counts as risen: of the Sun less refraction and
-// semi-diameter, of the Moon with its parallax besides.
-constexpr double sunriseAltitude = -0.833;
-constexpr double moonriseAltitude = 0.1333;
-
 constexpr int minutesPerDay = 24 * 60;
 
 /// Where a body is for most of a day, which also decides the days on which it only grazes the horizon.
-AllDay mostly(const std::vector<PositionData>& hourly, double risenAltitude) {
-  const auto up = std::count_if(hourly.begin(), hourly.end(), [risenAltitude](const PositionData& sample) {
-    return sample.altitude > risenAltitude;
-  });
+AllDay mostly(const std::vector<PositionData>& hourly, Body body) {
+  const auto up = std::count_if(hourly.begin(), hourly.end(),
+                                [body](const PositionData& sample) { return isRisen(sample, body); });
   return 2 * static_cast<std::size_t>(up) > hourly.size() ? AllDay::up : AllDay::down;
 }
 
@@ -35,7 +30,7 @@ std::optional<AllDay> sunAllDay(const RiseSetDay& day, const Place& place) {
   const Instant start = instantOn(day.date, hours(0), place.zone);
   return mostly(
       RiseAndSetCalc::Get24HourSunPositionsForDate(start, place.location, place.zone.secondsFromGMT(start)),
-      sunriseAltitude);
+      Body::sun);
 }
 
 std::optional<AllDay> moonAllDay(const RiseSetDay& day, const Place& place) {
@@ -43,7 +38,7 @@ std::optional<AllDay> moonAllDay(const RiseSetDay& day, const Place& place) {
   const Instant morning = day.record.date;
   return mostly(RiseAndSetCalc::Get24HourMoonPositionsForDate(morning, place.location,
                                                               place.zone.secondsFromGMT(morning)),
-                moonriseAltitude);
+                Body::moon);
 }
 
 Json allDayJson(std::optional<AllDay> where) {

@@ -11,15 +11,17 @@ namespace {
 
 Json json(const Query& query) { return eclipseJson(visibleEclipse(coveredDay(query), query.place).get()); }
 
+std::string described(const EclipseInfo& eclipse, const Query& query) {
+  return eclipseTitle(eclipse) + "\nGreatest at " +
+         localText(eclipse.datetime, query.place.zone, query.use24HourClock) + "\n" +
+         (eclipse.isLunarEvent ? "" : shadowNote);
+}
+
 std::string text(const Query& query) {
   const CivilDate day = coveredDay(query);
   const auto eclipse = visibleEclipse(day, query.place);
-  const std::string date = englishDate(day, "EEEE d MMMM yyyy");
-  const std::string answer = eclipse
-                                 ? eclipseTitle(*eclipse) + "\nGreatest at " +
-                                       localText(eclipse->datetime, query.place.zone, query.use24HourClock)
-                                 : "No eclipse is visible from here on this day.";
-  return query.place.heading() + date + "\n\n" + answer + "\n";
+  return query.place.heading() + englishDate(day, "EEEE d MMMM yyyy") + "\n\n" +
+         (eclipse ? described(*eclipse, query) : "No eclipse is visible from here on this day.\n");
 }
 
 }  // namespace

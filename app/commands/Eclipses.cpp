@@ -29,7 +29,7 @@ std::string text(const Query& query) {
                isVisible ? "visible" : "below the horizon", eclipseTitle(*eclipse)});
   }
   return query.place.heading() + "\n" + table.text(query.boldHeadings) +
-         "\nVisible is an eclipse at whose height the eclipsed Sun or Moon is above the horizon.\n";
+         "\nVisible: at its height the eclipsed Sun or Moon is above the horizon.\n" + shadowNote;
 }
 
 }  // namespace

@@ -1,4 +1,6 @@
+#include <velmora/foundation/GeoLocationData.h>
 #include <velmora/platform/resources/Bundle.h>
+#include <velmora/service/MoonPhaseData.h>
 
 #include "AppTest.h"
 
@@ -36,6 +38,14 @@ TEST_F(EclipseCommandTest, IsSeenOnlyFromWhereTheEclipsedBodyIsUp) {
   EXPECT_EQ(keyOn("2023-10-14", albuquerque), "ASE");
 }
 
+TEST_F(EclipseCommandTest, IsSeenWhereTheEclipsedBodyStaysUpAllDay) {
+  EXPECT_EQ(keyOn("2021-06-10", {"--city", "Resolute"}), "ASE");    // the midnight Sun
+  EXPECT_EQ(keyOn("2000-01-20", {"--city", "Resolute"}), "TLE");    // a Moon that does not set
+  EXPECT_EQ(keyOn("2021-12-04", {"--city", "Resolute"}), nullptr);  // the polar night
+  EXPECT_EQ(keyOn("2021-12-04", {"--city", "McMurdo"}), "TSE");
+  EXPECT_EQ(keyOn("2017-02-11", {"--city", "McMurdo"}), nullptr);
+}
+
 TEST_F(EclipseCommandTest, NewYorksEclipseOfMarch2025FallsAfterMidnight) {
   EXPECT_EQ(keyOn("2025-03-13", {"--city", "New York"}), nullptr);
   EXPECT_EQ(keyOn("2025-03-14", {"--city", "New York"}), "TLE");
@@ -53,6 +63,10 @@ TEST_F(EclipseCommandTest, ReadsAsASentence) {
   EXPECT_NE(answer({"eclipse", "--city", "New York", "--date", "2025-03-13"})
                 .find("No eclipse is visible from here on this day.\n"),
             std::string::npos);
+  EXPECT_TRUE(
+      answer({"eclipse", "--city", "Chicago", "--date", "2024-04-08", "--24h"})
+          .ends_with("\n\nTotal Solar Eclipse\nGreatest at 2024-04-08 13:17\n"
+                     "Whether the Moon's shadow reaches the place in a solar eclipse is not computed.\n"));
 }
 
 TEST_F(EclipseCommandTest, TitlesAreInTheLanguageOfTheUser) {
@@ -107,6 +121,21 @@ TEST_F(EclipsesCommandTest, TheVisibleOnesAreThoseOfTheirDays) {
   }
 }
 
+TEST_F(EclipsesCommandTest, AreVisibleAsTheServiceHasItWhereTheSunRisesDailyAndClocksNeverChange) {
+  auto place = std::make_shared<GeoLocationData>();
+  place->SetLocation(-1.28, 36.82, std::nullopt, "Africa/Nairobi", 0, false);
+  MoonPhaseData service;
+  service.SetSelectedLocation(place);
+  for (int year = 2000; year <= 2040; ++year) {
+    for (const Json& eclipse : json({"eclipses", std::to_string(year), "--lat", "-1.28", "--lon", "36.82",
+                                     "--tz", "Africa/Nairobi"})) {
+      const auto time = eclipse["datetime"].get<std::string>();
+      const auto seen = service.eventsOnDate(instant(time.c_str()), *place->timezone);
+      EXPECT_EQ(eclipse["isVisible"], seen != nullptr) << time;
+    }
+  }
+}
+
 TEST_F(EclipsesCommandTest, TheYearIsThatOfThePlace) {
   // The partial lunar eclipse of 31 December 2009, 19:23 UTC, falls into the next year in Japan.
   const auto keys = [](const char* year, const char* city) {
@@ -135,7 +164,8 @@ TEST_F(EclipsesCommandTest, ReadAsATable) {
             "2024-04-08 13:17  visible    Total Solar Eclipse\n"
             "2024-09-17 21:44  visible    Partial Lunar Eclipse\n"
             "2024-10-02 13:45  visible    Annular Solar Eclipse\n"
-            "\nVisible is an eclipse at whose height the eclipsed Sun or Moon is above the horizon.\n");
+            "\nVisible: at its height the eclipsed Sun or Moon is above the horizon.\n"
+            "Whether the Moon's shadow reaches the place in a solar eclipse is not computed.\n");
   EXPECT_NE(answer({"eclipses", "2024", "--city", "Sydney"}).find("below the horizon  Total Solar Eclipse"),
             std::string::npos);
 }
