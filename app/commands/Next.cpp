@@ -40,7 +40,7 @@ std::string text(const Query& query) {
                phaseName(event.phase)});
   }
   constexpr std::size_t all = 4;
-  return query.place.heading() + "\n" + table.text(query.boldHeadings) +
+  return query.place.heading() + "\n" + (events.empty() ? "" : table.text(query.boldHeadings)) +
          (events.size() < all ? "The tables end with 2040.\n" : "");
 }
 

@@ -48,6 +48,7 @@ TEST_F(NextCommandTest, EndsWithTheTables) {
   EXPECT_EQ(next("2040-12-31T00:00:00Z"), Json::array());
   const std::string text = answer({"next", "--now", "2040-12-20T00:00:00Z"});
   EXPECT_TRUE(text.ends_with("\nThe tables end with 2040.\n")) << text;
+  EXPECT_TRUE(answer({"next", "--now", "2040-12-31T00:00:00Z"}).ends_with("\n\nThe tables end with 2040.\n"));
 }
 
 TEST_F(NextCommandTest, SaysHowManyDaysAway) {
