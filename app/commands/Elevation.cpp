@@ -1,5 +1,6 @@
 #include <app/commands/Elevation.h>
 
+#include <algorithm>
 #include <cmath>
 
 #include <app/Days.h>
@@ -13,9 +14,9 @@ namespace {
 
 constexpr double hoursPerDay = 24;
 constexpr double secondsPerHour = 3600;
-constexpr const char* nothingFound =
-    "None found. The search looks into the hours of rise and set; higher or lower\n"
-    "elevations are found only where a whole hour happens to fall on them.\n";
+constexpr const char* limitsOfTheSearch =
+    "The search looks into the hours of rise and set; higher or lower elevations\n"
+    "are found only where a whole hour happens to fall on them.\n";
 constexpr double rounding = 1e-9;      // hours; readings that differ by less are the same
 constexpr double hitTolerance = 0.05;  // degrees; how near to the elevation a sample counts as an event
 
@@ -77,11 +78,20 @@ Json json(const Query& query) {
   return samples;
 }
 
+/// Whether both crossings of a usual day are there, up and down.
+bool hasBothCrossings(const std::vector<TimedPosition>& samples, double elevation) {
+  return std::count_if(samples.begin(), samples.end(), [elevation](const TimedPosition& sample) {
+           return std::abs(sample.position.altitude - elevation) <= hitTolerance;
+         }) >= 2;
+}
+
 std::string text(const Query& query) {
   const auto samples = answer(query);
   const std::string title =
       bodyTitle(query.request.body) + " at an elevation of " + Json(*query.request.degrees).dump() + "°\n\n";
-  return query.place.heading() + title + (samples.empty() ? nothingFound : positionTable(samples, query));
+  const std::string found = samples.empty() ? "None found.\n" : positionTable(samples, query);
+  return query.place.heading() + title + found +
+         (hasBothCrossings(samples, *query.request.degrees) ? "" : std::string("\n") + limitsOfTheSearch);
 }
 
 }  // namespace

@@ -82,8 +82,11 @@ TEST_F(ElevationCommandTest, PeopleReadTheEventsOrThatThereAreNone) {
   EXPECT_EQ(lines[2], "Sun at an elevation of 0.0°");
   ASSERT_EQ(lines.size(), 7U);
   EXPECT_EQ(lines[5].substr(16, 7), "  0.0°");
+  const std::string one = answer({"elevation", "-6", "--body", "sun", "--now", "2024-06-20T12:00:00Z"});
+  EXPECT_NE(one.find("-6.0°"), std::string::npos);
+  EXPECT_NE(one.find("\nThe search looks into the hours of rise and set;"), std::string::npos);
   const std::string none = answer({"elevation", "60", "--body", "sun", "--city", "Longyearbyen"});
-  EXPECT_NE(none.find("None found."), std::string::npos);
+  EXPECT_NE(none.find("\n\nNone found.\n\nThe search looks"), std::string::npos);
   for (const std::string& line : linesOf(none)) EXPECT_LE(charactersOf(line), 80U);
 }
 
