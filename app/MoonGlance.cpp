@@ -36,6 +36,11 @@ Json instantJson(const std::optional<PhaseEvent>& event) {
 
 std::string percentText(double fraction) { return std::to_string(std::lround(100 * fraction)) + "%"; }
 
+std::string ageText(std::optional<std::int64_t> age) {
+  return age ? "day " + std::to_string(*age) + " of the lunation"
+             : "from before 2000, where the tables begin";
+}
+
 std::string eventText(const std::optional<PhaseEvent>& event, const Query& query) {
   return event ? phaseTime(*event, query) : "after 2040, where the tables end";
 }
@@ -55,13 +60,13 @@ std::vector<std::string> factLines(const MoonGlance& glance, const Query& query)
   TextTable::Row fullMoon{phaseName(kFullMoon), eventText(glance.fullMoon, query)};
   if (comesFirst(glance.fullMoon, glance.newMoon)) std::swap(newMoon, fullMoon);
 
+  const ShownPhase shown = shownPhase(glance.day, glance.illumination);
   TextTable facts({"Lit", percentText(glance.illumination.fraction)});
-  facts.add({"Age", "day " + std::to_string(glance.day.moonAge) + " of the lunation"});
+  facts.add({"Age", ageText(shown.age)});
   facts.add(newMoon);
   facts.add(fullMoon);
   facts.add({"Eclipse", eclipseText(glance.eclipse.get(), query)});
-  std::istringstream text(heading(phaseName(glance.day.phase), query.boldHeadings) + "\n" +
-                          facts.text(false));
+  std::istringstream text(heading(phaseName(shown.phase), query.boldHeadings) + "\n" + facts.text(false));
   std::vector<std::string> lines;
   for (std::string line; std::getline(text, line);) lines.push_back(line);
   return lines;

@@ -5,11 +5,15 @@
 #include <app/text/EnglishDate.h>
 #include <app/text/PhaseText.h>
 #include <velmora/foundation/DateHelper.h>
+#include <velmora/phases/Phase.h>
 
 namespace velmora::app {
 namespace {
 
 using std::chrono::minutes;
+
+// The age that a record counts without a new moon to count from is longer.
+constexpr std::int64_t greatestAge = 31;
 
 unsigned dayOfMonth(CivilDate date) { return static_cast<unsigned>(date.day()); }
 
@@ -18,6 +22,12 @@ int clockMinutes(Instant instant, const TimeZone& zone) {
   const LocalTime local = zone.localTime(instant);
   return static_cast<int>(
       std::chrono::floor<minutes>(local - std::chrono::floor<std::chrono::days>(local)).count());
+}
+
+std::int64_t intermediatePhase(const Illumination& illumination) {
+  const bool isCrescent = illumination.fraction < 0.5;
+  if (illumination.isWaxing) return isCrescent ? kWaxingCrescent : kWaxingGibbous;
+  return isCrescent ? kWaningCrescent : kWaningGibbous;
 }
 
 }  // namespace
@@ -44,6 +54,11 @@ Json datedPhaseEventsJson(const PhaseEvents& events, const Query& query) {
 
 std::string phaseGlyphAt(std::int64_t phase, const Place& place) {
   return phaseGlyph(phase, place.location.latitude < 0);
+}
+
+ShownPhase shownPhase(const PhaseItem& record, const Illumination& illumination) {
+  if (record.moonAge > greatestAge) return {intermediatePhase(illumination), std::nullopt};
+  return {record.phase, record.moonAge};
 }
 
 std::string phaseClock(Instant instant, const Query& query) {

@@ -1,7 +1,11 @@
 #pragma once
 
+#include <optional>
+
+#include <app/Illumination.h>
 #include <app/PhaseYear.h>
 #include <app/text/TextTable.h>
+#include <velmora/phases/PhaseItem.h>
 
 namespace velmora::app {
 
@@ -13,6 +17,14 @@ Json datedPhaseEventsJson(const PhaseEvents& events, const Query& query);
 
 /// "🌕", as seen from the place.
 std::string phaseGlyphAt(std::int64_t phase, const Place& place);
+
+/// What people read of a day, as far as its record says it. The first days of the tables, before their first
+/// new moon, have no age, and their phase is then that of how the Moon is lit.
+struct ShownPhase {
+  std::int64_t phase;
+  std::optional<std::int64_t> age;
+};
+ShownPhase shownPhase(const PhaseItem& record, const Illumination& illumination);
 
 /// The time of day at the place.
 std::string phaseClock(Instant instant, const Query& query);

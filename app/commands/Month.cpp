@@ -72,10 +72,13 @@ Json json(const Query& query) {
           {"events", events}};
 }
 
-/// The lit share at the day's event, which a quarter's half belongs to, else at noon.
-std::string litText(const MonthDay& day, const TimeZone& zone) {
-  const Instant instant = day.record.localDate.value_or(instantOn(day.date, hours(12), zone));
-  return rightAligned(std::lround(100 * illuminationAt(instant).fraction), 3) + "%";
+/// At the day's event, which a quarter's half belongs to, else at noon.
+Illumination illuminationOf(const MonthDay& day, const TimeZone& zone) {
+  return illuminationAt(day.record.localDate.value_or(instantOn(day.date, hours(12), zone)));
+}
+
+std::string litText(const Illumination& illumination) {
+  return rightAligned(std::lround(100 * illumination.fraction), 3) + "%";
 }
 
 std::string clockOf(const MonthDay& day, const Query& query) {
@@ -88,10 +91,11 @@ std::string text(const Query& query) {
   const Month month = answer(query);
   const CivilDate today = dayOf(query);
   for (const MonthDay& day : month.days) {
-    const PhaseItem& record = day.record;
-    table.add({phaseGlyphAt(record.phase, query.place), phaseDay(day.date), litText(day, query.place.zone),
-               rightAligned(record.moonAge, 3), clockOf(day, query),
-               phaseName(record.phase) + (day.date == today ? "  ← today" : "")});
+    const Illumination illumination = illuminationOf(day, query.place.zone);
+    const ShownPhase shown = shownPhase(day.record, illumination);
+    table.add({phaseGlyphAt(shown.phase, query.place), phaseDay(day.date), litText(illumination),
+               shown.age ? rightAligned(*shown.age, 3) : "", clockOf(day, query),
+               phaseName(shown.phase) + (day.date == today ? "  ← today" : "")});
   }
   return query.place.heading() + englishDate(month.days.front().date, "MMMM yyyy") + "\n\n" +
          table.text(query.boldHeadings);

@@ -137,6 +137,14 @@ TEST_F(MonthCommandTest, RowsReadAsAPersonWouldWriteThem) {
   EXPECT_EQ(lines[29], "🌕  Mon 25  100%   16  00:00  Full Moon");
 }
 
+TEST_F(MonthCommandTest, TheFirstDaysOfTheTablesReadAsTheMoonIsLit) {
+  const auto days = rows({"month", "2000-01", "--tz", "UTC", "--24h"});
+  EXPECT_EQ(days[0], "🌘  Sat  1   23%              Waning Crescent");
+  EXPECT_TRUE(days[4].ends_with("Waning Crescent")) << days[4];
+  EXPECT_EQ(days[5], "🌑  Thu  6    0%    1  18:14  New Moon");
+  EXPECT_EQ(json({"month", "2000-01", "--tz", "UTC"})["days"][0]["moonAge"], 34);  // the record stays
+}
+
 TEST_F(MonthCommandTest, OnlyTodayIsMarked) {
   const auto marked = [](const std::string& month) {
     int count = 0;

@@ -78,6 +78,12 @@ TEST_F(TodayCommandTest, AtTheEndOfTheTablesThereIsNoNextPhase) {
   EXPECT_NE(answer(arguments).find("New Moon   after 2040, where the tables end\n"), std::string::npos);
 }
 
+TEST_F(TodayCommandTest, AtTheBeginningOfTheTablesTheMoonHasNoAge) {
+  const std::string text = answer({"today", "--date", "2000-01-01", "--tz", "UTC"});
+  EXPECT_NE(text.find("Waning Crescent\n"), std::string::npos) << text;
+  EXPECT_NE(text.find("Age        from before 2000, where the tables begin\n"), std::string::npos) << text;
+}
+
 TEST_F(TodayCommandTest, TheSoonerOfNewAndFullMoonComesFirst) {
   const std::string june = answer({"--date", "2024-06-20"}), july = answer({"--date", "2024-06-25"});
   EXPECT_LT(june.find("Full Moon "), june.find("New Moon "));
