@@ -96,12 +96,21 @@ class LocalizedItems : public ServiceTest {
 };
 
 TEST_F(LocalizedItems, HaveFourTextsRewritten) {
-  RiseSetPhaseItem item = itemWith("11:58 PM **", "00:15 AM", "05:48 AM", "12:10 AM **");
+  RiseSetPhaseItem item = itemWith("11:58 PM **", "00:15 AM", "05:48 AM", "08:35 PM");
   service().localizeDateTimeStringsForRiseSetPhaseItem(&item, std::nullopt);
   EXPECT_EQ(item.riseSetData->moonRiseText, "11:58\u202fPM**");
   EXPECT_EQ(item.riseSetData->moonSetText, "12:15\u202fAM");
   EXPECT_EQ(item.riseSetData->sunRiseText, "5:48\u202fAM");
-  EXPECT_EQ(item.riseSetData->sunSetText, "12:10\u202fAM**") << "a sun's mark is kept, too";
+  EXPECT_EQ(item.riseSetData->sunSetText, "8:35\u202fPM");
+}
+
+TEST_F(LocalizedItems, KnowNoMarkOfTheSun) {
+  RiseSetPhaseItem item = itemWith("12:10 AM **", "12:10 AM **", "12:10 AM **", "12:10 AM **");
+  service().localizeDateTimeStringsForRiseSetPhaseItem(&item, std::nullopt);
+  EXPECT_EQ(item.riseSetData->moonRiseText, "12:10\u202fAM**");
+  EXPECT_EQ(item.riseSetData->moonSetText, "12:10\u202fAM**");
+  EXPECT_EQ(item.riseSetData->sunRiseText, "12:10 AM **");
+  EXPECT_EQ(item.riseSetData->sunSetText, "12:10 AM **");
 }
 
 TEST_F(LocalizedItems, KeepTheirOtherTexts) {

@@ -45,4 +45,9 @@ std::string localizedClockText(const std::string& text) {
   return shortTimeText(*minute) + (isMarked ? "**" : "");
 }
 
+std::string localizedUnmarkedText(const std::string& text) {
+  const auto minute = minuteOfDay(text);
+  return minute ? shortTimeText(*minute) : text;
+}
+
 }  // namespace velmora

@@ -9,4 +9,7 @@ namespace velmora {
 /// 24-hour text) is returned as it is.
 std::string localizedClockText(const std::string& text);
 
+/// The same without a mark, for the Sun's texts: one with a mark is no clock time, and returned as it is.
+std::string localizedUnmarkedText(const std::string& text);
+
 }  // namespace velmora

@@ -207,9 +207,9 @@ class MoonPhaseData {
   /// The same a day, from `from` by steps of one calendar day while not later than `to`; the first always.
   std::vector<RiseSetData> getRiseSetDataFrom(Instant from, Instant to) const;
 
-  /// Rewrites the item's four rise and set texts in the user's short time style; a mark for the next day
-  /// stays, glued to the time as "**". Texts that are no 12-hour clock time stay as they are. The zone plays
-  /// no part.
+  /// Rewrites the item's four rise and set texts in the user's short time style; the Moon's mark for the next
+  /// day stays, glued to the time as "**". Texts that are no 12-hour clock time stay as they are, the Sun's
+  /// with a mark among them, by intent. The zone plays no part.
   void localizeDateTimeStringsForRiseSetPhaseItem(RiseSetPhaseItem* item,
                                                   const std::optional<TimeZone>& withTimezone) const;
 

@@ -111,9 +111,8 @@ void MoonPhaseData::localizeDateTimeStringsForRiseSetPhaseItem(RiseSetPhaseItem*
                                                                const std::optional<TimeZone>&) const {
   if (item == nullptr || !item->riseSetData) return;
   RiseSetData& data = *item->riseSetData;
-  for (std::string* text : {&data.moonRiseText, &data.moonSetText, &data.sunRiseText, &data.sunSetText}) {
-    *text = localizedClockText(*text);
-  }
+  for (std::string* text : {&data.moonRiseText, &data.moonSetText}) *text = localizedClockText(*text);
+  for (std::string* text : {&data.sunRiseText, &data.sunSetText}) *text = localizedUnmarkedText(*text);
 }
 
 std::shared_ptr<RiseSetPhaseItem> MoonPhaseData::riseSetItem(const PhaseItem& day, Instant instant,
