@@ -12,7 +12,6 @@
 #include <app/drawing/Hosting.h>
 #include <app/drawing/Title.h>
 #include <velmora/foundation/SettingsModel.h>
-#include <velmora/platform/graphics/ReplacedFile.h>
 #include <velmora/platform/graphics/cairo/CairoCanvas.h>
 #include <velmora/platform/resources/Log.h>
 #include <velmora/platform/ui/Device.h>
@@ -126,13 +125,8 @@ void warnOfUncovered(const CairoCanvas& canvas) {
 }
 
 void write(CairoCanvas& canvas, const std::string& file) {
-  std::optional<PictureError> error;
-  const auto refusal = replaceFile(file, [&](std::ostream& output) {
-    error = canvas.write(output);
-    return !error;
-  });
-  if (error && error->kind != PictureError::Kind::output) throw Failure(error->message);
-  if (refusal) throw Failure("output " + quote(file) + " cannot be written: " + *refusal);
+  if (const auto error = canvas.writeFile(file))
+    throw Failure("output " + quote(file) + ": " + error->message);
 }
 
 }  // namespace

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 
 // Angles of the engine's series; not for other folders.
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 
 // Clock readings that the files of the engine share; not for other folders.
 

@@ -2,7 +2,7 @@
 
 #include <velmora/astronomy/SunAndMoonSeries.h>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 
 // Positions in numbers alone, as the files of the engine share them; not for other folders.
 

@@ -5,7 +5,7 @@
 
 #include <velmora/astronomy/HourlySeries.h>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 
 // The samples of the rise and set search; not for other folders.
 

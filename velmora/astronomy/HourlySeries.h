@@ -5,7 +5,7 @@
 #include <velmora/astronomy/Hours.h>
 #include <velmora/astronomy/SunAndMoonSeries.h>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 
 // The series of the Sun and the Moon hour by hour; not for other folders.
 

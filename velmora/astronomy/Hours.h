@@ -3,7 +3,7 @@
 #include <cmath>
 #include <cstddef>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 
 // Four hours at once; not for other folders.
 

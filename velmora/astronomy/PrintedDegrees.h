@@ -2,7 +2,7 @@
 
 #include <velmora/astronomy/SunAndMoonSeries.h>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 
 // What the printed formulas do to angles on their way from the series to the sky; not for other folders.
 //

@@ -4,7 +4,7 @@
 #include <velmora/astronomy/Hours.h>
 #include <velmora/astronomy/RiseAndSetCalc.h>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 
 // The short series of the Sun and the Moon, as the files of the engine share them; not for other folders.
 // They are written without branches, so that a compiler can work on several hours at once.

@@ -4,7 +4,7 @@
 
 #include <velmora/platform/time/Instant.h>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 
 // What the files of the engine share of time scales; not for other folders.
 

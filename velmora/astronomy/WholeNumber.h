@@ -2,7 +2,7 @@
 
 #include <limits>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 
 /// `value` cut toward zero to the integer type: NaN becomes 0, a value outside the type its nearest end.
 template <class Integer>

@@ -4,7 +4,7 @@
 
 #include <velmora/phases/MoonPhaseCalc.h>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 
 /// Asks for the events of one month after another as seen from a place.
 class MonthQuery {

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 
 /// The ends of a year in the zero-based months of MoonPhaseCalc.
 inline constexpr std::int64_t kJanuary = 0;

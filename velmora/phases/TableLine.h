@@ -6,7 +6,7 @@
 
 #include <velmora/platform/time/Instant.h>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 
 /// One principal phase as a line of a yearly table gives it.
 struct TableEvent {

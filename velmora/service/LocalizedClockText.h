@@ -2,7 +2,7 @@
 
 #include <string>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 
 /// A clock text of the rise/set search ("05:48 AM", "00:15 AM", "11:58 PM **") in the user's own short time
 /// style; the mark of the next day stays, glued to the time as "**". Every other text ("--", "--:--", a

@@ -5,7 +5,7 @@
 
 #include <velmora/platform/time/Calendar.h>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 
 /// The time of a minute of the day, 0 to 1439, in the user's own short time style. Texts are kept as long as
 /// the locale stays the same: a month needs some hundred and fifty of them.

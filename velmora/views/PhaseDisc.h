@@ -1,12 +1,11 @@
 #pragma once
 
+#include <velmora/phases/PhaseItem.h>
+#include <velmora/platform/graphics/Canvas.h>
 #include <velmora/platform/graphics/Color.h>
 #include <velmora/platform/graphics/Geometry.h>
 
-namespace velmora {
-
-class Canvas;
-struct PhaseItem;
+namespace [[gnu::visibility("hidden")]] velmora {
 
 /// The Moon as views draw it: a circle whose lit part is shaped by a day's phase and lit fraction. The views
 /// differ in where the disc lies in the rectangle they are given and in the colour of its dark part.

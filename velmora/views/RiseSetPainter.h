@@ -2,13 +2,12 @@
 
 #include <string>
 
+#include <velmora/astronomy/RiseSetData.h>
 #include <velmora/platform/graphics/Canvas.h>
 #include <velmora/platform/graphics/TextLayout.h>
 #include <velmora/views/RiseSetStrip.h>
 
-namespace velmora {
-
-struct RiseSetData;
+namespace [[gnu::visibility("hidden")]] velmora {
 
 /// Draws a day on its strip of 24 hours, mirrored where the layout runs from right to left.
 class RiseSetPainter {

@@ -5,7 +5,7 @@
 
 #include <velmora/platform/graphics/Geometry.h>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 
 /// When the Moon is up in the course of a day, in minutes after midnight.
 struct MoonHours {

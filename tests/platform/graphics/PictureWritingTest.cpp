@@ -291,13 +291,13 @@ TEST_F(PictureFile, AMissingFolderIsAnErrorThatSaysSo) {
   const auto failure = canvas.writeFile(path);
   ASSERT_TRUE(failure);
   EXPECT_EQ(failure->kind, PictureError::Kind::output);
-  EXPECT_EQ(failure->message, "cannot write '" + path.string() + "': No such file or directory");
+  EXPECT_EQ(failure->message, "the picture cannot be written: No such file or directory");
 }
 
 TEST_F(PictureFile, AFolderInItsPlaceIsAnError) {
   const auto failure = canvas.writeFile(_folder);
   ASSERT_TRUE(failure);
-  EXPECT_EQ(failure->message, "cannot write '" + _folder.string() + "': Is a directory");
+  EXPECT_EQ(failure->message, "the picture cannot be written: Is a directory");
   EXPECT_TRUE(fs::is_directory(_folder));
 }
 
@@ -310,7 +310,7 @@ TEST_F(PictureFile, AFolderThatCannotBeWrittenToIsAnError) {
 TEST_F(PictureFile, AFullDeviceIsAnErrorAndStaysADevice) {
   const auto failure = canvas.writeFile("/dev/full");
   ASSERT_TRUE(failure);
-  EXPECT_EQ(failure->message, "cannot write '/dev/full': No space left on device");
+  EXPECT_EQ(failure->message, "the picture cannot be written: No space left on device");
   EXPECT_TRUE(fs::is_character_file("/dev/full"));
 }
 

@@ -16,7 +16,11 @@ class ResourceLocation : public testing::Test {
   void TearDown() override { unsetenv(kVariable); }
 
   /// The places with an installed folder that lies under no prefix of this program.
-  static ResourcePlaces uninstalled() { return {kVariable, "no/such/folder", "/source/resources"}; }
+  static ResourcePlaces uninstalled() { return {kVariable, "no/such/folder"}; }
+
+  static std::filesystem::path besideTheCode() {
+    return codeDirectories().at(0).parent_path() / "no/such/folder";
+  }
 };
 
 TEST_F(ResourceLocation, IsWhereTheEnvironmentSays) {
@@ -26,11 +30,11 @@ TEST_F(ResourceLocation, IsWhereTheEnvironmentSays) {
 
 TEST_F(ResourceLocation, AnEmptyVariableSaysNothing) {
   setenv(kVariable, "", 1);
-  EXPECT_EQ(resourceDirectory(uninstalled()), "/source/resources");
+  EXPECT_EQ(resourceDirectory(uninstalled()), besideTheCode());
 }
 
-TEST_F(ResourceLocation, IsTheSourceTreeWhereNothingIsInstalled) {
-  EXPECT_EQ(resourceDirectory(uninstalled()), "/source/resources");
+TEST_F(ResourceLocation, IsExpectedBesideTheCodeWhereNothingIsInstalled) {
+  EXPECT_EQ(resourceDirectory(uninstalled()), besideTheCode());
 }
 
 TEST_F(ResourceLocation, IsFoundFromWhereTheCodeLies) {
@@ -41,6 +45,9 @@ TEST_F(ResourceLocation, IsFoundFromWhereTheCodeLies) {
   EXPECT_EQ(resourceDirectory(places), code) << "one folder under the prefix, as PREFIX/bin";
   places.installed = prefix.filename() / code.filename();
   EXPECT_EQ(resourceDirectory(places), code) << "two folders under the prefix, as PREFIX/lib/ARCHITECTURE";
+  places.installed = prefix.parent_path().filename() / places.installed;
+  EXPECT_EQ(resourceDirectory(places), code)
+      << "three folders under the prefix, as PREFIX/lib/ARCHITECTURE/APPLICATION";
 }
 
 TEST_F(ResourceLocation, TheEnvironmentStandsBeforeAnInstallation) {

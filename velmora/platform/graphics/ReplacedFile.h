@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 
 /// Writes a file in one step: `write` fills a new file in the same folder, which then takes the place of the
 /// one at the path. On failure, or when `write` answers false, nothing there has changed. What is no ordinary

@@ -14,12 +14,12 @@ namespace velmora {
 /// A cheap value; copies share the texts and pictures read so far. Usable from any thread.
 class Bundle {
  public:
-  /// The library's own resources, identifier "velmora": where VELMORA_RESOURCES says, else as installed, else
-  /// in the source tree.
+  /// The library's own resources, identifier "velmora": where VELMORA_RESOURCES says, else in
+  /// share/velmora/resources under the prefix where the library lies, or else the program.
   static Bundle library();
 
   /// The host application's resources, identifier "main": those it has set, else where
-  /// VELMORA_MAIN_RESOURCES says, else as installed, else in the source tree.
+  /// VELMORA_MAIN_RESOURCES says, else in share/velmora/app likewise.
   static Bundle main();
 
   /// The one of these two with that identifier; none for any other.

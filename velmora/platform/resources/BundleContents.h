@@ -10,10 +10,10 @@
 #include <velmora/platform/resources/Bundle.h>
 #include <velmora/platform/resources/StringTable.h>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 
 /// What the copies of a bundle share. A string table is read once, found or not; a picture until it is found.
-struct Bundle::Contents {
+struct [[gnu::visibility("hidden")]] Bundle::Contents {
   std::string identifier;
   std::filesystem::path directory;
 

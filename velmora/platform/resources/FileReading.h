@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 
 /// The largest resource that is read, in bytes: far above any that ships, so that a wrong file costs little.
 inline constexpr std::size_t kMaximumResourceSize = std::size_t{16} << 20;

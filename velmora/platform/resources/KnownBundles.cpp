@@ -33,16 +33,14 @@ class KnownBundle {
 };
 
 KnownBundle& libraryBundle() {
-  static KnownBundle bundle("velmora", {.environmentVariable = "VELMORA_RESOURCES",
-                                        .installed = VELMORA_INSTALLED_RESOURCES,
-                                        .sourceTree = VELMORA_SOURCE_DIRECTORY "/velmora/resources"});
+  static KnownBundle bundle(
+      "velmora", {.environmentVariable = "VELMORA_RESOURCES", .installed = VELMORA_INSTALLED_RESOURCES});
   return bundle;
 }
 
 KnownBundle& mainBundle() {
   static KnownBundle bundle("main", {.environmentVariable = "VELMORA_MAIN_RESOURCES",
-                                     .installed = VELMORA_INSTALLED_MAIN_RESOURCES,
-                                     .sourceTree = VELMORA_SOURCE_DIRECTORY "/app/resources"});
+                                     .installed = VELMORA_INSTALLED_MAIN_RESOURCES});
   return bundle;
 }
 

@@ -5,7 +5,7 @@
 
 #include <velmora/platform/time/Locale.h>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 
 /// The languages in which a reader with that locale wants a text, most wanted first, as the names of the
 /// language folders: "pt-BR", "pt", "en" for pt_BR. Chinese is told by its script: "zh-Hant" for Taiwan, Hong

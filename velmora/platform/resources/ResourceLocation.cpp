@@ -1,24 +1,27 @@
 #include <velmora/platform/resources/ResourceLocation.h>
 
 #include <cstdlib>
-#include <optional>
 #include <system_error>
 
 namespace velmora {
 namespace {
 
-/// Code lies at most this far under its prefix: PREFIX/lib/ARCHITECTURE.
-constexpr int kMaximumDepthUnderPrefix = 2;
+/// Code lies at most this far under its prefix: PREFIX/lib/ARCHITECTURE/APPLICATION.
+constexpr int kMaximumDepthUnderPrefix = 3;
 
-std::optional<std::filesystem::path> installedDirectory(const std::filesystem::path& installed) {
+/// The installed folder, or where it would lie beside the library's folder.
+std::filesystem::path installedDirectory(const std::filesystem::path& installed) {
+  std::filesystem::path expected;
   for (std::filesystem::path directory : codeDirectories()) {
     for (int depth = 0; depth < kMaximumDepthUnderPrefix; ++depth) {
       directory = directory.parent_path();
+      const std::filesystem::path candidate = directory / installed;
       std::error_code error;
-      if (std::filesystem::is_directory(directory / installed, error)) return directory / installed;
+      if (std::filesystem::is_directory(candidate, error)) return candidate;
+      if (expected.empty()) expected = candidate;
     }
   }
-  return std::nullopt;
+  return expected;
 }
 
 }  // namespace
@@ -26,7 +29,7 @@ std::optional<std::filesystem::path> installedDirectory(const std::filesystem::p
 std::filesystem::path resourceDirectory(const ResourcePlaces& places) {
   const char* named = std::getenv(places.environmentVariable.c_str());
   if (named && *named) return named;
-  return installedDirectory(places.installed).value_or(places.sourceTree);
+  return installedDirectory(places.installed);
 }
 
 }  // namespace velmora

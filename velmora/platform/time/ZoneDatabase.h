@@ -6,7 +6,7 @@
 
 #include <velmora/platform/time/TimeZone.h>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 
 /// What TimeZone needs of the system's zone database; the adapter in cctz/ implements it.
 class ZoneDatabase {

@@ -4,7 +4,7 @@
 #include <optional>
 #include <vector>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 
 /// A sum of variables, each with its coefficient, and a constant. A variable is known by its number.
 struct LinearExpression {

@@ -6,10 +6,9 @@
 
 #include <velmora/platform/ui/ConstraintSolver.h>
 #include <velmora/platform/ui/LayoutConstraint.h>
+#include <velmora/platform/ui/View.h>
 
-namespace velmora {
-
-class View;
+namespace [[gnu::visibility("hidden")]] velmora {
 
 /// Places the subviews of one view. It heeds, the earlier the stronger:
 /// 1. the active equalities between the view and its subviews, in order of activation, then those that each
@@ -19,7 +18,7 @@ class View;
 /// What contradicts something stronger gives way, so every list of constraints has one definite layout. A
 /// subview that no such equality mentions keeps its frame. Equalities with views further down place nothing.
 /// Frames are those without the views' transforms.
-class SubviewLayout {
+class [[gnu::visibility("hidden")]] SubviewLayout {
  public:
   explicit SubviewLayout(View& container);
 

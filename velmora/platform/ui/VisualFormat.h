@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 
 /// What a visual format says, see LayoutConstraint::constraintsWithVisualFormat.
 struct VisualFormat {

@@ -66,7 +66,7 @@ std::optional<PictureError> CairoCanvas::writeFile(const std::filesystem::path& 
   });
   if (failure && failure->kind != PictureError::Kind::output) return failure;
   if (!systemError) return std::nullopt;
-  return PictureError{PictureError::Kind::output, "cannot write '" + path.string() + "': " + *systemError};
+  return PictureError{PictureError::Kind::output, "the picture cannot be written: " + *systemError};
 }
 
 std::vector<std::uint8_t> CairoCanvas::pixels() const {

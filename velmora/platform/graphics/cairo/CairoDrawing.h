@@ -8,11 +8,11 @@
 #include <velmora/platform/graphics/cairo/CairoCanvas.h>
 #include <velmora/platform/graphics/cairo/CairoHandles.h>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 
 /// The state behind a CairoCanvas: the context, what Cairo does not keep itself, and where paint already
 /// lies.
-class CairoCanvas::Drawing {
+class [[gnu::visibility("hidden")]] CairoCanvas::Drawing {
  public:
   struct State {
     enum class Kind { base, save, group };

@@ -7,7 +7,7 @@
 #include <velmora/platform/graphics/cairo/CairoCanvas.h>
 #include <velmora/platform/graphics/cairo/CairoHandles.h>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 
 /// What a picture is drawn on: pixels for a PNG, else a record of the drawing. In an error state when there
 /// is no memory for it.

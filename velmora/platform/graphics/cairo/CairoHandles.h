@@ -4,7 +4,7 @@
 
 #include <memory>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 
 struct CairoDeleter {
   void operator()(cairo_t* context) const { cairo_destroy(context); }

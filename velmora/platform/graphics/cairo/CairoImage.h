@@ -8,7 +8,7 @@
 #include <velmora/platform/graphics/Geometry.h>
 #include <velmora/platform/resources/Image.h>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 
 /// Paints the whole image into the rectangle with the context's operator. It changes the frame and the
 /// source.

@@ -8,7 +8,7 @@
 #include <velmora/platform/graphics/AttributedText.h>
 #include <velmora/platform/graphics/cairo/ShapedLine.h>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 
 /// How glyphs reach a surface.
 enum class GlyphStyle {

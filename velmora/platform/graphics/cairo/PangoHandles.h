@@ -4,7 +4,7 @@
 
 #include <memory>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 
 struct PangoDeleter {
   void operator()(char* text) const { g_free(text); }

@@ -9,7 +9,7 @@
 #include <velmora/platform/graphics/cairo/PangoHandles.h>
 #include <velmora/platform/graphics/cairo/ShapedLine.h>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 
 /// Shapes text with Pango in installed faces. Hinting is off and nothing is rounded, so that a line has the
 /// same proportions at every scale and on every machine. The script of a text decides the face: Inter, else

@@ -8,7 +8,7 @@
 #include <velmora/platform/graphics/TextEngine.h>
 #include <velmora/platform/graphics/cairo/CairoHandles.h>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 
 /// One line of text as glyphs of installed faces, to be measured and drawn at any scale. Colours are no part
 /// of it.

@@ -6,7 +6,7 @@
 #include <velmora/platform/time/DateFormatter.h>
 #include <velmora/platform/time/Locale.h>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 
 /// The locale's own pattern for the two styles; empty if both are none. An overridden clock habit replaces
 /// the time's part of it.

@@ -10,7 +10,7 @@
 
 #include <velmora/platform/time/Locale.h>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 
 inline icu::UnicodeString toIcu(std::string_view utf8) {
   return icu::UnicodeString::fromUTF8(icu::StringPiece(utf8.data(), static_cast<std::int32_t>(utf8.size())));

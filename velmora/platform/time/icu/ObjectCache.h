@@ -4,7 +4,7 @@
 #include <string>
 #include <unordered_map>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 
 /// Objects that are costly to make, each made once under a key and kept. When it is full it starts anew, so
 /// it stays small whatever patterns and locales a process goes through. For one thread: keep it thread_local.
