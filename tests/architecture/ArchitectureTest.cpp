@@ -12,7 +12,7 @@ namespace {
 using Breaches = std::vector<std::string>;
 
 const SourceTree& productTree() {
-  static const SourceTree tree = readSourceTree({"velmora", "app"});
+  static const SourceTree tree = readSourceTree({"velmora", "app", "examples"});
   return tree;
 }
 
@@ -24,15 +24,23 @@ TEST(Architecture, OnlyAdaptersReachThirdPartyHeaders) {
   EXPECT_EQ(thirdPartyOutsideAdapters(productTree()), Breaches{});
 }
 
+TEST(Architecture, ProgramAndExamplesUseInstalledHeadersAlone) {
+  EXPECT_EQ(internalOutsideLibrary(productTree()), Breaches{});
+}
+
 TEST(Architecture, NoFileIsTooLongToHoldInTheHead) {
-  EXPECT_EQ(longFiles(readSourceTree({"velmora", "app", "tests", "bench", "fuzz", "examples", "tools"})),
-            Breaches{});
+  const SourceTree everything =
+      readSourceTree({"velmora", "app", "tests", "bench", "fuzz", "examples", "tools", "cmake"});
+  EXPECT_EQ(longFiles(everything), Breaches{});
 }
 
 TEST(Architecture, TheTreeIsReadWithItsIncludes) {
   EXPECT_GT(productTree().size(), 200U);
   const auto& includes = productTree().at("velmora/astronomy/RiseAndSetCalc.h").includes;
   EXPECT_NE(std::find(includes.begin(), includes.end(), "velmora/platform/time/Instant.h"), includes.end());
+  EXPECT_FALSE(productTree().at("velmora/astronomy/RiseAndSetCalc.h").isInternal);
+  EXPECT_TRUE(productTree().at("velmora/astronomy/Angle.h").isInternal);
+  EXPECT_EQ(productTree().at("examples/CharacterCanvas.cpp").includes.front(), "examples/CharacterCanvas.h");
 }
 
 TEST(ArchitectureRules, AnUpwardIncludeIsABreach) {
@@ -59,6 +67,22 @@ TEST(ArchitectureRules, OnlyTheProgramMayUseTheLibrariesItIsMadeWith) {
                            {"velmora/service/B.cpp", sourceFile("#include <CLI/CLI.hpp>\n")}};
   EXPECT_EQ(thirdPartyOutsideAdapters(tree),
             (Breaches{"app/A.cpp reaches png.h", "velmora/service/B.cpp reaches CLI/CLI.hpp"}));
+}
+
+TEST(ArchitectureRules, ATestsHeaderInTheLibraryIsABreach) {
+  const SourceTree tree = {{"velmora/views/A.h", sourceFile("#include <tests/support/B.h>\n")},
+                           {"tests/views/C.cpp", sourceFile("#include <velmora/views/A.h>\n")}};
+  EXPECT_EQ(upwardIncludes(tree), (Breaches{"velmora/views/A.h includes tests/support/B.h"}));
+}
+
+TEST(ArchitectureRules, AnInternalHeaderInTheProgramIsABreach) {
+  const SourceFile internal = sourceFile("namespace [[gnu::visibility(\"hidden\")]] velmora {\n}\n");
+  const SourceTree tree = {{"velmora/views/Inner.h", internal},
+                           {"velmora/views/A.cpp", sourceFile("#include <velmora/views/Inner.h>\n")},
+                           {"app/B.cpp", sourceFile("#include <velmora/views/Inner.h>\n")},
+                           {"examples/C.cpp", sourceFile("#include <velmora/views/Inner.h>\n")}};
+  EXPECT_EQ(internalOutsideLibrary(tree), (Breaches{"app/B.cpp includes velmora/views/Inner.h",
+                                                    "examples/C.cpp includes velmora/views/Inner.h"}));
 }
 
 TEST(ArchitectureRules, TheFourHundredAndFirstLineIsABreach) {

@@ -16,6 +16,9 @@ namespace {
 
 constexpr int mostLines = 400;
 
+/// How a header that is not installed begins what it declares.
+constexpr const char* hiddenNamespace = R"(namespace [[gnu::visibility("hidden")]])";
+
 /// From the bottom up.
 constexpr std::array layers = {"velmora/platform/time",
                                "velmora/platform/resources",
@@ -27,7 +30,8 @@ constexpr std::array layers = {"velmora/platform/time",
                                "velmora/platform/graphics",
                                "velmora/platform/ui",
                                "velmora/views",
-                               "app"};
+                               "app",
+                               "tests"};
 
 const std::set<std::string> adapters = {"cairo", "cctz", "icu", "libplist", "png", "posix"};
 const std::set<std::string> librariesOfProgram = {"CLI/CLI.hpp", "nlohmann/json.hpp", "unistd.h"};
@@ -45,7 +49,9 @@ bool isAdapter(const std::string& path) {
 }
 
 bool isOfProject(const std::string& include) {
-  return include.starts_with("velmora/") || include.starts_with("app/");
+  constexpr std::array folders = {"velmora/", "app/", "tests/", "examples/"};
+  return std::any_of(folders.begin(), folders.end(),
+                     [&](const char* folder) { return include.starts_with(folder); });
 }
 
 /// Headers of the C++ library have neither folder nor ending.
@@ -65,6 +71,21 @@ std::set<std::string> thirdPartyOf(const std::string& path, const SourceTree& tr
   return reached;
 }
 
+bool isSource(const std::filesystem::path& path) {
+  static const std::set<std::string> endings = {".cmake", ".cpp", ".h", ".py"};
+  return endings.count(path.extension().string()) != 0 || path.filename() == "CMakeLists.txt";
+}
+
+/// An include that names a file beside the including one gets its path from the project's root.
+void resolveNeighbours(SourceTree& tree) {
+  for (auto& [path, file] : tree) {
+    for (std::string& include : file.includes) {
+      const std::string neighbour = (std::filesystem::path(path).parent_path() / include).string();
+      if (tree.count(neighbour) != 0) include = neighbour;
+    }
+  }
+}
+
 }  // namespace
 
 SourceFile sourceFile(const std::string& text) {
@@ -73,6 +94,7 @@ SourceFile sourceFile(const std::string& text) {
   std::istringstream lines(text);
   std::smatch match;
   for (std::string line; std::getline(lines, line); ++file.lineCount) {
+    if (line.starts_with(hiddenNamespace)) file.isInternal = true;
     if (std::regex_match(line, match, include)) file.includes.push_back(match[1]);
   }
   return file;
@@ -83,12 +105,13 @@ SourceTree readSourceTree(const std::vector<std::string>& folders) {
   const std::filesystem::path root = sourceDirectory();
   for (const std::string& folder : folders) {
     for (const auto& entry : std::filesystem::recursive_directory_iterator(root / folder)) {
-      if (entry.path().extension() != ".h" && entry.path().extension() != ".cpp") continue;
+      if (!isSource(entry.path())) continue;
       std::ostringstream text;
       text << std::ifstream(entry.path()).rdbuf();
       tree[entry.path().lexically_relative(root).string()] = sourceFile(text.str());
     }
   }
+  resolveNeighbours(tree);
   return tree;
 }
 
@@ -111,6 +134,19 @@ std::vector<std::string> thirdPartyOutsideAdapters(const SourceTree& tree) {
     for (const std::string& header : thirdPartyOf(path, tree)) {
       const bool isOfProgram = path.starts_with("app/") && librariesOfProgram.count(header) != 0;
       if (!isOfProgram) breaches.push_back(path + " reaches " + header);
+    }
+  }
+  return breaches;
+}
+
+std::vector<std::string> internalOutsideLibrary(const SourceTree& tree) {
+  std::vector<std::string> breaches;
+  for (const auto& [path, file] : tree) {
+    if (!path.starts_with("app/") && !path.starts_with("examples/")) continue;
+    for (const std::string& include : file.includes) {
+      const auto included = tree.find(include);
+      if (included != tree.end() && included->second.isInternal)
+        breaches.push_back(path + " includes " + include);
     }
   }
   return breaches;

@@ -8,8 +8,9 @@ namespace velmora::testing {
 
 /// What a source file says that the rules of the architecture are about.
 struct SourceFile {
-  std::vector<std::string> includes;  ///< as written between the angle brackets
+  std::vector<std::string> includes;  ///< of headers of the project, the path from its root
   int lineCount = 0;
+  bool isInternal = false;  ///< a header of the library that is not installed
 };
 
 /// Source files by their path from the project's root: "velmora/views/PhaseDisc.h".
@@ -17,7 +18,7 @@ using SourceTree = std::map<std::string, SourceFile>;
 
 SourceFile sourceFile(const std::string& text);
 
-/// The C++ files below the given folders of the project.
+/// The files of C++, Python and CMake below the given folders of the project.
 SourceTree readSourceTree(const std::vector<std::string>& folders);
 
 // Each answers the breaches of a rule, one readable line each; none is well.
@@ -28,6 +29,9 @@ std::vector<std::string> upwardIncludes(const SourceTree& tree);
 /// Only an adapter reaches a third-party header, be it through headers of the project. The host program may
 /// include what it is made with besides: the command line's and JSON's libraries and the terminal.
 std::vector<std::string> thirdPartyOutsideAdapters(const SourceTree& tree);
+
+/// The host program and the examples use the library as anybody may: by its installed headers.
+std::vector<std::string> internalOutsideLibrary(const SourceTree& tree);
 
 std::vector<std::string> longFiles(const SourceTree& tree);
 
