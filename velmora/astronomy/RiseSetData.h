@@ -13,6 +13,7 @@ namespace velmora {
 /// for an event of the following day, "--:--" where only the other event of the pair happens, or "--" where
 /// neither does: the body stays up or down all day. A fresh record's texts are empty, its numbers zero.
 struct RiseSetData {
+  /// The texts described above.
   std::string moonRiseText;
   std::string moonSetText;
   std::string sunRiseText;

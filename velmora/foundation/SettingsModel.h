@@ -19,26 +19,22 @@ class SettingsModel {
   SettingsModel(const SettingsModel&) = delete;
   SettingsModel& operator=(const SettingsModel&) = delete;
 
-  std::int64_t mapMode() const { return _mapMode; }  ///< kept for the host application
+  /// Kept for the host application.
+  std::int64_t mapMode() const { return _mapMode; }
   void setMapMode(std::int64_t value) { _mapMode = value; }
-
-  std::int64_t mapProvider() const { return _mapProvider; }  ///< kept for the host application
+  std::int64_t mapProvider() const { return _mapProvider; }
   void setMapProvider(std::int64_t value) { _mapProvider = value; }
-
-  std::int64_t mapOrientation() const { return _mapOrientation; }  ///< kept for the host application
+  std::int64_t mapOrientation() const { return _mapOrientation; }
   void setMapOrientation(std::int64_t value) { _mapOrientation = value; }
+  std::int64_t units() const { return _units; }
+  void setUnits(std::int64_t value) { _units = value; }
+  bool disableScreenOrientation() const { return _disableScreenOrientation; }
+  void setDisableScreenOrientation(bool value) { _disableScreenOrientation = value; }
 
   /// The clock form of the astronomy's texts: exactly 1 is the 24-hour form, every other value the 12-hour
   /// one.
   std::int64_t timeFormat() const { return _timeFormat; }
   void setTimeFormat(std::int64_t value) { _timeFormat = value; }
-
-  std::int64_t units() const { return _units; }  ///< kept for the host application
-  void setUnits(std::int64_t value) { _units = value; }
-
-  /// Kept for the host application.
-  bool disableScreenOrientation() const { return _disableScreenOrientation; }
-  void setDisableScreenOrientation(bool value) { _disableScreenOrientation = value; }
 
  private:
   SettingsModel() = default;

@@ -10,6 +10,7 @@ namespace velmora {
 
 /// One principal phase as seen from a place.
 struct MonthDataItem {
+  /// The fields in order; `fullFactor` follows from the phase.
   MonthDataItem(std::int64_t phase, std::int64_t day, std::string time, Instant localDate);
 
   std::int64_t phase;      ///< 0 to 3, or −1 for an unknown code

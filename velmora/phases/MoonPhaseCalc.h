@@ -22,6 +22,7 @@ namespace velmora {
 /// from a place. Operations without state. Months are zero-based here, 0 = January.
 class MoonPhaseCalc {
  public:
+  /// A month's principal events; phase and picture number by day of the month.
   using MonthEvents = std::vector<std::shared_ptr<MonthDataItem>>;
   using PhaseCalendar = std::map<std::int64_t, std::shared_ptr<PhaseItem>>;
   using ImageCalendar = std::map<std::int64_t, std::int32_t>;

@@ -36,6 +36,7 @@ extern const char kCalenderLocationChangedNotification[];
 /// Give it a place before or together with the first date. For the thread of the user interface only.
 class MoonPhaseData {
  public:
+  /// As the phase calendar answers them.
   using MonthEvents = MoonPhaseCalc::MonthEvents;
   using PhaseCalendar = MoonPhaseCalc::PhaseCalendar;
   using ImageCalendar = MoonPhaseCalc::ImageCalendar;

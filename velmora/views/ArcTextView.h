@@ -15,6 +15,7 @@ class ArcTextView : public View {
   /// A text can be seen through.
   bool isOpaque() const override { return false; }
 
+  /// The text as it is drawn now.
   const AttributedText& attributedString() const { return _textStorage->attributedString(); }
   /// Replaces the text; does not ask to be drawn again.
   void setAttributedString(AttributedText text) { _textStorage->setAttributedString(std::move(text)); }

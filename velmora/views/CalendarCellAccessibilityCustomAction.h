@@ -11,6 +11,7 @@ namespace velmora {
 /// The action of a day's element in a month view.
 class CalendarCellAccessibilityCustomAction final : public AccessibilityCustomAction {
  public:
+  /// An action of that name for the day.
   CalendarCellAccessibilityCustomAction(std::string name, Handler handler, std::int64_t selectedDay)
       : AccessibilityCustomAction(std::move(name), std::move(handler)), _selectedDay(selectedDay) {}
 

@@ -19,11 +19,13 @@ class CircleGeometry {
             center.y + withRadius * std::sin(angleInRadians)};
   }
 
+  /// The squared distance of two points.
   static double CGPointDistanceSquared(Point from, Point to) {
     const Point way = to - from;
     return way.x * way.x + way.y * way.y;
   }
 
+  /// The distance of two points.
   static double CGPointDistance(Point from, Point to) { return std::sqrt(CGPointDistanceSquared(from, to)); }
 };
 

@@ -13,6 +13,7 @@ class View;
 /// must already lie in its superview.
 class LayoutConstraintAdditions {
  public:
+  /// Join the named edges of the subview with those of its superview.
   static LayoutConstraint::List constraintsToFillSubviewHorizontally(View& subView);
   static LayoutConstraint::List constraintsToFillSubviewVertically(View& subView);
   static LayoutConstraint::List constraintsToPinSubviewAtTop(View& subView);

@@ -10,9 +10,11 @@ namespace velmora {
 /// Where the days of a month lie in a view: seven columns, one row a week, as read from left to right. Pure
 /// arithmetic, in points from the view's top left.
 struct MonthGrid {
+  /// Of any month.
   static constexpr std::int64_t columns = 7;
   static constexpr std::int64_t mostRows = 6;
 
+  /// Margins of the grid, paddings between its cells, and what it holds.
   double topMargin = 0;
   double bottomMargin = 0;
   double leftMargin = 0;
@@ -52,6 +54,7 @@ struct MonthGrid {
 
 /// What is drawn for one day of the month view, and where.
 struct MonthDayCell {
+  /// Where what is drawn lies in the view.
   Rect disc;
   Rect label;  ///< of the day number, right under the disc
   Rect frame;  ///< around both, on the selected day

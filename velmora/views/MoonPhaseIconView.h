@@ -12,6 +12,7 @@ struct PhaseItem;
 /// equator, to be told so; nothing is drawn without a day.
 class MoonPhaseIconView : public View {
  public:
+  /// The day that is drawn.
   const std::shared_ptr<const PhaseItem>& phaseItem() const { return _phaseItem; }
   /// The day to draw; none for no disc. Asks to be drawn again, unlike the properties below, which show from
   /// the next drawing on.

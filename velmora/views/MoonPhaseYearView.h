@@ -25,6 +25,7 @@ namespace velmora {
 /// Source files: MoonPhaseYearView.cpp (selection and touches), YearDrawing.cpp.
 class MoonPhaseYearView : public iPhoneCalendarView {
  public:
+  /// As the service answers them.
   using YearItems = MoonPhaseData::YearItems;
 
   /// The year's principal events by month, 1 to 12; none before they are loaded.
@@ -71,6 +72,7 @@ class MoonPhaseYearView : public iPhoneCalendarView {
   static double heightForHeaderView() { return 40; }
 
   // Text attributes: centred, cut at their rectangle, made once per process.
+  /// Of the day numbers, and of the header's and the grid's titles.
   static const TextAttributes& dateTextAttributes();
   static const TextAttributes& selectedDateTextAttributes();
   static const TextAttributes& headerCenterTitleTextAttributes();

@@ -13,6 +13,7 @@ namespace velmora {
 /// after the one outside it and labelled with its day. Days and arcs are a fixed sample, by intent.
 class MoonPositionView : public View {
  public:
+  /// One label a day.
   static constexpr std::size_t dayCount = 5;
   using TextViews = std::array<std::shared_ptr<ArcTextView>, dayCount>;
 

@@ -21,6 +21,7 @@ extern const double kCornerRadius;
 /// out.
 class MoonRiseSetDayView : public View {
  public:
+  /// Around what a row draws.
   static constexpr EdgeInsets edgeInsets{.top = 1, .left = 10, .bottom = 0, .right = 0};
   /// The height is the space above the disc.
   static constexpr Size phasePadding{8, 10};
@@ -29,6 +30,7 @@ class MoonRiseSetDayView : public View {
   const std::shared_ptr<const RiseSetPhaseItem>& phaseItem() const { return _phaseItem; }
   void setPhaseItem(std::shared_ptr<const RiseSetPhaseItem> item);
 
+  /// What stands under the disc.
   const AttributedText& labelText() const { return _labelText; }
   void setLabelText(AttributedText text);
 

@@ -7,6 +7,7 @@ namespace velmora {
 /// Colours of controls that the library offers to applications; no view of the library reads them. A plain
 /// value: every call below makes a new one, which the caller may change.
 struct UIColorTheme {
+  /// What each colours.
   Color borderColor;
   Color backgroundColor;
   Color selectedBackgroundColor;
@@ -15,6 +16,7 @@ struct UIColorTheme {
   Color lightTextColor;
   Color selectedForegroundColor;
 
+  /// For controls that are not named below.
   static UIColorTheme defaultTheme();
   /// For dialogs: another background.
   static UIColorTheme dialogTheme();

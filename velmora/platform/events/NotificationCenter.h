@@ -20,6 +20,7 @@ namespace velmora {
 ///   usable.
 class NotificationCenter {
  public:
+  /// What is called at a post.
   using Observer = std::function<void()>;
 
   /// Keeps one observer subscribed for as long as it lives. It may outlive the centre.

@@ -18,7 +18,9 @@ enum class LineBreak {
   clipping,  ///< it is cut at the rectangle's edges
 };
 
+/// How a stretch of text looks; alignment and line break hold for a whole line.
 struct TextAttributes {
+  /// The face, its colour, and how the line lies in its rectangle.
   Font font = Font::systemFont(12);
   Color color = Color::black();
   TextAlignment alignment = TextAlignment::natural;
@@ -32,6 +34,7 @@ class AttributedText {
  public:
   /// A stretch of text with the same attributes.
   struct Run {
+    /// From begin up to end, and how it looks.
     std::size_t begin;
     std::size_t end;
     TextAttributes attributes;
@@ -40,8 +43,10 @@ class AttributedText {
   };
 
   AttributedText() = default;
+  /// The whole text with the same attributes.
   explicit AttributedText(std::string text, TextAttributes attributes = {});
 
+  /// The text alone.
   const std::string& text() const { return _text; }
   bool isEmpty() const { return _text.empty(); }
 

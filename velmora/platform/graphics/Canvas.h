@@ -27,6 +27,7 @@ class Canvas {
   virtual void save() = 0;
   virtual void restore() = 0;
 
+  /// What later strokes and fills are painted with; the width in points.
   virtual void setStrokeColor(const Color& color) = 0;
   virtual void setFillColor(const Color& color) = 0;
   virtual void setLineWidth(double width) = 0;
@@ -45,9 +46,11 @@ class Canvas {
   /// Later drawing shows only inside the path, and inside the clips before it.
   virtual void clip(const Path& path) = 0;
 
+  /// Paints the area of the path, or a line along it.
   virtual void fill(const Path& path) = 0;
   virtual void stroke(const Path& path) = 0;
 
+  /// Shortcuts, by paths unless a canvas has something quicker.
   virtual void fillRect(Rect rect) { fill(Path::rect(rect)); }
   virtual void fillEllipse(Rect rect) { fill(Path::ellipse(rect)); }
   virtual void strokeEllipse(Rect rect) { stroke(Path::ellipse(rect)); }

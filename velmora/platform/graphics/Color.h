@@ -8,6 +8,7 @@ namespace velmora {
 
 /// A device RGB colour; components and alpha run from 0 to 1.
 struct Color {
+  /// Components, 0 to 1.
   double red = 0;
   double green = 0;
   double blue = 0;
@@ -16,6 +17,7 @@ struct Color {
   /// A grey level.
   static constexpr Color withWhite(double grey, double alpha) { return {grey, grey, grey, alpha}; }
 
+  /// Colours by name.
   static constexpr Color white() { return {1, 1, 1, 1}; }
   static constexpr Color black() { return {0, 0, 0, 1}; }
   static constexpr Color clear() { return {0, 0, 0, 0}; }

@@ -14,10 +14,12 @@ struct Font {
   static constexpr double smallSystemFontSize = 12;  ///< of small text, in points
   static constexpr double captionFontSize = 12;      ///< of captions, in points
 
+  /// What is asked for.
   std::string family = "System";
   double size = systemFontSize;  ///< in points
   FontWeight weight = FontWeight::regular;
 
+  /// The fonts of standard text and of captions.
   static Font systemFont(double size) { return {"System", size, FontWeight::regular}; }
   static Font boldSystemFont(double size) { return {"System", size, FontWeight::bold}; }
   static Font captionFont() { return systemFont(captionFontSize); }

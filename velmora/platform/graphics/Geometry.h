@@ -8,15 +8,19 @@ namespace velmora {
 
 /// A place in points; x grows to the right, y downwards.
 struct Point {
+  /// Coordinates.
   double x = 0;
   double y = 0;
 
   friend bool operator==(const Point&, const Point&) = default;
+  /// Sum and difference of coordinates.
   friend Point operator+(Point a, Point b) { return {a.x + b.x, a.y + b.y}; }
   friend Point operator-(Point a, Point b) { return {a.x - b.x, a.y - b.y}; }
 };
 
+/// A width and a height in points.
 struct Size {
+  /// Either may be negative.
   double width = 0;
   double height = 0;
 
@@ -25,6 +29,7 @@ struct Size {
 
 /// What is left free along the edges of a rectangle, in points.
 struct EdgeInsets {
+  /// At each edge.
   double top = 0;
   double left = 0;
   double bottom = 0;
@@ -34,14 +39,17 @@ struct EdgeInsets {
 /// A rectangle: one corner and the way to the opposite one. Width and height may be negative; the area is
 /// then the same as that of the standardised rectangle, and so are the edges below.
 struct Rect {
+  /// The corner, and the way to the opposite one.
   double x = 0;
   double y = 0;
   double width = 0;
   double height = 0;
 
+  /// The same two.
   Point origin() const { return {x, y}; }
   Size size() const { return {width, height}; }
 
+  /// Edges and middle of the area.
   double minX() const { return std::min(x, x + width); }
   double midX() const { return x + width * 0.5; }
   double maxX() const { return std::max(x, x + width); }
@@ -75,8 +83,15 @@ struct Rect {
 /// An affine map of the plane: x' = a x + c y + tx, y' = b x + d y + ty. A default one is the identity.
 /// Angles are in radians and turn clockwise as seen, since y grows downwards.
 struct AffineTransform {
-  double a = 1, b = 0, c = 0, d = 1, tx = 0, ty = 0;
+  /// The six numbers of the map.
+  double a = 1;
+  double b = 0;
+  double c = 0;
+  double d = 1;
+  double tx = 0;
+  double ty = 0;
 
+  /// The map that changes nothing, a shift, a turn, a scale.
   static AffineTransform identity() { return {}; }
   static AffineTransform translation(double dx, double dy) { return {1, 0, 0, 1, dx, dy}; }
   static AffineTransform rotation(double angle) {
@@ -101,8 +116,10 @@ struct AffineTransform {
             origin.y};
   }
 
+  /// Where the point goes.
   Point apply(Point point) const { return {a * point.x + c * point.y + tx, b * point.x + d * point.y + ty}; }
 
+  /// Whether every point stays.
   bool isIdentity() const { return *this == AffineTransform(); }
 
   /// The transform that undoes this one; none for one that squeezes the plane to a line or a point.

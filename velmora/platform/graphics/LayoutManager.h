@@ -15,8 +15,10 @@ struct TextContainer {
 /// Lays a text out in its container glyph by glyph, so that each can be drawn elsewhere than on the line.
 class LayoutManager {
  public:
+  /// Of a container that others may hold, too.
   explicit LayoutManager(std::shared_ptr<TextContainer> container) : _container(std::move(container)) {}
 
+  /// The container laid out in.
   const std::shared_ptr<TextContainer>& textContainer() const { return _container; }
 
   /// Lays out another text; what holds the text calls it.
@@ -44,11 +46,14 @@ class LayoutManager {
 /// Holds a text and has its layout manager lay it out anew whenever the text changes.
 class TextStorage {
  public:
+  /// Of a manager that others may hold, too.
   explicit TextStorage(std::shared_ptr<LayoutManager> layoutManager)
       : _layoutManager(std::move(layoutManager)) {}
 
+  /// What lays the text out.
   const std::shared_ptr<LayoutManager>& layoutManager() const { return _layoutManager; }
 
+  /// The text.
   const AttributedText& attributedString() const { return _attributedString; }
   void setAttributedString(AttributedText text);
 

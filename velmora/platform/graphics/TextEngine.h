@@ -23,6 +23,7 @@ class TextEngine {
  public:
   virtual ~TextEngine() = default;
 
+  /// The size of the text as one line.
   virtual TextMetrics measure(const AttributedText& text) = 0;
 
   /// The box of each glyph, in reading order: from its left edge on the line over its advance, as high as the
@@ -46,6 +47,7 @@ class TextEngine {
 /// Replaces the process's text engine for as long as it lives.
 class ScopedTextEngine {
  public:
+  /// Puts the engine in place.
   explicit ScopedTextEngine(std::shared_ptr<TextEngine> engine)
       : _former(TextEngine::setCurrent(std::move(engine))) {}
   ~ScopedTextEngine() { TextEngine::setCurrent(std::move(_former)); }

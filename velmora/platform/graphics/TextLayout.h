@@ -15,11 +15,14 @@ class TextLayout {
   /// Space at either end of the line when its glyphs are laid out one by one, in points.
   static constexpr double lineFragmentPadding = 5;
 
+  /// Measures the text once.
   explicit TextLayout(AttributedText text);
 
+  /// The text and its measures.
   const AttributedText& text() const { return _text; }
   const TextMetrics& metrics() const { return _metrics; }
 
+  /// The advance of the line.
   double width() const { return _metrics.width; }
   /// Ascent plus descent of the tallest font asked for, whatever faces the characters come from.
   double height() const { return _metrics.ascent + _metrics.descent; }

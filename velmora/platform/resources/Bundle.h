@@ -30,8 +30,10 @@ class Bundle {
   static std::optional<std::filesystem::path> setLibrary(std::optional<std::filesystem::path> directory);
   static std::optional<std::filesystem::path> setMain(std::optional<std::filesystem::path> directory);
 
+  /// A bundle of that folder, which need not exist.
   Bundle(std::string identifier, std::filesystem::path directory);
 
+  /// Its name and its folder.
   const std::string& identifier() const;
   const std::filesystem::path& directory() const;
 
@@ -57,6 +59,7 @@ class Bundle {
 /// Puts another folder in place of the library's resources for as long as it lives.
 class ScopedLibraryBundle {
  public:
+  /// Puts the folder in place.
   explicit ScopedLibraryBundle(std::filesystem::path directory)
       : _former(Bundle::setLibrary(std::move(directory))) {}
   ~ScopedLibraryBundle() { Bundle::setLibrary(std::move(_former)); }
@@ -70,6 +73,7 @@ class ScopedLibraryBundle {
 /// Puts another folder in place of the host's resources for as long as it lives.
 class ScopedMainBundle {
  public:
+  /// Puts the folder in place.
   explicit ScopedMainBundle(std::filesystem::path directory)
       : _former(Bundle::setMain(std::move(directory))) {}
   ~ScopedMainBundle() { Bundle::setMain(std::move(_former)); }

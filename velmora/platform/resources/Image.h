@@ -19,9 +19,11 @@ class Image {
   /// that make one point.
   static std::shared_ptr<const Image> fromBytes(std::string name, std::string encoded, double scale = 1.0);
 
+  /// For `fromBytes` and `mirrored` alone.
   Image(Key, std::string name, std::shared_ptr<const std::string> encoded, double scale, PixelSize pixelSize,
         bool isMirrored);
 
+  /// The name it was given.
   const std::string& name() const { return _name; }
   /// The picture as it was encoded; a mirrored copy's is that of its original.
   const std::string& encodedBytes() const { return *_encoded; }

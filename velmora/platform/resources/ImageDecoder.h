@@ -13,6 +13,7 @@ using PixelBytes = std::vector<std::uint8_t>;
 
 /// The size of a picture in pixels.
 struct PixelSize {
+  /// Pixels across and down.
   std::int64_t width = 0;
   std::int64_t height = 0;
 

@@ -10,6 +10,7 @@ namespace velmora {
 /// Where the library's messages go: one replaceable sink, standard error unless a host sets another.
 class Log {
  public:
+  /// Takes one message, without a line end.
   using Sink = std::function<void(std::string_view text)>;
 
   /// Hands one message, without a line end, to the sink.
@@ -27,6 +28,7 @@ class ScopedLogRecord {
   ScopedLogRecord(const ScopedLogRecord&) = delete;
   ScopedLogRecord& operator=(const ScopedLogRecord&) = delete;
 
+  /// The messages so far, the first first.
   const std::vector<std::string>& messages() const { return _messages; }
 
  private:

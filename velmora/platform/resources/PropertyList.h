@@ -15,6 +15,7 @@ namespace velmora {
 /// library's resources do not use, of which nothing can be asked. Immutable and cheap to copy.
 class PropertyList {
  public:
+  /// What an array and a dictionary are handed out as.
   using Array = std::vector<PropertyList>;
   using Dictionary = std::map<std::string, PropertyList>;
 

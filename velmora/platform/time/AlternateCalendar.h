@@ -10,8 +10,10 @@ namespace velmora {
 /// A calendar other than the Gregorian, of which the month views show the day number. A cheap value.
 class AlternateCalendar {
  public:
+  /// The calendars known.
   enum class Kind { hebrew, islamicUmmAlQura, buddhist, japanese, chinese, indian };
 
+  /// The calendar of that kind whose days begin at midnight in the zone.
   AlternateCalendar(Kind kind, TimeZone timeZone) : _kind(kind), _timeZone(std::move(timeZone)) {}
 
   /// The day of the month that the instant has in this calendar and zone, 1 or more.

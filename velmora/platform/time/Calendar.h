@@ -12,6 +12,7 @@ namespace velmora {
 /// components out of their range carry over: day 0 is the last day of the month before, hour 24 the next
 /// day's first.
 struct DateComponents {
+  /// Components, as far as given.
   std::int64_t year = 0;
   std::int64_t month = 1;    ///< 1 = January
   std::int64_t day = 1;      ///< of the month
@@ -39,6 +40,7 @@ class Calendar {
   /// The user's current calendar: Gregorian whatever the locale's own calendar is, in the default zone.
   static Calendar currentCalendar() { return Calendar(); }
 
+  /// The zone whose clocks it reads.
   const TimeZone& timeZone() const { return _timeZone; }
   void setTimeZone(TimeZone timeZone) { _timeZone = std::move(timeZone); }
 

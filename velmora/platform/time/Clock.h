@@ -9,6 +9,7 @@ namespace velmora {
 /// The one source of "now". A host or a test may replace it, so that "today" can be fixed.
 class Clock {
  public:
+  /// Answers the present instant.
   using Source = std::function<Instant()>;
 
   /// The present instant.
@@ -21,6 +22,7 @@ class Clock {
 /// Fixes "now" for as long as it lives, then puts the former clock back.
 class ScopedNow {
  public:
+  /// Stops the clock at the instant.
   explicit ScopedNow(Instant now);
   ~ScopedNow();
   ScopedNow(const ScopedNow&) = delete;

@@ -15,6 +15,7 @@ namespace velmora {
 /// A cheap value; the formatting objects behind it are made once and shared by all formatters that are alike.
 class DateFormatter {
  public:
+  /// How much is written.
   enum class Style { none, shortStyle, mediumStyle };
 
   /// A formatter in the current locale and the process's default zone, with no date and no time style.
@@ -27,6 +28,7 @@ class DateFormatter {
   void setLocale(Locale locale) { _locale = std::move(locale); }
   void setTimeZone(TimeZone timeZone) { _timeZone = std::move(timeZone); }
 
+  /// What texts are written with.
   const std::string& dateFormat() const { return _pattern; }
   const Locale& locale() const { return _locale; }
   const TimeZone& timeZone() const { return _timeZone; }

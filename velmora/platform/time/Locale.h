@@ -10,8 +10,10 @@ namespace velmora {
 /// as the root locale.
 class Locale {
  public:
+  /// How a clock is read: to 12 twice a day, or to 24.
   enum class HourCycle { h12, h24 };
 
+  /// The locale of that identifier.
   explicit Locale(std::string identifier);
 
   /// The process's locale: the one last set, else that of the environment (LC_ALL, LC_TIME, LANG), where
@@ -20,6 +22,7 @@ class Locale {
   /// Sets the process's locale; none goes back to the environment's.
   static void setCurrent(std::optional<Locale> locale);
 
+  /// The identifier as given.
   const std::string& identifier() const { return _identifier; }
 
   /// The language alone ("ar"), in lower case.
@@ -47,6 +50,7 @@ class Locale {
 /// Sets the process's locale for as long as it lives, then puts the former one back.
 class ScopedLocale {
  public:
+  /// Sets the locale.
   explicit ScopedLocale(Locale locale);
   explicit ScopedLocale(std::string identifier) : ScopedLocale(Locale(std::move(identifier))) {}
   ~ScopedLocale();

@@ -12,6 +12,7 @@ namespace velmora {
 
 /// The instants that a local clock reading can mean in a zone.
 struct LocalLookup {
+  /// How often the reading occurs.
   enum class Kind {
     unique,    ///< the reading occurs once; the three instants are equal
     skipped,   ///< clocks jumped over the reading
@@ -41,6 +42,7 @@ class ZoneRules {
 /// A time zone: a name and its rules. A cheap value; copies share the rules.
 class TimeZone {
  public:
+  /// A zone of rules of the caller's own.
   TimeZone(std::string name, std::shared_ptr<const ZoneRules> rules);
 
   /// The zone with the given name: an identifier of the system's zone database ("Europe/Helsinki"), "GMT",
@@ -82,6 +84,7 @@ class TimeZone {
 /// Sets the process's default zone for as long as it lives, then puts the former one back.
 class ScopedDefaultTimeZone {
  public:
+  /// Sets the default zone.
   explicit ScopedDefaultTimeZone(TimeZone zone);
   /// As above with the zone of that name, which must exist.
   explicit ScopedDefaultTimeZone(std::string_view name);

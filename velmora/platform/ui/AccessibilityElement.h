@@ -29,6 +29,7 @@ class AccessibilityCustomAction {
   /// Is given the action that was activated.
   using Handler = std::function<void(const AccessibilityCustomAction& action)>;
 
+  /// An action of that name; without a handler it does nothing.
   AccessibilityCustomAction(std::string name, Handler handler)
       : _name(std::move(name)), _handler(std::move(handler)) {}
   virtual ~AccessibilityCustomAction() = default;
@@ -38,6 +39,7 @@ class AccessibilityCustomAction {
   /// The text that the user chooses the action by.
   const std::string& name() const { return _name; }
 
+  /// Does it: the host says so when the user chose it.
   void activate() const {
     if (_handler) _handler(*this);
   }

@@ -9,6 +9,7 @@ namespace velmora {
 /// they are dropped. For the main thread only.
 class Announcements {
  public:
+  /// Takes one sentence.
   using Sink = std::function<void(const std::string& text)>;
 
   /// Hands the text to the sink.
@@ -21,6 +22,7 @@ class Announcements {
 /// Sends the announcements elsewhere for as long as it lives, then puts the former sink back.
 class ScopedAnnouncementSink {
  public:
+  /// Puts the sink in place.
   explicit ScopedAnnouncementSink(Announcements::Sink sink);
   ~ScopedAnnouncementSink();
   ScopedAnnouncementSink(const ScopedAnnouncementSink&) = delete;

@@ -25,6 +25,7 @@ struct Device {
 /// Sets the device for as long as it lives, then puts the former one back.
 class ScopedDevice {
  public:
+  /// Sets the device.
   explicit ScopedDevice(const Device& device);
   ~ScopedDevice();
   ScopedDevice(const ScopedDevice&) = delete;

@@ -31,6 +31,7 @@ class Layer {
   Point anchorPoint() const { return _anchorPoint; }
   void setAnchorPoint(Point anchorPoint) { _anchorPoint = anchorPoint; }
 
+  /// Turns, scales or shifts the layer around its anchor point.
   AffineTransform affineTransform() const { return _affineTransform; }
   void setAffineTransform(const AffineTransform& transform) { _affineTransform = transform; }
 

@@ -40,6 +40,7 @@ enum class LayoutFormatOptions : unsigned {
 /// nothing. A constraint does not keep its views alive.
 class LayoutConstraint {
  public:
+  /// Constraints in order.
   using List = std::vector<std::shared_ptr<LayoutConstraint>>;
 
   /// Without a second item the first attribute equals the constant. The items are held by std::shared_ptr.

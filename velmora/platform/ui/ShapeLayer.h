@@ -9,15 +9,19 @@ namespace velmora {
 /// A layer that fills a path and then strokes it, in its own coordinates. A clear colour leaves its step out.
 class ShapeLayer : public Layer {
  public:
+  /// The shape, in the layer's own coordinates.
   const Path& path() const { return _path; }
   void setPath(Path path) { _path = std::move(path); }
 
+  /// Of the area.
   Color fillColor() const { return _fillColor; }
   void setFillColor(const Color& color) { _fillColor = color; }
 
+  /// Of the line.
   Color strokeColor() const { return _strokeColor; }
   void setStrokeColor(const Color& color) { _strokeColor = color; }
 
+  /// Of the line, in points.
   double lineWidth() const { return _lineWidth; }
   void setLineWidth(double width) { _lineWidth = width; }
 

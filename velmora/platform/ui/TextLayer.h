@@ -10,6 +10,7 @@ namespace velmora {
 /// A layer that draws one line of text from the top left of its bounds; what is too long hangs out.
 class TextLayer : public Layer {
  public:
+  /// The line of text.
   const AttributedText& attributedText() const { return _attributedText; }
   void setAttributedText(AttributedText text) { _attributedText = std::move(text); }
 

@@ -113,9 +113,11 @@ class View : public std::enable_shared_from_this<View> {
   virtual bool isAccessibilityElement() const { return _isAccessibilityElement; }
   void setIsAccessibilityElement(bool isElement) { _isAccessibilityElement = isElement; }
 
+  /// What the view is, for a screen reader.
   AccessibilityTraits accessibilityTraits() const { return _accessibilityTraits; }
   void setAccessibilityTraits(AccessibilityTraits traits) { _accessibilityTraits = traits; }
 
+  /// How its elements belong together.
   virtual AccessibilityContainerType accessibilityContainerType() const {
     return AccessibilityContainerType::none;
   }

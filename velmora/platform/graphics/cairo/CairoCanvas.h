@@ -17,6 +17,7 @@ enum class PictureFormat { png, svg, pdf };
 
 /// What went wrong with a picture, in words for people.
 struct PictureError {
+  /// What it was about.
   enum class Kind {
     size,     ///< a side outside 1 to 16384 pixels
     drawing,  ///< the drawing library failed, out of memory included
