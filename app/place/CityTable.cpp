@@ -15,15 +15,20 @@ namespace {
 
 constexpr std::size_t longestSpelling = 100;  // bytes; no city of the table comes near it
 
+bool isSign(char c) { return c == '+' || c == '-'; }
+
 /// "+DDMM", "+DDDMMSS" and the like: degrees of two or three digits by the length, in degrees.
-std::optional<double> angle(std::string_view text, std::size_t degreeDigits) {
+std::optional<double> angle(std::string_view text, std::size_t degreeDigits, double largest) {
   const std::size_t withSeconds = 1 + degreeDigits + 4;
   if (text.size() != withSeconds && text.size() != withSeconds - 2) return std::nullopt;
+  if (!isSign(text.front()) || text.find_first_not_of("0123456789", 1) != std::string_view::npos)
+    return std::nullopt;
   const auto part = [&](std::size_t at, std::size_t size) { return numberFromText(text.substr(at, size)); };
   const auto degrees = part(1, degreeDigits), minutes = part(1 + degreeDigits, 2);
   const auto seconds = text.size() == withSeconds ? part(3 + degreeDigits, 2) : 0.0;
   if (!degrees || !minutes || !seconds) return std::nullopt;
   const double size = *degrees + *minutes / 60 + *seconds / 3600;
+  if (size > largest) return std::nullopt;
   return text.front() == '-' ? -size : size;
 }
 
@@ -40,11 +45,12 @@ std::optional<City> cityOfRow(const std::string& row) {
   std::getline(fields, coordinates, '\t');
   std::getline(fields, zone, '\t');
   const std::size_t split = coordinates.find_first_of("+-", 1);
-  if (zone.empty() || split == std::string::npos) return std::nullopt;
-  const auto latitude = angle(std::string_view(coordinates).substr(0, split), 2);
-  const auto longitude = angle(std::string_view(coordinates).substr(split), 3);
-  if (!latitude || !longitude) return std::nullopt;
-  return City{nameOfCity(zone), zone, *latitude, *longitude};
+  if (split == std::string::npos) return std::nullopt;
+  const auto latitude = angle(std::string_view(coordinates).substr(0, split), 2, 90);
+  const auto longitude = angle(std::string_view(coordinates).substr(split), 3, 180);
+  const std::string name = nameOfCity(zone);
+  if (!latitude || !longitude || name.empty()) return std::nullopt;
+  return City{name, zone, *latitude, *longitude};
 }
 
 CityTable readSystemTable() {

@@ -42,6 +42,14 @@ TEST(CityTable, RowsOfAnotherFormAreLeftOut) {
           .empty());
 }
 
+TEST(CityTable, RowsWithoutANameOrBeyondTheEarthAreLeftOut) {
+  for (const char* row : {"FI\t+6010+02458\tEurope/\n", "FI\t+9001+02458\tA/B\n", "FI\t-6010-18001\tA/B\n",
+                          "FI\t+-1-2+02458\tA/B\n", "FI\t+6010+0.5e1\tA/B\n", "FI\t/6010+02458\tA/B\n"}) {
+    EXPECT_TRUE(tableOf(row).cities().empty()) << row;
+  }
+  EXPECT_EQ(tableOf("AQ\t-9000+18000\tAntarctica/South_Pole\n").cities().size(), 1U);
+}
+
 TEST(CityTable, EveryCityOfTheSystemIsFoundByItsNameAndItsZone) {
   const CityTable& table = CityTable::system();
   EXPECT_GT(table.cities().size(), 300U);
