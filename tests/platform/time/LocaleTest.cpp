@@ -24,6 +24,15 @@ TEST(Locale, KnowsTheLanguageByBothItsCodes) {
   EXPECT_EQ(Locale("FI_fi").languageCode(), "fi");
 }
 
+TEST(Locale, ATextThatIsNoIdentifierHasNoLanguage) {
+  for (const char* text : {"", "12", "x\xff\xff", "..", "e n", "\xd7\xa2"}) {
+    const Locale locale{std::string(text)};
+    EXPECT_EQ(locale.languageCode(), "") << text;
+    EXPECT_FALSE(locale.isRightToLeft()) << text;
+    EXPECT_EQ(locale.identifier(), text);
+  }
+}
+
 TEST(Locale, KnowsTheLanguagesWrittenFromRightToLeft) {
   for (const char* identifier :
        {"ar", "ar_EG", "ara", "he", "he_IL", "iw", "fa_IR", "ur_PK", "yi", "az_Arab"}) {

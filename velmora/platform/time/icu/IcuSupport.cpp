@@ -2,12 +2,18 @@
 
 #include <unicode/ures.h>
 
+#include <algorithm>
 #include <memory>
 
 #include <velmora/platform/time/icu/ObjectCache.h>
 
 namespace velmora {
 namespace {
+
+/// ICU keeps whatever bytes stand where a language should.
+bool isLanguage(std::string_view code) {
+  return std::all_of(code.begin(), code.end(), [](char c) { return c >= 'a' && c <= 'z'; });
+}
 
 bool isKnown(const icu::Locale& locale) {
   UErrorCode status = U_ZERO_ERROR;
@@ -19,7 +25,7 @@ bool isKnown(const icu::Locale& locale) {
 
 icu::Locale canonicalLocale(const std::string& identifier) {
   const icu::Locale result = icu::Locale::createCanonical(identifier.c_str());
-  return result.isBogus() ? icu::Locale::getRoot() : result;
+  return result.isBogus() || !isLanguage(result.getLanguage()) ? icu::Locale::getRoot() : result;
 }
 
 icu::Locale icuLocale(const Locale& locale) {
