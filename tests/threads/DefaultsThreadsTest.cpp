@@ -52,7 +52,10 @@ TEST(ManyThreads, ReadAClockThatAnotherChanges) {
         const Instant fixed = first ? noon : noon + std::chrono::hours(1);
         Clock::setSource([fixed] { return fixed; });
       },
-      [] { return Clock::now() == noon || Clock::now() == noon + std::chrono::hours(1); });
+      [] {
+        const Instant read = Clock::now();
+        return read == noon || read == noon + std::chrono::hours(1);
+      });
 }
 
 TEST(ManyThreads, GetTheSameNamesOfMonthsAndWeekdays) {
