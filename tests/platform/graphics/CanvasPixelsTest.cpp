@@ -219,6 +219,22 @@ TEST_F(CanvasPixelsTest, AnEmptyClipHidesEverything) {
   EXPECT_EQ(picture.coverage(), 0);
 }
 
+TEST_F(CanvasPixelsTest, AGroupBesideWhatIsPaintedClearsOnlyItself) {
+  canvas.setFillColor(red);
+  canvas.fillRect({0, 0, 10, 20});
+  canvas.save();
+  canvas.clip(Path::rect({10, 0, 10, 20}));
+  canvas.beginGroup(1);
+  canvas.setFillColor(blue);
+  canvas.fillRect(whole);
+  canvas.clearRect({5, 5, 10, 10});
+  canvas.endGroup();
+  canvas.restore();
+  EXPECT_EQ(picture.at(7, 10), "#FF0000FF");
+  EXPECT_EQ(picture.at(12, 10), "#00000000");
+  EXPECT_EQ(picture.at(17, 10), "#0000FFFF");
+}
+
 TEST_F(CanvasPixelsTest, AGroupIsLaidDownAsOne) {
   canvas.setFillColor(Color::white());
   canvas.fillRect(whole);

@@ -50,6 +50,15 @@ TEST(Rect, AnInsetOfMoreThanTheSizeLeavesTheMiddle) {
   EXPECT_TRUE(rest.isEmpty());
 }
 
+TEST(Rect, TheIntersectionIsWhatBothCover) {
+  const Rect rect = {0, 0, 10, 10};
+  EXPECT_EQ(rect.intersection({4, 6, 10, 2}), (Rect{4, 6, 6, 2}));
+  EXPECT_EQ(rect.intersection({14, 8, -10, -2}), (Rect{4, 6, 6, 2}));
+  EXPECT_EQ(rect.intersection(rect), rect);
+  EXPECT_TRUE(rect.intersection({10, 0, 10, 10}).isEmpty()) << "they only touch";
+  EXPECT_TRUE(rect.intersection({20, 20, 5, 5}).isEmpty());
+}
+
 TEST(Rect, ContainsItsUpperLeftEdgesOnly) {
   const Rect rect = {0, 0, 10, 10};
   EXPECT_TRUE(rect.contains({0, 0}));

@@ -113,6 +113,16 @@ TEST(Picture, AnImageFillsItsRectangleWithAlphaAndBlendMode) {
   }
 }
 
+TEST(Picture, AnImageClearsItsRectangleWhateverItsAlpha) {
+  CairoCanvas source(PictureFormat::png, {4, 4});
+  CairoCanvas canvas(PictureFormat::png, {2, 1});
+  canvas.fillRect({0, 0, 2, 1});
+  canvas.setBlendMode(BlendMode::clear);
+  canvas.setAlpha(0.5);
+  canvas.drawImage(*decoded(written(source)), {1, 0, 1, 1});
+  EXPECT_EQ(canvas.pixels(), (std::vector<std::uint8_t>{0, 0, 0, 255, 0, 0, 0, 0}));
+}
+
 TEST(Picture, AnImageIsOneElementOfAnSvg) {
   CairoCanvas source(PictureFormat::png, {4, 4});
   source.fillRect({0, 0, 4, 4});

@@ -72,6 +72,13 @@ struct Rect {
     return {midX() - remainingWidth * 0.5, midY() - remainingHeight * 0.5, remainingWidth, remainingHeight};
   }
 
+  /// The area that both cover; of size 0 where there is none.
+  Rect intersection(const Rect& other) const {
+    const double left = std::max(minX(), other.minX()), right = std::min(maxX(), other.maxX());
+    const double top = std::max(minY(), other.minY()), bottom = std::min(maxY(), other.maxY());
+    return {left, top, std::max(0.0, right - left), std::max(0.0, bottom - top)};
+  }
+
   /// Whether the point lies inside; the left and upper edges belong to the rectangle, the others do not.
   bool contains(Point point) const {
     return point.x >= minX() && point.x < maxX() && point.y >= minY() && point.y < maxY();

@@ -1,6 +1,7 @@
 #include <velmora/platform/resources/Image.h>
 
 #include <algorithm>
+#include <atomic>
 #include <cstddef>
 #include <utility>
 
@@ -8,6 +9,11 @@ namespace velmora {
 namespace {
 
 constexpr std::size_t kBytesPerPixel = 4;
+
+std::uint64_t nextSerial() {
+  static std::atomic<std::uint64_t> last = 0;
+  return ++last;
+}
 
 void exchangeLeftAndRight(PixelBytes& pixels, std::size_t width) {
   const std::size_t rowSize = width * kBytesPerPixel;
@@ -31,7 +37,8 @@ std::shared_ptr<const Image> Image::fromBytes(std::string name, std::string enco
 
 Image::Image(Key, std::string name, std::shared_ptr<const std::string> encoded, double scale,
              PixelSize pixelSize, bool isMirrored)
-    : _name(std::move(name)),
+    : _serial(nextSerial()),
+      _name(std::move(name)),
       _encoded(std::move(encoded)),
       _scale(scale),
       _pixelSize(pixelSize),

@@ -23,6 +23,8 @@ class Image {
   Image(Key, std::string name, std::shared_ptr<const std::string> encoded, double scale, PixelSize pixelSize,
         bool isMirrored);
 
+  /// Tells it from every other picture of the process, mirrored ones included.
+  std::uint64_t serial() const { return _serial; }
   /// The name it was given.
   const std::string& name() const { return _name; }
   /// The picture as it was encoded; a mirrored copy's is that of its original.
@@ -40,6 +42,7 @@ class Image {
  private:
   PixelBytes decodedPixels() const;
 
+  std::uint64_t _serial;
   std::string _name;
   std::shared_ptr<const std::string> _encoded;
   double _scale;

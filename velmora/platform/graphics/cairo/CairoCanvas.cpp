@@ -25,13 +25,6 @@ PictureError drawingError(cairo_status_t status) {
                    : std::string("the picture cannot be drawn: ") + cairo_status_to_string(status)};
 }
 
-/// How far a line reaches beyond its path: half its width, and at corners as far as a miter may stand out.
-double reachOfLine(const Path& path, double lineWidth) {
-  constexpr double longestMiter = 10;
-  const bool hasCorners = path.elements().size() > 2;
-  return lineWidth / 2 * (hasCorners ? longestMiter : 1);
-}
-
 }  // namespace
 
 CairoCanvas::CairoCanvas(PictureFormat format, Size size, double scale, Color background)
@@ -105,27 +98,9 @@ void CairoCanvas::concat(const AffineTransform& transform) { _drawing->transform
 void CairoCanvas::clip(const Path& path) { _drawing->clip(path); }
 void CairoCanvas::fill(const Path& path) { _drawing->fill(path); }
 void CairoCanvas::clearRect(Rect rect) { _drawing->clear(Path::rect(rect)); }
-
-void CairoCanvas::stroke(const Path& path) {
-  const auto box = path.boundingBox();
-  if (!_drawing->isReady() || !box) return;
-  cairo_t* context = _drawing->context();
-  _drawing->setPaint(_drawing->state().stroke);
-  setPath(context, path);
-  cairo_stroke(context);
-  const double reach = reachOfLine(path, cairo_get_line_width(context));
-  _drawing->notePaint(box->inset(-reach, -reach));
-}
-
+void CairoCanvas::stroke(const Path& path) { _drawing->stroke(path); }
 void CairoCanvas::drawImage(const Image& image, Rect rect) {
-  const Rect box = rect.standardised();
-  if (!_drawing->isReady() || box.isEmpty()) return;
-  cairo_t* context = _drawing->context();
-  cairo_save(context);
-  _drawing->setPaint(Color::black());
-  paintImage(context, image, box, _drawing->state().alpha);
-  cairo_restore(context);
-  _drawing->notePaint(box);
+  _drawing->drawImage(image, rect.standardised());
 }
 
 void CairoCanvas::drawText(const AttributedText& text, Point topLeft) {
@@ -140,10 +115,9 @@ void CairoCanvas::drawGlyphRange(const AttributedText& text, std::size_t first, 
                                  Point topLeft) {
   if (!_drawing->isReady()) return;
   const auto line = PangoTextEngine::shared().line(text);
-  const GlyphStyle style =
-      _drawing->format == PictureFormat::png ? GlyphStyle::outlines : GlyphStyle::characters;
-  drawGlyphs(_drawing->context(), style, *line, text, first, std::min(end, line->glyphs.size()), topLeft,
-             [this](const Color& color) { _drawing->setPaint(color); });
+  for (const GlyphRun& run : glyphRuns(*line, text, first, std::min(end, line->glyphs.size()), topLeft)) {
+    _drawing->drawGlyphs(run, line->serial);
+  }
   const double height = line->metrics.ascent + line->metrics.descent;
   _drawing->notePaint(Rect{topLeft.x, topLeft.y, line->metrics.width, height}.inset(-height, -height));
   _drawing->noteUncovered(line->uncovered);

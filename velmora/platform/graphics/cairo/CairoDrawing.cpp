@@ -51,10 +51,6 @@ cairo_operator_t cairoOperator(BlendMode mode) {
   }
 }
 
-bool overlap(const Rect& a, const Rect& b) {
-  return a.minX() < b.maxX() && b.minX() < a.maxX() && a.minY() < b.maxY() && b.minY() < a.maxY();
-}
-
 }  // namespace
 
 CairoCanvas::Drawing::Drawing(PictureFormat pictureFormat, Size pictureSize, double scale,
@@ -87,7 +83,7 @@ void CairoCanvas::Drawing::beginGroup(double alpha) {
   inside.alpha = 1;
   inside.blendMode = BlendMode::normal;
   inside.layer.reset();
-  const bool canDrawThrough = alpha == 1 && _layers.back().empty();
+  const bool canDrawThrough = alpha == 1 && !isPainted(visiblePixels());
   if (canDrawThrough) {
     cairo_save(context());
   } else {
@@ -138,31 +134,6 @@ void CairoCanvas::Drawing::transform(const AffineTransform& t) {
   }
 }
 
-void CairoCanvas::Drawing::clip(const Path& path) {
-  finishPendingClear();
-  setPath(context(), path);
-  cairo_clip(context());
-}
-
-void CairoCanvas::Drawing::fill(const Path& path) {
-  const State& s = state();
-  if (s.blendMode == BlendMode::clear) return clear(path);
-  const bool isOpaque = s.blendMode == BlendMode::normal && s.fill.alpha >= 1 && s.alpha >= 1;
-  if (isOpaque && _pendingClear == path) _pendingClear.reset();
-  if (!isReady()) return;
-  setPaint(s.fill);
-  setPath(context(), path);
-  cairo_fill(context());
-  if (const auto box = path.boundingBox()) notePaint(*box);
-}
-
-void CairoCanvas::Drawing::clear(const Path& path) {
-  const auto box = path.boundingBox();
-  if (!isReady() || !box || !isPainted(inPixels(*box))) return;
-  _pendingClear = path;
-  if (format == PictureFormat::png) finishPendingClear();
-}
-
 bool CairoCanvas::Drawing::isReady() {
   finishPendingClear();
   return !state().isCollapsed;
@@ -183,21 +154,25 @@ Rect CairoCanvas::Drawing::inPixels(const Rect& rect) const {
     cairo_user_to_device(context(), &point.x, &point.y);
     corners.moveTo(point);
   }
-  return *corners.boundingBox();
+  const Rect box = *corners.boundingBox();
+  const double left = std::floor(box.minX()), top = std::floor(box.minY());
+  return {left, top, std::ceil(box.maxX()) - left, std::ceil(box.maxY()) - top};
 }
 
-bool CairoCanvas::Drawing::isPainted(const Rect& rect) const {
+Rect CairoCanvas::Drawing::visiblePixels() const {
+  cairo_matrix_t frame;
+  cairo_get_matrix(context(), &frame);
+  double left = 0, top = 0, right = 0, bottom = 0;
+  cairo_identity_matrix(context());
+  cairo_clip_extents(context(), &left, &top, &right, &bottom);
+  cairo_set_matrix(context(), &frame);
+  return {left, top, right - left, bottom - top};
+}
+
+bool CairoCanvas::Drawing::isPainted(const Rect& pixels) const {
   const PaintedRects& painted = _layers.back();
   return std::any_of(painted.begin(), painted.end(),
-                     [&](const Rect& other) { return overlap(rect.inset(-1, -1), other); });
-}
-
-void CairoCanvas::Drawing::finishPendingClear() {
-  if (!_pendingClear) return;
-  cairo_set_operator(context(), CAIRO_OPERATOR_CLEAR);
-  setPath(context(), *_pendingClear);
-  cairo_fill(context());
-  _pendingClear.reset();
+                     [&](const Rect& other) { return !pixels.intersection(other).isEmpty(); });
 }
 
 }  // namespace velmora

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+#include <memory>
 #include <optional>
 #include <set>
 #include <string>
@@ -7,6 +9,8 @@
 
 #include <velmora/platform/graphics/cairo/CairoCanvas.h>
 #include <velmora/platform/graphics/cairo/CairoHandles.h>
+#include <velmora/platform/graphics/cairo/CairoText.h>
+#include <velmora/platform/graphics/cairo/ShapeKey.h>
 
 namespace [[gnu::visibility("hidden")]] velmora {
 
@@ -14,6 +18,13 @@ namespace [[gnu::visibility("hidden")]] velmora {
 /// lies.
 class [[gnu::visibility("hidden")]] CairoCanvas::Drawing {
  public:
+  /// A clip as it was set, and those set before it.
+  struct Clip {
+    ShapeKey outline;
+    cairo_matrix_t frame;
+    std::shared_ptr<const Clip> outer;
+  };
+
   struct State {
     enum class Kind { base, save, group };
     Kind kind = Kind::base;
@@ -21,8 +32,9 @@ class [[gnu::visibility("hidden")]] CairoCanvas::Drawing {
     Color fill = Color::black();
     double alpha = 1;
     BlendMode blendMode = BlendMode::normal;
-    bool isCollapsed = false;     ///< the frame has no area: nothing shows
-    std::optional<double> layer;  ///< the alpha of a group's own layer
+    bool isCollapsed = false;          ///< the frame has no area: nothing shows
+    std::shared_ptr<const Clip> clip;  ///< the innermost one
+    std::optional<double> layer;       ///< the alpha of a group's own layer
   };
 
   Drawing(PictureFormat format, Size size, double scale, Color background);
@@ -46,14 +58,18 @@ class [[gnu::visibility("hidden")]] CairoCanvas::Drawing {
   void transform(const AffineTransform& transform);
   void clip(const Path& path);
   void fill(const Path& path);
+  void stroke(const Path& path);
   void clear(const Path& path);
+  /// The run is part of the line with the serial.
+  void drawGlyphs(const GlyphRun& run, std::uint64_t lineSerial);
+  void drawImage(const Image& image, const Rect& rect);
 
   /// To be asked before anything else is drawn: whether it shows.
   bool isReady();
   /// Sets colour, alpha and blend mode.
   void setPaint(const Color& color);
   /// Notes that something was drawn within the rectangle of the current frame.
-  void notePaint(const Rect& rect) { _layers.back().push_back(inPixels(rect)); }
+  void notePaint(const Rect& rect) { _layers.back().push_back(visiblePixels(rect)); }
 
   void noteUncovered(const std::set<std::string>& characters) {
     _uncovered.insert(characters.begin(), characters.end());
@@ -63,9 +79,27 @@ class [[gnu::visibility("hidden")]] CairoCanvas::Drawing {
  private:
   using PaintedRects = std::vector<Rect>;  ///< in pixels
 
+  /// What covers pixels: a figure, glyphs or an image.
+  struct Shape {
+    ShapeKey key;                ///< all that tells it from other shapes in the same frame and clips
+    Rect box;                    ///< holds all of it
+    cairo_content_t content;     ///< with colours of its own, or to be drawn with the paint that is set
+    std::function<void()> draw;  ///< onto the context
+  };
+
   void popState();
+  void cover(const Path& path, const Rect& box);
+  bool isWorthKeeping(const Path& path) const;
+  void place(const Shape& shape);
+  ShapeKey keyInPlace(ShapeKey key, const Rect& pixels) const;
+  CairoSurface makePixels(const Shape& shape, const Rect& pixels);
+  void layDown(cairo_surface_t* pixels, cairo_content_t content, Point topLeft);
+  /// The whole pixels that the rectangle of the current frame touches.
   Rect inPixels(const Rect& rect) const;
-  bool isPainted(const Rect& rect) const;
+  /// Those that the clip lets show, or a rectangle around them.
+  Rect visiblePixels() const;
+  Rect visiblePixels(const Rect& rect) const { return visiblePixels().intersection(inPixels(rect)); }
+  bool isPainted(const Rect& pixels) const;
   void finishPendingClear();
 
   CairoSurface _surface;

@@ -48,6 +48,7 @@ CairoSurface surfaceOf(const Image& image) {
 void paintImage(cairo_t* context, const Image& image, const Rect& rect, double alpha) {
   const CairoSurface surface = surfaceOf(image);
   if (!surface) return;
+  cairo_save(context);
   cairo_rectangle(context, rect.x, rect.y, rect.width, rect.height);
   cairo_clip(context);
   cairo_translate(context, rect.x, rect.y);
@@ -56,17 +57,21 @@ void paintImage(cairo_t* context, const Image& image, const Rect& rect, double a
   cairo_set_source_surface(context, surface.get(), 0, 0);
   cairo_pattern_set_extend(cairo_get_source(context), CAIRO_EXTEND_PAD);  // edges do not fade
   cairo_paint_with_alpha(context, alpha);
+  cairo_restore(context);
+}
+
+void copyRow(cairo_surface_t* surface, int y, std::uint8_t* rgba) {
+  const std::uint32_t* const source = row(surface, y);
+  const int width = cairo_image_surface_get_width(surface);
+  for (int x = 0; x < width; ++x, rgba += 4) unpack(source[x], rgba);
 }
 
 std::vector<std::uint8_t> bytesOfSurface(cairo_surface_t* surface) {
   cairo_surface_flush(surface);
-  const int width = cairo_image_surface_get_width(surface), height = cairo_image_surface_get_height(surface);
-  std::vector<std::uint8_t> bytes(static_cast<std::size_t>(width) * static_cast<std::size_t>(height) * 4);
-  std::uint8_t* target = bytes.data();
-  for (int y = 0; y < height; ++y) {
-    const std::uint32_t* const source = row(surface, y);
-    for (int x = 0; x < width; ++x, target += 4) unpack(source[x], target);
-  }
+  const std::size_t rowSize = static_cast<std::size_t>(cairo_image_surface_get_width(surface)) * 4;
+  const int height = cairo_image_surface_get_height(surface);
+  std::vector<std::uint8_t> bytes(rowSize * static_cast<std::size_t>(height));
+  for (int y = 0; y < height; ++y) copyRow(surface, y, bytes.data() + rowSize * static_cast<std::size_t>(y));
   return bytes;
 }
 

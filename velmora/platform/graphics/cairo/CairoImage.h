@@ -10,9 +10,11 @@
 
 namespace [[gnu::visibility("hidden")]] velmora {
 
-/// Paints the whole image into the rectangle with the context's operator. It changes the frame and the
-/// source.
+/// Paints the whole image into the rectangle with the context's operator.
 void paintImage(cairo_t* context, const Image& image, const Rect& rect, double alpha);
+
+/// One row of pixels of an image surface, each as red, green, blue, alpha of 8 bits, premultiplied.
+void copyRow(cairo_surface_t* surface, int y, std::uint8_t* rgba);
 
 /// The pixels of an image surface as red, green, blue, alpha of 8 bits, premultiplied.
 std::vector<std::uint8_t> bytesOfSurface(cairo_surface_t* surface);

@@ -24,35 +24,48 @@ void setFace(cairo_t* context, const cairo_scaled_font_t* scaledFace) {
   cairo_set_font_options(context, options.get());
 }
 
-void show(cairo_t* context, GlyphStyle style, const std::vector<cairo_glyph_t>& glyphs) {
-  const auto count = static_cast<int>(glyphs.size());
-  if (style == GlyphStyle::characters) return cairo_show_glyphs(context, glyphs.data(), count);
-  cairo_new_path(context);
-  cairo_glyph_path(context, glyphs.data(), count);
-  cairo_fill(context);
-}
+/// By which a face's extents may fall short, in points.
+constexpr double rounding = 0.1;
+
+int count(const GlyphRun& run) { return static_cast<int>(run.glyphs.size()); }
 
 }  // namespace
 
-void drawGlyphs(cairo_t* context, GlyphStyle style, const ShapedLine& line, const AttributedText& text,
-                std::size_t first, std::size_t end, Point topLeft,
-                const std::function<void(const Color&)>& setPaint) {
+std::vector<GlyphRun> glyphRuns(const ShapedLine& line, const AttributedText& text, std::size_t first,
+                                std::size_t end, Point topLeft) {
   const Point baseline = topLeft + Point{0, line.metrics.ascent};
-  std::vector<cairo_glyph_t> glyphs;
+  std::vector<GlyphRun> runs;
   for (std::size_t i = first; i < end; ++i) {
     const ShapedLine::Glyph& glyph = line.glyphs[i];
-    const Point origin = baseline + glyph.position;
-    glyphs.push_back({glyph.index, origin.x, origin.y});
-
     const Color& color = colorAt(text, glyph.byte);
-    const bool isLastOfItsKind = i + 1 == end || line.glyphs[i + 1].face != glyph.face ||
-                                 colorAt(text, line.glyphs[i + 1].byte) != color;
-    if (!isLastOfItsKind) continue;
-    setPaint(color);
-    setFace(context, glyph.face);
-    show(context, style, glyphs);
-    glyphs.clear();
+    if (runs.empty() || runs.back().face != glyph.face || runs.back().color != color) {
+      runs.push_back({i, glyph.face, color, {}});
+    }
+    const Point origin = baseline + glyph.position;
+    runs.back().glyphs.push_back({glyph.index, origin.x, origin.y});
   }
+  return runs;
+}
+
+Rect inkBox(cairo_t* context, const GlyphRun& run) {
+  setFace(context, run.face);
+  cairo_text_extents_t ink;
+  cairo_glyph_extents(context, run.glyphs.data(), count(run), &ink);
+  const cairo_glyph_t& origin = run.glyphs.front();
+  const Rect box = {origin.x + ink.x_bearing, origin.y + ink.y_bearing, ink.width, ink.height};
+  return box.inset(-rounding, -rounding);
+}
+
+void fillOutlines(cairo_t* context, const GlyphRun& run) {
+  setFace(context, run.face);
+  cairo_new_path(context);
+  cairo_glyph_path(context, run.glyphs.data(), count(run));
+  cairo_fill(context);
+}
+
+void showCharacters(cairo_t* context, const GlyphRun& run) {
+  setFace(context, run.face);
+  cairo_show_glyphs(context, run.glyphs.data(), count(run));
 }
 
 }  // namespace velmora

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <cstddef>
-#include <functional>
+#include <vector>
 
 #include <cairo.h>
 
@@ -10,16 +10,25 @@
 
 namespace [[gnu::visibility("hidden")]] velmora {
 
-/// How glyphs reach a surface.
-enum class GlyphStyle {
-  outlines,    ///< as filled outlines, which lie exactly where the line has them: for pixels
-  characters,  ///< as characters of a face, which can be searched and selected: for SVG and PDF
+/// Glyphs that follow each other in one face and colour, placed where they are drawn.
+struct GlyphRun {
+  std::size_t first;  ///< in the line
+  const cairo_scaled_font_t* face;
+  Color color;
+  std::vector<cairo_glyph_t> glyphs;
 };
 
-/// Draws the glyphs from first up to end of the text's line, whose top left is the point, after asking for
-/// the paint of each colour.
-void drawGlyphs(cairo_t* context, GlyphStyle style, const ShapedLine& line, const AttributedText& text,
-                std::size_t first, std::size_t end, Point topLeft,
-                const std::function<void(const Color&)>& setPaint);
+/// The glyphs from first up to end of the text's line, whose top left is the point.
+std::vector<GlyphRun> glyphRuns(const ShapedLine& line, const AttributedText& text, std::size_t first,
+                                std::size_t end, Point topLeft);
+
+/// A rectangle that holds the outlines closely.
+Rect inkBox(cairo_t* context, const GlyphRun& run);
+
+/// Fills the outlines, which lie exactly where the line has them: for pixels.
+void fillOutlines(cairo_t* context, const GlyphRun& run);
+
+/// Draws characters of the face, which can be searched and selected: for SVG and PDF.
+void showCharacters(cairo_t* context, const GlyphRun& run);
 
 }  // namespace velmora

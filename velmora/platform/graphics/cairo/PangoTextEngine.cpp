@@ -88,16 +88,21 @@ void PangoTextEngine::followLocale() {
   if (locale.identifier() == _locale) return;
   _locale = locale.identifier();
   _families = std::string(scriptFaces) + hanFace(locale);
-  _lines.clear();
+  forget();
   pango_context_set_language(_context.get(), pango_language_from_string(_locale.c_str()));
   pango_context_set_base_dir(_context.get(),
                              locale.isRightToLeft() ? PANGO_DIRECTION_WEAK_RTL : PANGO_DIRECTION_WEAK_LTR);
 }
 
+void PangoTextEngine::forget() {
+  _lines.clear();
+  _extents.clear();
+}
+
 std::shared_ptr<const ShapedLine> PangoTextEngine::line(const AttributedText& text) {
   constexpr std::size_t mostLines = 2000;
   followLocale();
-  if (_lines.size() >= mostLines) _lines.clear();
+  if (_lines.size() >= mostLines) forget();
   std::shared_ptr<const ShapedLine>& known = _lines[key(text)];
   if (!known) known = std::make_shared<const ShapedLine>(shape(text));
   return known;
@@ -132,6 +137,7 @@ ShapedLine PangoTextEngine::shape(const AttributedText& text) {
   pango_layout_set_attributes(layout.get(), attributes.get());
 
   ShapedLine line = readLine(layout.get());
+  line.serial = ++_lastSerial;
   line.metrics.ascent = tallest.ascent;
   line.metrics.descent = tallest.descent;
   return line;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <set>
 #include <string>
@@ -36,6 +37,7 @@ class PangoTextEngine final : public TextEngine {
   PangoTextEngine();
 
   void followLocale();
+  void forget();
   ShapedLine shape(const AttributedText& text);
   Extent extent(const Font& font);
 
@@ -44,6 +46,7 @@ class PangoTextEngine final : public TextEngine {
   std::string _locale;
   std::string _families;
   std::unordered_map<std::string, std::shared_ptr<const ShapedLine>> _lines;
+  std::uint64_t _lastSerial = 0;
   std::unordered_map<std::string, Extent> _extents;
 };
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <set>
 #include <string>
 #include <vector>
@@ -21,6 +22,7 @@ struct ShapedLine {
     std::size_t byte;                 ///< where its character begins in the text
   };
 
+  std::uint64_t serial;  ///< tells it from every other line of the process
   TextMetrics metrics;
   std::vector<Glyph> glyphs;        ///< in reading order
   std::set<std::string> uncovered;  ///< the characters without a glyph

@@ -1,0 +1,241 @@
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <numbers>
+#include <sstream>
+#include <string>
+#include <thread>
+#include <utility>
+#include <vector>
+
+#include <velmora/platform/graphics/TextLayout.h>
+#include <velmora/platform/resources/Image.h>
+#include <velmora/platform/time/Locale.h>
+
+#include "tests/platform/graphics/Pixels.h"
+
+namespace velmora {
+namespace {
+
+using testing::Pixels;
+
+constexpr Size size = {60, 40};
+constexpr double scale = 3;
+constexpr Rect disc = {5.3, 5.7, 20, 20};
+
+using PictureBytes = std::vector<std::uint8_t>;
+using Drawing = std::function<void(Canvas&)>;
+
+PictureBytes drawn(const Drawing& drawing) {
+  CairoCanvas canvas(PictureFormat::png, size, scale);
+  drawing(canvas);
+  EXPECT_EQ(canvas.error(), std::nullopt);
+  return canvas.pixels();
+}
+
+/// As drawn in a thread that has drawn nothing before.
+PictureBytes drawnAfresh(const Drawing& drawing) {
+  PictureBytes pixels;
+  std::thread([&] { pixels = drawn(drawing); }).join();
+  return pixels;
+}
+
+std::shared_ptr<const Image> halfRed() {
+  CairoCanvas canvas(PictureFormat::png, {4, 4});
+  canvas.setFillColor({1, 0, 0, 1});
+  canvas.fillRect({0, 0, 2, 4});
+  std::ostringstream png;
+  EXPECT_EQ(canvas.write(png), std::nullopt);
+  return Image::fromBytes("half red", png.str());
+}
+
+void drawText(Canvas& canvas, const std::string& text, const Color& color = Color::black()) {
+  TextLayout(AttributedText(text, {.font = Font::systemFont(13), .color = color}))
+      .drawAtPoint(canvas, {10.2, 10.4});
+}
+
+void drawGibbous(Canvas& canvas) {
+  canvas.save();
+  canvas.clip(Path::ellipse(disc));
+  canvas.setFillColor({0.8, 0.8, 0.7, 0.9});
+  Path lit = Path::ellipse({disc.midX() - 4, disc.y, 8, disc.height});
+  lit.addRect({disc.midX(), disc.y, disc.width / 2, disc.height});
+  canvas.fill(lit);
+  canvas.setLineWidth(2);
+  canvas.strokeEllipse(disc);
+  canvas.restore();
+}
+
+void drawCutOut(Canvas& canvas) {
+  canvas.fillRect({0, 0, 40, 40});
+  canvas.setBlendMode(BlendMode::clear);
+  canvas.fillEllipse(disc);
+  canvas.setBlendMode(BlendMode::normal);
+}
+
+void drawFadedImage(Canvas& canvas) {
+  static const auto image = halfRed();
+  canvas.fillRect({0, 0, 20, 40});
+  canvas.setAlpha(0.7);
+  canvas.setBlendMode(BlendMode::overlay);
+  canvas.drawImage(*image, disc);
+}
+
+/// Each looks different from the others.
+const std::vector<std::pair<const char*, Drawing>>& drawings() {
+  static const std::vector<std::pair<const char*, Drawing>> all = {
+      {"disc", [](Canvas& canvas) { canvas.fillEllipse(disc); }},
+      {"coloured disc",
+       [](Canvas& canvas) {
+         canvas.setFillColor(Color::cyan());
+         canvas.fillEllipse(disc);
+       }},
+      {"wider disc", [](Canvas& canvas) { canvas.fillEllipse(disc.inset(-1, 0)); }},
+      {"ring", [](Canvas& canvas) { canvas.strokeEllipse(disc); }},
+      {"thick ring",
+       [](Canvas& canvas) {
+         canvas.setLineWidth(4);
+         canvas.strokeEllipse(disc);
+       }},
+      {"dashed ring",
+       [](Canvas& canvas) {
+         canvas.setLineDash({3, 2});
+         canvas.strokeEllipse(disc);
+       }},
+      {"dashed ring that begins later",
+       [](Canvas& canvas) {
+         canvas.setLineDash({3, 2}, 1);
+         canvas.strokeEllipse(disc);
+       }},
+      {"right half",
+       [](Canvas& canvas) {
+         canvas.clip(Path::rect({disc.midX(), 0, 60, 40}));
+         canvas.fillEllipse(disc);
+       }},
+      {"right half, its lower part",
+       [](Canvas& canvas) {
+         canvas.clip(Path::rect({disc.midX(), 0, 60, 40}));
+         canvas.clip(Path::ellipse({0, 18, 60, 40}));
+         canvas.fillEllipse(disc);
+       }},
+      {"shifted by part of a pixel",
+       [](Canvas& canvas) {
+         canvas.translate(0.1, 0);
+         canvas.fillEllipse(disc);
+       }},
+      {"scaled",
+       [](Canvas& canvas) {
+         canvas.scale(1.1, 1);
+         canvas.fillEllipse(disc);
+       }},
+      {"turned",
+       [](Canvas& canvas) {
+         canvas.rotate(0.1);
+         canvas.fill(Path::roundedRect(disc, 4));
+       }},
+      {"gibbous", drawGibbous},
+      {"cut out", drawCutOut},
+      {"text", [](Canvas& canvas) { drawText(canvas, "14 (3)"); }},
+      {"other text", [](Canvas& canvas) { drawText(canvas, "14 (8)"); }},
+      {"coloured text", [](Canvas& canvas) { drawText(canvas, "14 (3)", Color::cyan()); }},
+      {"glyph",
+       [](Canvas& canvas) {
+         TextLayout(AttributedText("14 (3)", {.font = Font::systemFont(13)})).drawGlyph(canvas, 1, {10, 10});
+       }},
+      {"image", drawFadedImage},
+      {"mirrored image", [](Canvas& canvas) { canvas.drawImage(*halfRed()->mirrored(), disc); }},
+      {"faded group",
+       [](Canvas& canvas) {
+         canvas.beginGroup(0.4);
+         canvas.fillEllipse(disc);
+         canvas.endGroup();
+       }},
+  };
+  return all;
+}
+
+TEST(DrawnAgain, EverythingLooksTheSameToTheLastBit) {
+  const ScopedLocale english("en_US");
+  for (const auto& [name, drawing] : drawings()) {
+    const PictureBytes fresh = drawnAfresh(drawing);
+    EXPECT_EQ(drawn(drawing), fresh) << name;
+    EXPECT_EQ(drawn(drawing), fresh) << name;
+  }
+}
+
+TEST(DrawnAgain, NothingIsTakenForAnother) {
+  const ScopedLocale english("en_US");
+  std::map<PictureBytes, std::string> seen;
+  for (const auto& [name, drawing] : drawings()) {
+    const auto [former, isNew] = seen.emplace(drawn(drawing), name);
+    EXPECT_TRUE(isNew) << name << " looks like " << former->second;
+  }
+}
+
+TEST(DrawnAgain, AShapeElsewhereByWholePixelsLooksTheSame) {
+  Pixels picture(size, scale);
+  drawGibbous(picture.canvas);
+  picture.canvas.translate(28, 5);
+  drawGibbous(picture.canvas);
+  for (std::size_t y = 15; y < 80; ++y) {
+    ASSERT_EQ(picture.at(y, y), picture.at(y + 84, y + 15)) << y;
+  }
+}
+
+TEST(DrawnAgain, AShapeCutByThePicturesEdgeIsWholeElsewhere) {
+  const auto discAt = [](double x) {
+    return [x](Canvas& canvas) {
+      canvas.translate(x, 0);
+      canvas.fillEllipse({0, 0, 20, 20});
+    };
+  };
+  const PictureBytes whole = drawnAfresh(discAt(20));
+  const PictureBytes cut = drawn(discAt(-10));
+  EXPECT_NE(cut, whole);
+  EXPECT_EQ(drawn(discAt(20)), whole);
+  EXPECT_EQ(drawn(discAt(-10)), cut);
+}
+
+TEST(DrawnAgain, AShapeKeepsItsPlaceWhereTheClipHasParts) {
+  const Drawing throughTwoWindows = [](Canvas& canvas) {
+    Path windows = Path::rect({0, 0, 10, 10});
+    windows.addRect({30, 20, 10, 10});
+    canvas.clip(windows);
+    canvas.fillEllipse({20, 10, 30, 30});
+  };
+  EXPECT_EQ(drawn(throughTwoWindows), drawnAfresh(throughTwoWindows));
+  Pixels picture(size, scale);
+  throughTwoWindows(picture.canvas);
+  EXPECT_EQ(picture.at(3 * 35, 3 * 25), "#000000FF");
+  EXPECT_EQ(picture.at(3 * 31, 3 * 21), "#000000FF");
+  EXPECT_EQ(picture.at(3 * 25, 3 * 15), "#00000000");
+  EXPECT_EQ(picture.at(3 * 45, 3 * 25), "#00000000");
+}
+
+TEST(DrawnAgain, ATextFollowsTheLocale) {
+  const Drawing han = [](Canvas& canvas) { drawText(canvas, "直"); };
+  const auto drawnIn = [&](const char* locale) {
+    const ScopedLocale scope{std::string(locale)};
+    return drawn(han);
+  };
+  const PictureBytes chinese = drawnIn("zh-Hans");
+  EXPECT_NE(drawnIn("ja"), chinese) << "the stroke at the left is drawn otherwise";
+  EXPECT_EQ(drawnIn("zh-Hans"), chinese);
+}
+
+TEST(DrawnAgain, MoreShapesThanAreKeptLookTheSame) {
+  constexpr Size large = {500, 500};
+  const auto ellipse = [&](int narrowing) {
+    CairoCanvas canvas(PictureFormat::png, large);
+    canvas.fillEllipse(Rect{0, 0, 500, 500}.inset(narrowing, 0));
+    return canvas.pixels();
+  };
+  const PictureBytes first = ellipse(0);
+  for (int narrowing = 1; narrowing < 70; ++narrowing) ellipse(narrowing);
+  EXPECT_EQ(ellipse(0), first);
+}
+
+}  // namespace
+}  // namespace velmora
