@@ -11,7 +11,6 @@ struct PangoDeleter {
   void operator()(PangoFontDescription* description) const { pango_font_description_free(description); }
   void operator()(PangoAttrList* attributes) const { pango_attr_list_unref(attributes); }
   void operator()(PangoLayoutIter* iterator) const { pango_layout_iter_free(iterator); }
-  void operator()(PangoFontMetrics* metrics) const { pango_font_metrics_unref(metrics); }
   void operator()(PangoFontMap* map) const { g_object_unref(map); }
   void operator()(PangoContext* context) const { g_object_unref(context); }
   void operator()(PangoLayout* layout) const { g_object_unref(layout); }

@@ -148,9 +148,11 @@ PangoTextEngine::Extent PangoTextEngine::extent(const Font& font) {
   if (isNew) {
     const PangoHandle<PangoFont> loaded(
         pango_context_load_font(_context.get(), description(font, _families).get()));
-    const PangoHandle<PangoFontMetrics> metrics(pango_font_get_metrics(loaded.get(), nullptr));
-    found->second = {pango_units_to_double(pango_font_metrics_get_ascent(metrics.get())),
-                     pango_units_to_double(pango_font_metrics_get_descent(metrics.get()))};
+    // Pango's own metrics would cost the layout of a sample text.
+    cairo_font_extents_t extents = {};
+    cairo_scaled_font_t* const face = pango_cairo_font_get_scaled_font(PANGO_CAIRO_FONT(loaded.get()));
+    if (face != nullptr) cairo_scaled_font_extents(face, &extents);
+    found->second = {extents.ascent, extents.descent};
   }
   return found->second;
 }
