@@ -123,6 +123,26 @@ TEST(Picture, AnImageClearsItsRectangleWhateverItsAlpha) {
   EXPECT_EQ(canvas.pixels(), (std::vector<std::uint8_t>{0, 0, 0, 255, 0, 0, 0, 0}));
 }
 
+TEST(Picture, TranslucentColoursAreReadBackAsTheyWereDrawn) {
+  CairoCanvas canvas(PictureFormat::png, {6, 1});
+  for (int x = 0; x < 6; ++x) {
+    canvas.setFillColor({1, 0.6, 0.2, x / 5.0});
+    canvas.fillRect({static_cast<double>(x), 0, 1, 1});
+  }
+  const std::vector<std::uint8_t> pixels = canvas.pixels();
+  EXPECT_EQ(decoded(written(canvas))->pixels(), PixelBytes(pixels.begin(), pixels.end()));
+}
+
+TEST(Picture, APngHasAlphaOnlyWhereSomethingIsSeenThrough) {
+  constexpr std::size_t placeOfColorType = 25;
+  constexpr char colors = 2, colorsWithAlpha = 6;
+  CairoCanvas canvas(PictureFormat::png, {2, 1});
+  canvas.fillRect({0, 0, 2, 1});
+  EXPECT_EQ(written(canvas).at(placeOfColorType), colors);
+  canvas.clearRect({1, 0, 1, 1});
+  EXPECT_EQ(written(canvas).at(placeOfColorType), colorsWithAlpha);
+}
+
 TEST(Picture, AnImageIsOneElementOfAnSvg) {
   CairoCanvas source(PictureFormat::png, {4, 4});
   source.fillRect({0, 0, 4, 4});

@@ -6,6 +6,8 @@
 #include <cmath>
 #include <ostream>
 
+#include <velmora/platform/graphics/cairo/PngWriter.h>
+
 namespace velmora {
 namespace {
 
@@ -27,8 +29,7 @@ cairo_status_t encodePixels(cairo_surface_t* pixels, const Color& background, st
     cairo_paint(context.get());
   }
   const cairo_status_t status = cairo_status(context.get());
-  return status != CAIRO_STATUS_SUCCESS ? status
-                                        : cairo_surface_write_to_png_stream(pixels, writeBytes, &output);
+  return status == CAIRO_STATUS_SUCCESS ? writePng(pixels, output) : status;
 }
 
 CairoSurface makePage(PictureFormat format, Size size, std::ostream& output) {
