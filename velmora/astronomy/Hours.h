@@ -20,7 +20,10 @@ class Hours {
   static Hours from(double first) { return {Pair{first, first + 1}, Pair{first + 2, first + 3}}; }
 
   double operator[](std::size_t hour) const { return hour < 2 ? _early[hour] : _late[hour - 2]; }
-  void set(std::size_t hour, double number) { (hour < 2 ? _early : _late)[hour % 2] = number; }
+  void set(std::size_t hour, double number) {
+    Pair& pair = hour < 2 ? _early : _late;
+    pair[hour % 2] = number;
+  }
 
   friend Hours operator+(const Hours& a, const Hours& b) { return {a._early + b._early, a._late + b._late}; }
   friend Hours operator-(const Hours& a, const Hours& b) { return {a._early - b._early, a._late - b._late}; }
