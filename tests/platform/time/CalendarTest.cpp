@@ -29,6 +29,16 @@ TEST(Calendar, IsGregorianBeforeTheGregorianReform) {
                 .year = 1969, .month = 12, .day = 31, .hour = 23, .minute = 59, .second = 59, .weekday = 4}));
 }
 
+TEST(Calendar, AnInstantJustBeforeMidnightBelongsToTheDayThatEnds) {
+  for (const double seconds : {-1e-3, -1e-12, -1e-310}) {
+    EXPECT_EQ(
+        in("UTC").components(instantFromUnixSeconds(seconds)),
+        (DateComponents{
+            .year = 1969, .month = 12, .day = 31, .hour = 23, .minute = 59, .second = 59, .weekday = 4}))
+        << seconds;
+  }
+}
+
 TEST(Calendar, ComponentsOutOfTheirRangeCarryOver) {
   EXPECT_EQ(utc(2024, 3, 0), utc(2024, 2, 29));
   EXPECT_EQ(utc(2024, 1, 32), utc(2024, 2, 1));

@@ -16,6 +16,7 @@ using LocalSecond = std::chrono::local_seconds;
 // Years that std::chrono's calendar can hold; a reading beyond them stays at the edge.
 const LocalTime earliestReading = local_days(year::min() / 1 / 1);
 const LocalTime latestReading = local_days(year::max() / 12 / 31);
+constexpr double lastSecondOfDay = 86'399;
 
 LocalTime clamped(LocalTime reading) {
   return reading >= earliestReading ? std::min(reading, latestReading) : earliestReading;
@@ -52,7 +53,9 @@ DateComponents Calendar::components(Instant instant) const {
   const LocalTime local = clamped(_timeZone.localTime(instant));
   const local_days day = floor<days>(local);
   const year_month_day date(day);
-  const auto secondOfDay = static_cast<std::int64_t>(std::floor((local - LocalTime(day)).count()));
+  // The difference may round up to a whole day.
+  const double sinceMidnight = std::min((local - LocalTime(day)).count(), lastSecondOfDay);
+  const auto secondOfDay = static_cast<std::int64_t>(sinceMidnight);
   return {
       .year = static_cast<int>(date.year()),
       .month = static_cast<unsigned>(date.month()),
