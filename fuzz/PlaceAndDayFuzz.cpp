@@ -16,6 +16,7 @@
 namespace velmora {
 namespace {
 
+constexpr std::int64_t minutesPerDay = 1440;
 constexpr double hitTolerance = 0.0501;  // degrees, of the elevation searches
 
 void require(bool condition) {
@@ -35,7 +36,8 @@ bool isIn(double value, double low, double high) {
   return std::isnan(value) || (value >= low && value <= high);
 }
 
-bool isMinute(std::int64_t minutes, std::int64_t last) { return minutes >= -1 && minutes <= last; }
+/// A rise too may be one of the next day: a grazing pass then moves it there.
+bool isMinute(std::int64_t minutes) { return minutes >= -1 && minutes <= 2 * minutesPerDay; }
 
 /// Digits, a colon and two digits, with " AM" or " PM" and " **" after them; or the marks of no event.
 bool isEventText(std::string_view text) {
@@ -51,12 +53,11 @@ bool isDegreesText(std::string_view text) {
 }
 
 void checkDay(const RiseSetData& day) {
-  constexpr std::int64_t oneDay = 1440;
-  require(isMinute(day.sunRiseMinutesFromMidnight, oneDay));
-  require(isMinute(day.sunSetMinutesFromMidnight, 2 * oneDay));
-  require(isMinute(day.moonRiseMinutesFromMidnight, oneDay));
-  require(isMinute(day.moonSetMinutesFromMidnight, 2 * oneDay));
-  require(day.dayLengthMinutes >= 0 && day.dayLengthMinutes <= oneDay);
+  require(isMinute(day.sunRiseMinutesFromMidnight));
+  require(isMinute(day.sunSetMinutesFromMidnight));
+  require(isMinute(day.moonRiseMinutesFromMidnight));
+  require(isMinute(day.moonSetMinutesFromMidnight));
+  require(std::abs(day.dayLengthMinutes) <= minutesPerDay);
   for (const std::string* text : {&day.sunRiseText, &day.sunSetText, &day.moonRiseText, &day.moonSetText,
                                   &day.twilightBeginText, &day.twilightEndText}) {
     require(isEventText(*text));
