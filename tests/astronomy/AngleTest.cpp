@@ -32,6 +32,14 @@ TEST(Angle, OfAPerturbationByTaylorsSeriesIsRightToTheLastDigit) {
   EXPECT_EQ(cos(smallAngle(0.0)), 1);
 }
 
+TEST(Angle, WithinATurnByDoublingsIsRightToFourteenDigits) {
+  constexpr int steps = 10000;
+  for (int i = 0; i <= steps; ++i) {
+    const double radians = 6.283185307179586 * i / steps;
+    expectAngle(angleWithinTurn(radians), radians, 1e-14);
+  }
+}
+
 Hours hours(const std::vector<double>& numbers) {
   Hours all;
   for (std::size_t i = 0; i < Hours::count; ++i) all.set(i, numbers[i]);

@@ -131,12 +131,17 @@ std::vector<PositionData> RiseAndSetCalc::Get24HourSunPositionsForDate(Instant d
                                                                        std::int64_t secondsFromGMT) {
   const Calendar calendar(location.calendarZone(secondsFromGMT));
   const DateComponents first = calendar.components(movedToUniversalReading(date, secondsFromGMT));
+  const double firstDay = daysFromJ2000(first.year, first.month, first.day, 0);
+  const double longitude = location.longitude * radiansPerDegree;
+  const Angle<double> latitude = angleOfRadians(location.latitude * radiansPerDegree);
+
   std::vector<PositionData> positions;
   positions.reserve(sunSamples);
-  for (std::int64_t hour = 0; positions.size() < sunSamples; ++hour) {
+  for (std::int64_t n = 0; positions.size() < sunSamples; ++n) {
+    const auto hour = static_cast<double>(first.hour + n);
     // The zone value is the offset in seconds: the records' hours mean nothing here, by intent.
-    positions.push_back(
-        sunPositionAt(location, first, static_cast<double>(first.hour + hour), secondsFromGMT));
+    positions.push_back(positionAt(sunCoordinates(firstDay + hour / 24, longitude, latitude),
+                                   sunZoneHour(hour, secondsFromGMT)));
   }
   return positions;
 }

@@ -69,6 +69,11 @@ double daysFromJ2000(std::int64_t year, std::int64_t month, std::int64_t day, do
   return n - 730531.5 + hour / 24;
 }
 
+double sunZoneHour(double hour, std::int64_t zone) {
+  const auto hours = static_cast<double>(zone);
+  return hour + hours < 0 ? hour + (hours + 24) : hour + hours;
+}
+
 PositionData positionAt(const HorizontalCoordinates& place, double hour) {
   return {place.altitude, place.azimuth, hour, degreesText(place.altitude), degreesText(place.azimuth)};
 }

@@ -25,6 +25,10 @@ HorizontalCoordinates moonCoordinates(const Direction<double>& moon, double mjd,
 /// Days from 2000 January 1, 12h for `sunCoordinates`, valid from 1901 to 2099.
 double daysFromJ2000(std::int64_t year, std::int64_t month, std::int64_t day, double hour);
 
+/// The hour that the Sun's record carries: a universal hour and the zone value given with it, 24 more where
+/// that falls below zero.
+double sunZoneHour(double hour, std::int64_t zone);
+
 /// The record of a position with its texts.
 PositionData positionAt(const HorizontalCoordinates& place, double hour);
 

@@ -21,10 +21,9 @@ double RiseAndSetCalc::FNsun(double daysFromJ2000) {
 PositionData RiseAndSetCalc::CalculateSunPosition(double longitude, double latitude, std::int64_t year,
                                                   std::int64_t month, std::int64_t day, double hour,
                                                   std::int64_t timezoneInterval) {
-  const auto zone = static_cast<double>(timezoneInterval);
-  const double zoneHour = hour + zone < 0 ? hour + (zone + 24) : hour + zone;
   return positionAt(
-      sunCoordinates(daysFromJ2000(year, month, day, hour), longitude, angleOfRadians(latitude)), zoneHour);
+      sunCoordinates(daysFromJ2000(year, month, day, hour), longitude, angleOfRadians(latitude)),
+      sunZoneHour(hour, timezoneInterval));
 }
 
 PositionData RiseAndSetCalc::CalculateMoonPosition(double longitude, double latitude, std::int32_t year,

@@ -23,13 +23,15 @@ EquatorialCoordinates coordinates(const Direction<double>& direction) {
 
 ArgumentValue<double> valueAt(const MeanArgument& argument, double centuries) {
   const double turns = RiseAndSetCalc::_frac(argument.atEpoch + argument.perCentury * centuries);
-  return {turns, angleOfRadians(seriesTwoPi * turns)};
+  return {turns, angleWithinTurn(seriesTwoPi * turns)};
 }
 
 ArgumentValue<Hours> valueAt(const MeanArgument& argument, const Hours& centuries) {
-  ArgumentValue<Hours> values;
-  for (std::size_t i = 0; i < Hours::count; ++i) setHour(values, i, valueAt(argument, centuries[i]));
-  return values;
+  Hours turns;
+  for (std::size_t i = 0; i < Hours::count; ++i) {
+    turns.set(i, RiseAndSetCalc::_frac(argument.atEpoch + argument.perCentury * centuries[i]));
+  }
+  return {turns, angleWithinTurn<Hours>(seriesTwoPi * turns)};
 }
 
 template <class Number>

@@ -25,18 +25,17 @@ std::string decimalTextByStream(double number, int fractionDigits) {
 }
 
 /// The whole number nearest to number · scale; of two as near the even one. Decided on the exact product: its
-/// rounded value and what that lacks. The number is not negative, the product below 2⁵³.
-std::uint64_t nearestWholeProduct(double number, double scale) {
+/// rounded value and, at a half, what that lacks. The number is not negative, the product below 2⁵³.
+std::int64_t nearestWholeProduct(double number, double scale) {
   const double product = number * scale;
-  const double lacking = std::fma(number, scale, -product);
-  const auto whole = static_cast<std::uint64_t>(product);
+  const auto whole = static_cast<std::int64_t>(product);
   const double fraction = product - static_cast<double>(whole);
-  const bool isTie = fraction == 0.5 && lacking == 0;
-  const bool isAbove = fraction > 0.5 || (fraction == 0.5 && lacking > 0);
-  return whole + (isAbove || (isTie && whole % 2 == 1) ? 1 : 0);
+  if (fraction != 0.5) return whole + (fraction > 0.5 ? 1 : 0);
+  const double lacking = std::fma(number, scale, -product);
+  return whole + (lacking > 0 || (lacking == 0 && whole % 2 == 1) ? 1 : 0);
 }
 
-constexpr std::array<std::uint64_t, 7> powersOfTen = {1, 10, 100, 1000, 10000, 100000, 1000000};
+constexpr std::array<double, 7> powersOfTen = {1, 10, 100, 1000, 10000, 100000, 1000000};
 constexpr double largestScaled = 9e15;  // below 2⁵³
 
 }  // namespace
@@ -45,12 +44,10 @@ std::string decimalText(double number, int fractionDigits) {
   if (std::isnan(number)) return "nan";
   const auto digits = static_cast<std::size_t>(fractionDigits);
   if (digits >= powersOfTen.size()) return decimalTextByStream(number, fractionDigits);
-  const std::uint64_t scale = powersOfTen[digits];
-  if (!(std::abs(number) * static_cast<double>(scale) < largestScaled)) {
-    return decimalTextByStream(number, fractionDigits);
-  }
+  const double scale = powersOfTen[digits];
+  if (!(std::abs(number) * scale < largestScaled)) return decimalTextByStream(number, fractionDigits);
 
-  std::uint64_t rest = nearestWholeProduct(std::abs(number), static_cast<double>(scale));
+  std::int64_t rest = nearestWholeProduct(std::abs(number), scale);
   std::array<char, 24> text;  // written from its end
   char* const end = text.data() + text.size();
   char* begin = end;
