@@ -1,8 +1,8 @@
 #include <app/RequestScope.h>
 
 #include <velmora/foundation/SettingsModel.h>
+#include <velmora/foundation/VelmoraCalendar.h>
 #include <velmora/service/MoonPhaseData.h>
-#include <velmora/views/OncePerProcess.h>
 
 namespace velmora::app {
 namespace {
@@ -26,7 +26,7 @@ RequestScope::RequestScope(const Request& request)
       _use24HourClock(Locale::current().uses24HourClock()),
       _timeFormat(_use24HourClock) {
   if (request.now) _now.emplace(*request.now);
-  ProcessValues::resetAll();
+  VelmoraCalendar::resetSymbols();
   MoonPhaseData::resetSharedInstance();
   MoonPhaseData::sharedInstance().setUse24HrTimeFormat(_use24HourClock);
 }

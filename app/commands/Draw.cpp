@@ -1,14 +1,14 @@
 #include <app/commands/Draw.h>
 
+#include <app/drawing/Drawing.h>
 #include <app/drawing/DrawingOptions.h>
-#include <app/drawing/Picture.h>
 #include <app/text/TextTable.h>
 
 namespace velmora::app {
 namespace {
 
 Json json(const Query& query) {
-  const Picture picture = drawPicture(query);
+  const Picture picture = drawing().picture(query);
   return {{"view", std::string(picture.view.name)},
           {"output", picture.file},
           {"width", picture.width},
@@ -16,7 +16,7 @@ Json json(const Query& query) {
 }
 
 std::string text(const Query& query) {
-  const Picture picture = drawPicture(query);
+  const Picture picture = drawing().picture(query);
   return "Wrote " + picture.file + ", " + std::to_string(picture.width) + " x " +
          std::to_string(picture.height) + " " + picture.unit + "\n";
 }

@@ -1,16 +1,11 @@
 #pragma once
 
-#include <memory>
 #include <string_view>
 #include <vector>
 
-#include <app/commands/Command.h>
-#include <velmora/platform/ui/View.h>
-
 namespace velmora::app {
 
-/// A view that the program draws. `usualSize` and `make` are called when the service has selected place and
-/// day.
+/// A view that the program draws, as the help and the command line know it.
 struct DrawableView {
   std::string_view name;
   std::string_view summary;
@@ -19,10 +14,6 @@ struct DrawableView {
       "";                    ///< of the date in the title, as DateFormatter's templates; none: no title
   double freeTop = 0;        ///< points that the view itself leaves free for a title
   bool needsTables = false;  ///< whether it draws phases, which are known for the tables' years alone
-  /// Width and height in points, where the request does not give the picture's.
-  Size (*usualSize)(const Query&);
-  /// The view, filling the size.
-  std::shared_ptr<View> (*make)(const Query&, Size);
 };
 
 /// Every view, in the order of the help.

@@ -2,6 +2,7 @@
 
 #include <app/Errors.h>
 #include <app/drawing/DrawableView.h>
+#include <app/drawing/Drawing.h>
 #include <app/request/ValueTexts.h>
 
 namespace velmora::app {
@@ -31,14 +32,14 @@ Color color(const std::string& text) {
   if (text == "none") return Color::clear();
   if (text == "black") return Color::black();
   if (text == "white") return Color::white();
-  const auto color = Color::fromText(text.starts_with('#') ? text : "#" + text);
+  const auto color = drawing().colorFromText(text.starts_with('#') ? text : "#" + text);
   if (!color) throw BadInput("is not a colour");
   return *color;
 }
 
-std::shared_ptr<VelmoraTheme> theme(const std::string& text) {
-  return oneOf<std::shared_ptr<VelmoraTheme> (*)()>(
-      text, {{"calendar", VelmoraTheme::calendarTheme}, {"default", VelmoraTheme::defaultTheme}})();
+ThemeChoice theme(const std::string& text) {
+  return oneOf<ThemeChoice>(
+      text, {{"calendar", ThemeChoice::calendarTheme}, {"default", ThemeChoice::defaultTheme}});
 }
 
 AlternateCalendarType calendar(const std::string& text) {

@@ -1,18 +1,18 @@
 #pragma once
 
 #include <cstdint>
-#include <memory>
 #include <optional>
 #include <string>
 
 #include <velmora/platform/graphics/Color.h>
 #include <velmora/platform/graphics/Geometry.h>
 #include <velmora/views/AlternateCalendarType.h>
-#include <velmora/views/VelmoraTheme.h>
 
 namespace velmora::app {
 
 struct DrawableView;
+
+enum class ThemeChoice { calendarTheme, defaultTheme };
 
 /// What a request for a picture says of it.
 struct DrawingRequest {
@@ -25,7 +25,7 @@ struct DrawingRequest {
   bool isRightToLeft = false;  ///< whatever the language is
   bool isTablet = false;
 
-  std::shared_ptr<VelmoraTheme> theme;  ///< none for the calendar theme
+  ThemeChoice theme = ThemeChoice::calendarTheme;
   AlternateCalendarType calendar = kNoAlternateCalendar;
   std::int64_t weekStartDay = 0;  ///< 0 is Sunday
   bool hidesEclipses = false;

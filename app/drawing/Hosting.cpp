@@ -5,8 +5,8 @@
 namespace velmora::app {
 
 std::shared_ptr<VelmoraTheme> themeOf(const Query& query) {
-  const auto& theme = query.request.drawing.theme;
-  return theme ? theme : VelmoraTheme::calendarTheme();
+  const bool isCalendar = query.request.drawing.theme == ThemeChoice::calendarTheme;
+  return isCalendar ? VelmoraTheme::calendarTheme() : VelmoraTheme::defaultTheme();
 }
 
 std::shared_ptr<View> makeHost(Size size) {

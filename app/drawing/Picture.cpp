@@ -11,11 +11,13 @@
 #include <app/drawing/DrawingOptions.h>
 #include <app/drawing/Hosting.h>
 #include <app/drawing/Title.h>
+#include <app/drawing/ViewMaking.h>
 #include <velmora/foundation/SettingsModel.h>
 #include <velmora/platform/graphics/cairo/CairoCanvas.h>
 #include <velmora/platform/resources/Log.h>
 #include <velmora/platform/ui/Device.h>
 #include <velmora/service/MoonPhaseData.h>
+#include <velmora/views/OncePerProcess.h>
 
 namespace velmora::app {
 namespace {
@@ -94,7 +96,7 @@ Layout layoutOf(const Query& query, const DrawableView& view) {
   const double titleHeight = isAboveView ? Title::height : view.freeTop;
   const bool wantsTitle = drawing.hasTitle && !view.titleFields.empty();
 
-  Size size = view.usualSize(query);
+  Size size = makingOf(view).usualSize(query);
   if (wantsTitle && isAboveView) size.height += titleHeight;
   size = drawing.size.value_or(size);
   if (!wantsTitle || size.width < leastTitledWidth || size.height < leastTitledHeight)
@@ -114,7 +116,7 @@ void draw(CairoCanvas& canvas, const Layout& layout, const DrawableView& view, c
   canvas.save();
   canvas.clip(Path::rect(layout.view));
   canvas.translate(layout.view.x, layout.view.y);
-  view.make(query, layout.view.size())->render(canvas);
+  makingOf(view).make(query, layout.view.size())->render(canvas);
   canvas.restore();
 }
 
@@ -132,6 +134,7 @@ void write(CairoCanvas& canvas, const std::string& file) {
 }  // namespace
 
 Picture drawPicture(const Query& query) {
+  ProcessValues::resetAll();  // those of the request before
   const DrawingRequest& drawing = query.request.drawing;
   const DrawableView& view = viewOf(query.request);
   const std::string& file = fileOf(drawing);

@@ -1,0 +1,62 @@
+#include <app/drawing/ViewMaking.h>
+
+#include <map>
+
+#include <app/drawing/CalendarViews.h>
+#include <app/drawing/Hosting.h>
+#include <app/drawing/SkyViews.h>
+#include <velmora/views/MoonCalendarView.h>
+#include <velmora/views/MoonPositionView.h>
+#include <velmora/views/TimelineDayView.h>
+
+namespace velmora::app {
+namespace {
+
+// Wide enough for Korean hours.
+constexpr double phoneTimelineWidth = 540;
+constexpr double timelineHeight = 76, timelineMargin = 6;
+constexpr double margin = 10;
+
+/// A view that needs nothing but its frame.
+template <class ViewClass>
+std::shared_ptr<View> makeView(const Query&, Size size) {
+  auto view = std::make_shared<ViewClass>();
+  view->setFrame({0, 0, size.width, size.height});
+  return view;
+}
+
+template <int width, int height>
+Size fixedSize(const Query&) {
+  return {width, height};
+}
+
+Size timelineSize(const Query& query) {
+  return {query.request.drawing.isTablet ? tabletWidth : phoneTimelineWidth, timelineHeight};
+}
+
+std::shared_ptr<View> makeTimeline(const Query&, Size size) {
+  auto timeline = std::make_shared<TimelineDayView>();
+  timeline->setFrame(Rect{0, 0, size.width, size.height}.inset(margin, timelineMargin));
+  auto host = makeHost(size);
+  host->addSubview(timeline);
+  return host;
+}
+
+}  // namespace
+
+const ViewMaking& makingOf(const DrawableView& view) {
+  static const std::map<std::string_view, ViewMaking> makings = {
+      {"disc", {fixedSize<240, 240>, makeDisc}},
+      {"month", {monthSize, makeMonth}},
+      {"year", {yearSize, makeYear}},
+      {"riseset", {riseSetSize, makeRiseSet}},
+      {"images", {fixedSize<390, 560>, makeView<MoonCalendarView>}},
+      {"compass", {fixedSize<390, 390>, makeCompass}},
+      {"azel", {fixedSize<390, 390>, makeElevationArc}},
+      {"chart", {fixedSize<390, 390>, makeView<MoonPositionView>}},
+      {"timeline", {timelineSize, makeTimeline}},
+  };
+  return makings.at(view.name);
+}
+
+}  // namespace velmora::app

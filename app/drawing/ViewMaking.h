@@ -1,0 +1,21 @@
+#pragma once
+
+#include <memory>
+
+#include <app/commands/Command.h>
+#include <app/drawing/DrawableView.h>
+#include <velmora/platform/ui/View.h>
+
+namespace velmora::app {
+
+/// How a drawable view comes to be, once the service has selected place and day.
+struct ViewMaking {
+  /// Width and height in points, where the request does not give the picture's.
+  Size (*usualSize)(const Query&);
+  /// The view, filling the size.
+  std::shared_ptr<View> (*make)(const Query&, Size);
+};
+
+const ViewMaking& makingOf(const DrawableView& view);
+
+}  // namespace velmora::app
