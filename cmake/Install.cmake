@@ -6,10 +6,11 @@ set(package_directory ${CMAKE_INSTALL_LIBDIR}/cmake/Velmora)
 if(VELMORA_BUILD_APP)
   cmake_path(RELATIVE_PATH CMAKE_INSTALL_FULL_LIBDIR BASE_DIRECTORY ${CMAKE_INSTALL_FULL_BINDIR}
     OUTPUT_VARIABLE libraries_from_programs)
-  set(libraries $ORIGIN/${libraries_from_programs})
-  set_target_properties(velmora_app PROPERTIES INSTALL_RPATH "${libraries};${libraries}/velmora")
+  set_target_properties(velmora_app PROPERTIES INSTALL_RPATH $ORIGIN/${libraries_from_programs})
   install(TARGETS velmora_app)
   if(BUILD_SHARED_LIBS)
+    target_compile_definitions(velmora_app_lib PRIVATE
+      VELMORA_LIBRARIES_FROM_PROGRAMS="${libraries_from_programs}")
     set_target_properties(velmora_drawing PROPERTIES INSTALL_RPATH $ORIGIN/..)
     install(TARGETS velmora_drawing DESTINATION ${CMAKE_INSTALL_LIBDIR}/velmora)
   endif()

@@ -15,6 +15,7 @@ constexpr double degreesPerRadian = 57.29577951308232;
 constexpr double hitTolerance = 0.05;  // degrees
 constexpr int mostRefinedEvents = 2;
 constexpr std::size_t moonSamples = 25, sunSamples = 24;  // of a day's series
+static_assert(sunSamples % Hours::count == 0);
 constexpr Seconds oneDay{86400};
 
 double offsetHours(std::int64_t secondsFromGMT) { return static_cast<double>(secondsFromGMT) / 3600; }
@@ -137,11 +138,13 @@ std::vector<PositionData> RiseAndSetCalc::Get24HourSunPositionsForDate(Instant d
 
   std::vector<PositionData> positions;
   positions.reserve(sunSamples);
-  for (std::int64_t n = 0; positions.size() < sunSamples; ++n) {
-    const auto hour = static_cast<double>(first.hour + n);
+  while (positions.size() < sunSamples) {
+    const Hours hours = Hours::from(static_cast<double>(first.hour) + static_cast<double>(positions.size()));
+    const auto places = sunCoordinates(firstDay + hours / 24, longitude, latitude);
     // The zone value is the offset in seconds: the records' hours mean nothing here, by intent.
-    positions.push_back(positionAt(sunCoordinates(firstDay + hour / 24, longitude, latitude),
-                                   sunZoneHour(hour, secondsFromGMT)));
+    for (std::size_t i = 0; i < Hours::count; ++i) {
+      positions.push_back(positionAt(places[i], sunZoneHour(hours[i], secondsFromGMT)));
+    }
   }
   return positions;
 }

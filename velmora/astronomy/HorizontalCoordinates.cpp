@@ -15,9 +15,70 @@ constexpr double radiansPerDegree = 0.017453292519943295;  // of the Sun
 
 std::string degreesText(double degrees) { return decimalText(degrees, 1) + "°"; }
 
-Angle<double> obliquity(double d) {
+template <class Number>
+Angle<Number> obliquity(const Number& d) {
   static const Angle<double> atEpoch = angleOfRadians(0.4090877233749509);
-  return atEpoch - smallAngle(6.981317007977318e-09 * d);
+  return Angle<Number>{cos(atEpoch), sin(atEpoch)} - smallAngle<Number>(6.981317007977318e-09 * d);
+}
+
+double withinTurn(double radians) { return RiseAndSetCalc::FNRange(radians); }
+
+Hours withinTurn(const Hours& radians) {
+  Hours reduced;
+  for (std::size_t i = 0; i < Hours::count; ++i) reduced.set(i, withinTurn(radians[i]));
+  return reduced;
+}
+
+/// Greenwich's sidereal time with the longitude, in radians.
+template <class Number>
+Number localSiderealRadians(const Number& d, double longitude) {
+  return longitude + (280.46061837 + 360.98564736629 * d) * radiansPerDegree;
+}
+
+/// A unit vector's vertical and horizontal parts.
+template <class Number>
+struct HorizontalDirection {
+  Number up, north, east;
+};
+
+HorizontalCoordinates coordinatesOf(const HorizontalDirection<double>& body) {
+  return {std::asin(body.up) * degreesPerRadian,
+          RiseAndSetCalc::FNatn2(body.east, body.north) * degreesPerRadian};
+}
+
+/// Whether the printed reduction brings every angle of the Sun into its turn. It takes a negative one further
+/// away, where only the printed steps themselves are rounded like those.
+bool reducesAnglesOfSun(double d, double longitude) {
+  return d >= 0 && localSiderealRadians(d, longitude) >= 0;
+}
+
+/// The Sun by the addition theorems, where its angles are reduced.
+template <class Number>
+HorizontalDirection<Number> sunDirectionInSky(const Number& d, double longitude,
+                                              const Angle<double>& latitude) {
+  const auto angle = [](const Number& radians) { return angleWithinTurn<Number>(withinTurn(radians)); };
+  const Angle<Number> g = angle(6.240040768070287 + 0.017201970343643867 * d);
+  const Angle<Number> lambda =
+      angle(4.894967873435816 + 0.017202792393721557 * d) +
+      smallAngle<Number>(0.03342305517569141 * sin(g) + 0.00034906585039886593 * sin(g + g));
+  const Angle<Number> epsilon = obliquity(d), siderealAngle = angle(localSiderealRadians(d, longitude));
+  const Number x = cos(lambda), y = cos(epsilon) * sin(lambda), z = sin(epsilon) * sin(lambda);
+  const Number south = cos(siderealAngle) * x + sin(siderealAngle) * y;
+  const Number east = cos(siderealAngle) * y - sin(siderealAngle) * x;
+  const Number up = sin(latitude) * z + cos(latitude) * south;
+  return {up, z - sin(latitude) * up, cos(latitude) * east};
+}
+
+HorizontalCoordinates sunCoordinatesByPrintedSteps(double d, double longitude,
+                                                   const Angle<double>& latitude) {
+  const Angle<double> lambda = angleOfRadians(RiseAndSetCalc::FNsun(d)), epsilon = obliquity(d);
+  const double alpha = RiseAndSetCalc::FNatn2(cos(epsilon) * sin(lambda), cos(lambda));
+  const double sinDelta = sin(epsilon) * sin(lambda), cosDelta = std::sqrt(1 - sinDelta * sinDelta);
+  const double siderealAngle = withinTurn(localSiderealRadians(d, longitude));
+  const Angle<double> H = angleOfRadians(RiseAndSetCalc::FNRange(siderealAngle - alpha));
+  const double sinAltitude = sinDelta * sin(latitude) + cosDelta * cos(latitude) * cos(H);
+  return coordinatesOf(
+      {sinAltitude, sinDelta - sin(latitude) * sinAltitude, -cosDelta * cos(latitude) * sin(H)});
 }
 
 /// The hour angle in degrees, negative ones moved up by whole turns. No place on Earth needs more than two;
@@ -32,16 +93,20 @@ double hourAngle(double longitude, double siderealTime, double rightAscension) {
 }  // namespace
 
 HorizontalCoordinates sunCoordinates(double d, double longitude, const Angle<double>& latitude) {
-  const Angle<double> lambda = angleOfRadians(RiseAndSetCalc::FNsun(d)), epsilon = obliquity(d);
-  const double alpha = RiseAndSetCalc::FNatn2(cos(epsilon) * sin(lambda), cos(lambda));
-  const double sinDelta = sin(epsilon) * sin(lambda), cosDelta = std::sqrt(1 - sinDelta * sinDelta);
-  const double siderealAngle =
-      RiseAndSetCalc::FNRange(longitude + (280.46061837 + 360.98564736629 * d) * radiansPerDegree);
-  const Angle<double> H = angleOfRadians(RiseAndSetCalc::FNRange(siderealAngle - alpha));
-  const double sinAltitude = sinDelta * sin(latitude) + cosDelta * cos(latitude) * cos(H);
-  const double azimuth =
-      RiseAndSetCalc::FNatn2(-cosDelta * cos(latitude) * sin(H), sinDelta - sin(latitude) * sinAltitude);
-  return {std::asin(sinAltitude) * degreesPerRadian, azimuth * degreesPerRadian};
+  if (!reducesAnglesOfSun(d, longitude)) return sunCoordinatesByPrintedSteps(d, longitude, latitude);
+  return coordinatesOf(sunDirectionInSky(d, longitude, latitude));
+}
+
+std::array<HorizontalCoordinates, Hours::count> sunCoordinates(const Hours& d, double longitude,
+                                                               const Angle<double>& latitude) {
+  std::array<HorizontalCoordinates, Hours::count> places;
+  const bool areReduced = reducesAnglesOfSun(d[0], longitude);
+  const auto sun = sunDirectionInSky(d, longitude, latitude);
+  for (std::size_t i = 0; i < Hours::count; ++i) {
+    places[i] = areReduced ? coordinatesOf({sun.up[i], sun.north[i], sun.east[i]})
+                           : sunCoordinatesByPrintedSteps(d[i], longitude, latitude);
+  }
+  return places;
 }
 
 HorizontalCoordinates moonCoordinates(double mjd, double longitude, const Angle<double>& latitude) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+
 #include <velmora/astronomy/SunAndMoonSeries.h>
 
 namespace [[gnu::visibility("hidden")]] velmora {
@@ -13,6 +15,10 @@ struct HorizontalCoordinates {
 
 /// The Sun. `d`: days from 2000 January 1, 12h. Longitude in radians.
 HorizontalCoordinates sunCoordinates(double d, double longitude, const Angle<double>& latitude);
+
+/// The same at four hours.
+std::array<HorizontalCoordinates, Hours::count> sunCoordinates(const Hours& d, double longitude,
+                                                               const Angle<double>& latitude);
 
 /// The Moon. `mjd`: Modified Julian Date. Longitude in degrees. No guard where the azimuth is undefined, at
 /// the poles and the zenith: NaN there.
