@@ -157,30 +157,33 @@ TEST(ElevationEvents, AtAnElevationThatTheSunNeverReachesAreNone) {
   EXPECT_TRUE(Calc::EventsMatchingSunElevation(10, winter, placeAt(60.1699, 24.9384), 7200, true).empty());
 }
 
-double morningAltitude(double latitude) {  // at 05:15 of the longest day in Greenwich's longitude
-  return Calc::CalculateSunPosition(0, latitude * degree, 2024, 6, 21, 5.25, 0).altitude;
+double morningAltitude(double latitude, double longitude) {  // at 05:15 of the longest day
+  return Calc::CalculateSunPosition(longitude * degree, latitude * degree, 2024, 6, 21, 5.25, 0).altitude;
 }
 
-/// The latitude at which that altitude is exactly 0: halved down to neighbouring doubles, of which one near
-/// by gives it.
-double latitudeOfSunAtTheHorizon() {
-  double south = 20, north = 30;
-  for (double mid = 25; south < mid && mid < north; mid = (south + north) / 2) {
-    (morningAltitude(mid) < 0 ? south : north) = mid;
+struct LatitudeAndLongitude {
+  double latitude, longitude;
+};
+
+/// Where that altitude is exactly 0: on some meridian it is at one of two neighbouring latitudes, to which it
+/// is halved down.
+LatitudeAndLongitude placeOfSunAtTheHorizon() {
+  for (double longitude = 0; longitude < 1; longitude += 0.01) {
+    double south = 20, north = 30;
+    for (double mid = 25; south < mid && mid < north; mid = (south + north) / 2) {
+      (morningAltitude(mid, longitude) < 0 ? south : north) = mid;
+    }
+    if (morningAltitude(north, longitude) == 0) return {north, longitude};
   }
-  double latitude = south - 1e-12;
-  while (morningAltitude(latitude) != 0 && latitude < south + 1e-12) {
-    latitude = std::nextafter(latitude, 90);
-  }
-  return latitude;
+  return {};
 }
 
 TEST(ElevationEvents, ASampleAtAltitudeZeroHidesTheCrossingFromBothItsHours) {
-  const double latitude = latitudeOfSunAtTheHorizon();
-  ASSERT_EQ(morningAltitude(latitude), 0);
-  const auto eventsAt = [](double elevation, double atLatitude) {
-    return Calc::EventsMatchingSunElevation(elevation, utc(2024, 6, 21, 3, 15), placeAt(atLatitude, 0), 0,
-                                            false);
+  const auto [latitude, longitude] = placeOfSunAtTheHorizon();
+  ASSERT_EQ(morningAltitude(latitude, longitude), 0);
+  const auto eventsAt = [meridian = longitude](double elevation, double atLatitude) {
+    return Calc::EventsMatchingSunElevation(elevation, utc(2024, 6, 21, 3, 15), placeAt(atLatitude, meridian),
+                                            0, false);
   };
   for (const double elevation : {3.0, -3.0}) {  // reached in the hour after the sample, in the one before
     const auto hidden = eventsAt(elevation, latitude);
