@@ -34,7 +34,7 @@ constexpr std::array layers = {"velmora/platform/time",
                                "tests"};
 
 const std::set<std::string> adapters = {"cairo", "cctz", "icu", "libplist", "png", "posix"};
-const std::set<std::string> librariesOfProgram = {"CLI/CLI.hpp", "nlohmann/json.hpp", "unistd.h"};
+const std::set<std::string> librariesOfProgram = {"CLI/CLI.hpp", "dlfcn.h", "nlohmann/json.hpp", "unistd.h"};
 
 /// None for what lies in no layer: the version, which stands below them all.
 std::optional<std::size_t> layerOf(const std::string& path) {

@@ -27,7 +27,8 @@ SourceTree readSourceTree(const std::vector<std::string>& folders);
 std::vector<std::string> upwardIncludes(const SourceTree& tree);
 
 /// Only an adapter reaches a third-party header, be it through headers of the project. The host program may
-/// include what it is made with besides: the command line's and JSON's libraries and the terminal.
+/// include what it is made with besides: the command line's and JSON's libraries, and of the system the
+/// terminal and the loading of a library.
 std::vector<std::string> thirdPartyOutsideAdapters(const SourceTree& tree);
 
 /// The host program and the examples use the library as anybody may: by its installed headers.
