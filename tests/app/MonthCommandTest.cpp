@@ -44,7 +44,7 @@ TEST_F(MonthCommandTest, DaysAreTheRecordsOfTheLibrary) {
   for (const PlaceAndMonth& what : cases) {
     const Json month = json(
         {"month", std::to_string(what.year) + (what.month < 10 ? "-0" : "-") + std::to_string(what.month),
-         "--lat", std::to_string(what.latitude), "--lon", std::to_string(what.longitude), "--tz", what.zone});
+         "--lat", Json(what.latitude).dump(), "--lon", Json(what.longitude).dump(), "--tz", what.zone});
     MoonPhaseData service;
     selectMonth(service, what);
     const auto days = service.currentMonthPhaseDictionary();

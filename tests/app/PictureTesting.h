@@ -17,6 +17,7 @@
 
 #include "AppTest.h"
 #include "tests/platform/resources/TemporaryFolder.h"
+#include "tests/support/PlainNumbers.h"
 
 namespace velmora::app {
 
@@ -89,7 +90,7 @@ inline Size statedSize(const std::filesystem::path& file) {
   std::smatch match;
   const bool isFound = std::regex_search(text, match, file.extension() == ".svg" ? svg : pdf);
   EXPECT_TRUE(isFound) << file << " states no size";
-  return isFound ? Size{std::stod(match[1]), std::stod(match[2])} : Size();
+  return isFound ? Size{testing::leadingNumber(match[1]), testing::leadingNumber(match[2])} : Size();
 }
 
 /// Draws into a folder of its own.

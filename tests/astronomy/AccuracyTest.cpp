@@ -52,7 +52,7 @@ constexpr double noTime = -1;
 double readMinutes(TableRow& row) {
   std::string text;
   EXPECT_TRUE(row.fields >> text) << row.where;
-  return text == "-" ? noTime : std::stod(text);
+  return text == "-" ? noTime : leadingNumber(text);
 }
 
 /// Compares a record's minutes with the table's, which are missing on the same days.
@@ -112,7 +112,7 @@ TEST(Accuracy, OfPositionsFrom2000To2040) {
   ErrorSummary sun("Sun's position", "°", 0.015), moon("Moon's position", "°", 0.1);
   const Calendar calendar(TimeZone::fixed(0));
   for (TableRow& row : tableRows("positions_2000_2040.txt")) {
-    const double mjd = std::stod(row.kind);
+    const double mjd = leadingNumber(row.kind);
     double latitude = 0, longitude = 0, sunAltitude = 0, sunAzimuth = 0, moonAltitude = 0, moonAzimuth = 0;
     ASSERT_TRUE(row.fields >> latitude >> longitude >> sunAltitude >> sunAzimuth >> moonAltitude >>
                 moonAzimuth)

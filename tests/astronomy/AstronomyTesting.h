@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include <tests/support/PlainNumbers.h>
 #include <tests/support/SourceDirectory.h>
 #include <velmora/foundation/GeoLocationData.h>
 #include <velmora/foundation/SettingsModel.h>

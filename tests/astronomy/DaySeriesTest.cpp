@@ -133,7 +133,7 @@ TEST(ElevationEvents, KeepTheTextOfTheAltitudeComputed) {
                                                          placeAt(-33.8688, 151.2093), 36000, false);
     for (const PositionData& event : events) {
       if (event.altitude != elevation) continue;  // a direct hit
-      EXPECT_NEAR(std::stod(event.altitudeText), elevation, 0.1 + 1e-9);
+      EXPECT_NEAR(leadingNumber(event.altitudeText), elevation, 0.1 + 1e-9);
       if (event.altitudeText != decimalText(elevation, 1) + "°") ++textsOfAnotherAltitude;
     }
   }

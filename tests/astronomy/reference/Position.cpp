@@ -4,6 +4,8 @@
 #include <cmath>
 #include <cstdio>
 
+#include <tests/support/PlainNumbers.h>
+
 namespace velmora::reference {
 namespace {
 
@@ -76,6 +78,7 @@ Horizontal moonPosition(double mjd, double longitude, double cosLatitude, double
 
 std::string degreesText(double degrees) {
   if (std::isnan(degrees)) return "nan°";
+  const testing::PlainNumbers plain;
   std::array<char, 512> text{};
   std::snprintf(text.data(), text.size(), "%.1f°", degrees);
   return text.data();

@@ -1,10 +1,12 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <cmath>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
+#include <system_error>
 
 #include <velmora/platform/graphics/TextLayout.h>
 #include <velmora/platform/graphics/cairo/CairoCanvas.h>
@@ -21,6 +23,9 @@ std::string written(CairoCanvas& canvas) {
   EXPECT_EQ(failure ? failure->message : "", "");
   return output.str();
 }
+
+/// What the system says of an error, in the language of the process.
+std::string systemText(int error) { return std::generic_category().message(error); }
 
 std::shared_ptr<const Image> decoded(const std::string& png) { return Image::fromBytes("picture", png); }
 
@@ -321,13 +326,13 @@ TEST_F(PictureFile, AMissingFolderIsAnErrorThatSaysSo) {
   const auto failure = canvas.writeFile(path);
   ASSERT_TRUE(failure);
   EXPECT_EQ(failure->kind, PictureError::Kind::output);
-  EXPECT_EQ(failure->message, "the picture cannot be written: No such file or directory");
+  EXPECT_EQ(failure->message, "the picture cannot be written: " + systemText(ENOENT));
 }
 
 TEST_F(PictureFile, AFolderInItsPlaceIsAnError) {
   const auto failure = canvas.writeFile(_folder);
   ASSERT_TRUE(failure);
-  EXPECT_EQ(failure->message, "the picture cannot be written: Is a directory");
+  EXPECT_EQ(failure->message, "the picture cannot be written: " + systemText(EISDIR));
   EXPECT_TRUE(fs::is_directory(_folder));
 }
 
@@ -340,7 +345,7 @@ TEST_F(PictureFile, AFolderThatCannotBeWrittenToIsAnError) {
 TEST_F(PictureFile, AFullDeviceIsAnErrorAndStaysADevice) {
   const auto failure = canvas.writeFile("/dev/full");
   ASSERT_TRUE(failure);
-  EXPECT_EQ(failure->message, "the picture cannot be written: No space left on device");
+  EXPECT_EQ(failure->message, "the picture cannot be written: " + systemText(ENOSPC));
   EXPECT_TRUE(fs::is_character_file("/dev/full"));
 }
 

@@ -9,6 +9,8 @@
 #include <locale>
 #include <random>
 
+#include "tests/support/PlainNumbers.h"
+
 namespace velmora {
 namespace {
 
@@ -22,6 +24,7 @@ TEST(NumberText, WritesExactlyTheFractionDigitsAskedFor) {
 
 /// As the C library writes it, which rounds the exact decimal expansion, ties to the even digit.
 std::string printed(double number, int fractionDigits) {
+  const testing::PlainNumbers plain;
   std::array<char, 512> text{};
   std::snprintf(text.data(), text.size(), "%.*f", fractionDigits, number);
   return text.data();
