@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include <app/Days.h>
-#include <app/Errors.h>
 #include <app/Positions.h>
+#include <app/ShippedData.h>
 #include <app/request/ValueTexts.h>
 #include <velmora/service/MoonPhaseData.h>
 
@@ -17,8 +17,7 @@ constexpr std::chrono::hours oneDay{24};
 const MoonPhaseData::Eclipses& catalogue() {
   MoonPhaseData& service = MoonPhaseData::sharedInstance();
   if (!service.eventsData()) service.loadEventsFromFile();
-  if (!service.eventsData() || service.eventsData()->empty())
-    throw Failure("the catalogue of eclipses cannot be read");
+  checkCatalogue(service.eventsData().get());
   return *service.eventsData();
 }
 

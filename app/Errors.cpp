@@ -1,5 +1,8 @@
 #include <app/Errors.h>
 
+#include <algorithm>
+#include <new>
+
 namespace velmora::app {
 namespace {
 
@@ -20,6 +23,16 @@ std::string quote(std::string_view input) {
     text += isControl(byte) ? '?' : byte;
   }
   return text + "'";
+}
+
+std::string quotePath(std::string_view path) {
+  std::string text(path);
+  std::replace_if(text.begin(), text.end(), isControl, '?');
+  return "'" + text + "'";
+}
+
+std::string messageOf(const std::exception& error) {
+  return dynamic_cast<const std::bad_alloc*>(&error) ? "out of memory" : error.what();
 }
 
 }  // namespace velmora::app

@@ -23,4 +23,10 @@ class Failure : public std::runtime_error {
 /// replaced.
 std::string quote(std::string_view input);
 
+/// The path of a file of the program's own in quotation marks, whole, control characters replaced.
+std::string quotePath(std::string_view path);
+
+/// What the error says; of memory that ran out, that it did.
+std::string messageOf(const std::exception& error);
+
 }  // namespace velmora::app

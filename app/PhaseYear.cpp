@@ -5,6 +5,7 @@
 
 #include <app/Days.h>
 #include <app/Errors.h>
+#include <app/ShippedData.h>
 #include <app/request/ValueTexts.h>
 #include <velmora/platform/time/Calendar.h>
 #include <velmora/platform/time/Clock.h>
@@ -54,11 +55,10 @@ std::chrono::year coveredYear(const Query& query) {
 }
 
 PhaseYear::PhaseYear(std::chrono::year year, const Place& place)
-    : _year(year), _place(place), _table(tableOfYear(static_cast<int>(year))) {
-  if (!_table) throw Failure("the phase table of " + std::to_string(this->year()) + " cannot be read");
-}
+    : _year(year), _place(place), _table(wholeTable(year)) {}
 
 PhaseEvents PhaseYear::events(std::chrono::month month) const {
+  checkNeighbour(_year / month);
   Calendar calendar(_place.zone);
   PhaseEvents events;
   for (const auto& item : MoonPhaseCalc::GetMoonPhaseDataForMonth(
@@ -71,11 +71,13 @@ PhaseEvents PhaseYear::events(std::chrono::month month) const {
 }
 
 MoonPhaseCalc::PhaseCalendar PhaseYear::days(std::chrono::month month) const {
+  checkNeighbour(_year / month);
   return MoonPhaseCalc::GetPhaseCalendar(*_table, zeroBased(month), year(), anyInstant, _place.location,
                                          use24HourClock);
 }
 
 MoonPhaseCalc::ImageCalendar PhaseYear::images(std::chrono::month month) const {
+  checkNeighbour(_year / month);
   return MoonPhaseCalc::GetImageCalendar(*_table, zeroBased(month), year(), anyInstant, _place.location,
                                          use24HourClock);
 }

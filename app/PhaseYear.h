@@ -34,7 +34,8 @@ using PhaseEvents = std::vector<PhaseEvent>;
 /// What a year's table says of its months as seen from a place.
 class PhaseYear {
  public:
-  /// Throws Failure if the table cannot be read.
+  /// Throws Failure if the table cannot be read or is damaged; what asks for a January or a December does
+  /// so of the neighbouring year's.
   PhaseYear(std::chrono::year year, const Place& place);
 
   /// The events whose day at the place lies in the month, by their instants.

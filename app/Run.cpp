@@ -56,7 +56,8 @@ void checkWritten(std::ostream& out) {
 }
 
 int complain(const std::exception& error, ExitStatus status, std::ostream& err) {
-  if (*error.what()) err << "velmora: " << error.what() << '\n';
+  const std::string message = messageOf(error);
+  if (!message.empty()) err << "velmora: " << message << '\n';
   return status;
 }
 

@@ -8,11 +8,12 @@
 #include <app/Errors.h>
 #include <app/RequestScope.h>
 #include <app/request/JsonRequest.h>
+#include <velmora/platform/resources/HeldSignals.h>
 
 namespace velmora::app {
 namespace {
 
-constexpr std::size_t longestLine = 64 * 1024;
+constexpr std::size_t longestLine = 64 * 1024, writtenAtOnce = 64 * 1024;  // bytes
 
 std::string errorLine(const Json& id, const std::string& message) {
   Json answer;
@@ -46,12 +47,17 @@ std::optional<Line> nextLine(std::istream& in, std::string& buffer) {
   return Line{std::string_view(buffer).substr(0, count), isTooLong};
 }
 
-void answer(const Line& line, std::ostream& out) {
-  if (line.isTooLong) {
-    out << errorLine(nullptr, tooLong) << '\n';
-  } else if (!isBlank(line.text)) {
-    out << batchAnswer(line.text) << '\n';
-  }
+/// The line of the answer; nothing for a blank line.
+std::string answerTo(const Line& line) {
+  if (line.isTooLong) return errorLine(nullptr, tooLong) + '\n';
+  return isBlank(line.text) ? "" : batchAnswer(line.text) + '\n';
+}
+
+/// Whole lines alone are written, and none is cut by a signal that ends the program.
+void writeLines(std::string& lines, std::ostream& out) {
+  const HeldSignals untilWritten;
+  out << lines << std::flush;
+  lines.clear();
 }
 
 }  // namespace
@@ -67,20 +73,22 @@ std::string batchAnswer(std::string_view line) {
     answer["result"] = jsonAnswer(requestFromJson(object));
     return jsonLine(answer);
   } catch (const std::exception& error) {
-    return errorLine(id, error.what());
+    return errorLine(id, messageOf(error));
   }
 }
 
 void serveBatch(const Request& request, std::istream& in, std::ostream& out) {
   const RequestScope scope(request);
-  std::string buffer(longestLine, '\0');
+  std::string buffer(longestLine, '\0'), answers;
   while (out) {
-    if (in.rdbuf()->in_avail() <= 0) out.flush();  // whoever waits for an answer before asking on gets it
+    const bool isAwaited = in.rdbuf()->in_avail() <= 0;  // whoever asks on only when answered gets the answer
+    if (isAwaited || answers.size() >= writtenAtOnce) writeLines(answers, out);
     const auto line = nextLine(in, buffer);
-    if (!line && in.bad()) throw Failure("standard input cannot be read");
-    if (!line) return;
-    answer(*line, out);
+    if (!line) break;
+    answers += answerTo(*line);
   }
+  writeLines(answers, out);
+  if (in.bad()) throw Failure("standard input cannot be read");
 }
 
 const Command& batchCommand() {

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include <app/Errors.h>
+#include <app/ShippedData.h>
 #include <app/drawing/Hosting.h>
 #include <velmora/phases/Phase.h>
 #include <velmora/service/MoonPhaseData.h>
@@ -57,6 +58,13 @@ Size monthSize(const Query& query) {
   return isWide ? tabletMonth : phoneMonth;
 }
 
+void checkEclipses(const Query& query) {
+  if (query.request.drawing.hidesEclipses) return;
+  MoonPhaseData& service = MoonPhaseData::sharedInstance();
+  if (!service.eventsData()) service.loadEventsFromFile();
+  checkCatalogue(service.eventsData().get());
+}
+
 std::shared_ptr<View> makeMonth(const Query& query, Size size) {
   const DrawingRequest& drawing = query.request.drawing;
   auto month = std::make_shared<iPhoneCalendarView>();
@@ -77,6 +85,15 @@ std::shared_ptr<View> makeYear(const Query& query, Size size) {
   year->calendarLocationChanged();
   return year;
 }
+
+void checkMoonPictures(const Query&) {
+  std::vector<std::string> names;
+  for (const auto& [day, number] : *MoonPhaseData::sharedInstance().currentMonthImageDictionary())
+    names.push_back("IMG_" + std::to_string(number));
+  checkPictures(Bundle::library(), names);
+}
+
+void checkIcons(const Query&) { checkPictures(Bundle::main(), {"moonrise", "moonset", "sunrise", "sunset"}); }
 
 Size riseSetSize(const Query&) {
   const MoonPhaseData& service = MoonPhaseData::sharedInstance();

@@ -12,11 +12,19 @@ std::shared_ptr<View> makeDisc(const Query& query, Size size);
 
 /// A phone's width, or where two calendars' numbers stand side by side a tablet's: they would be cut.
 Size monthSize(const Query& query);
+/// Throws a Failure where eclipses are to be shown and cannot be read.
+void checkEclipses(const Query& query);
 std::shared_ptr<View> makeMonth(const Query& query, Size size);
 
 Size yearSize(const Query& query);
 /// The full moons of the selected day's year, or the new moons.
 std::shared_ptr<View> makeYear(const Query& query, Size size);
+
+/// Throws a Failure where a picture of the selected month's Moon cannot be read.
+void checkMoonPictures(const Query&);
+
+/// Throws a Failure where an icon of rise or set cannot be read.
+void checkIcons(const Query&);
 
 /// Of the whole list. On a phone's width the times of early and late hours would be cut.
 Size riseSetSize(const Query& query);

@@ -8,6 +8,7 @@
 #include <app/Days.h>
 #include <app/Errors.h>
 #include <app/PhaseYear.h>
+#include <app/ShippedData.h>
 #include <app/drawing/DrawingOptions.h>
 #include <app/drawing/Hosting.h>
 #include <app/drawing/Title.h>
@@ -74,12 +75,18 @@ PictureFormat formatOf(const std::string& file) {
                  " has no known format; accepted: a file that ends in .png, .svg or .pdf");
 }
 
+/// Of the year and of its neighbours, whose last and first phases reach into it.
+void checkTables(std::chrono::year year) {
+  wholeTable(year);
+  for (const auto month : {std::chrono::January, std::chrono::December}) checkNeighbour(year / month);
+}
+
 void select(const Query& query, const DrawableView& view) {
   if (view.needsTables) checkCovered("date", dayOf(query));
   MoonPhaseData& service = MoonPhaseData::sharedInstance();
   service.SetSelectedLocation(std::make_shared<GeoLocationData>(query.place.location), presentOf(query));
-  if (view.needsTables && !service.currentYearDictionary())
-    throw Failure("the phase table of " + std::to_string(service.currentYear()) + " cannot be read");
+  if (view.needsTables) checkTables(dayOf(query).year());
+  if (const auto check = makingOf(view).checkResources) check(query);
 }
 
 /// Where title and view lie in the picture, in points.

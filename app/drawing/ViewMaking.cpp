@@ -47,10 +47,10 @@ std::shared_ptr<View> makeTimeline(const Query&, Size size) {
 const ViewMaking& makingOf(const DrawableView& view) {
   static const std::map<std::string_view, ViewMaking> makings = {
       {"disc", {fixedSize<240, 240>, makeDisc}},
-      {"month", {monthSize, makeMonth}},
+      {"month", {monthSize, makeMonth, checkEclipses}},
       {"year", {yearSize, makeYear}},
-      {"riseset", {riseSetSize, makeRiseSet}},
-      {"images", {fixedSize<390, 560>, makeView<MoonCalendarView>}},
+      {"riseset", {riseSetSize, makeRiseSet, checkIcons}},
+      {"images", {fixedSize<390, 560>, makeView<MoonCalendarView>, checkMoonPictures}},
       {"compass", {fixedSize<390, 390>, makeCompass}},
       {"azel", {fixedSize<390, 390>, makeElevationArc}},
       {"chart", {fixedSize<390, 390>, makeView<MoonPositionView>}},

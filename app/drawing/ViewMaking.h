@@ -14,6 +14,8 @@ struct ViewMaking {
   Size (*usualSize)(const Query&);
   /// The view, filling the size.
   std::shared_ptr<View> (*make)(const Query&, Size);
+  /// Throws a Failure where what it shows beside phases cannot be read; none for what shows nothing else.
+  void (*checkResources)(const Query&) = nullptr;
 };
 
 const ViewMaking& makingOf(const DrawableView& view);

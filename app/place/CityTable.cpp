@@ -1,10 +1,13 @@
 #include <app/place/CityTable.h>
 
 #include <algorithm>
+#include <cstdint>
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <optional>
 #include <sstream>
+#include <system_error>
 
 #include <app/Errors.h>
 #include <app/request/ValueTexts.h>
@@ -14,6 +17,8 @@ namespace velmora::app {
 namespace {
 
 constexpr std::size_t longestSpelling = 100;  // bytes; no city of the table comes near it
+
+constexpr std::uintmax_t largestTable = std::uintmax_t{1} << 20;  // bytes; the system's has some 20,000
 
 bool isSign(char c) { return c == '+' || c == '-'; }
 
@@ -53,19 +58,30 @@ std::optional<City> cityOfRow(const std::string& row) {
   return City{name, zone, *latitude, *longitude};
 }
 
-CityTable readSystemTable() {
+/// Open if it is an ordinary file of a size that such a table may have.
+std::ifstream openedTable(const std::string& path) {
+  std::error_code error;
+  const bool isOrdinary = std::filesystem::is_regular_file(path, error);
+  if (!isOrdinary || std::filesystem::file_size(path, error) > largestTable) return {};
+  return std::ifstream(path);
+}
+
+std::string pathOfSystemTable() {
   const char* folder = std::getenv("TZDIR");
-  const std::string path = std::string(folder && *folder ? folder : "/usr/share/zoneinfo") + "/zone.tab";
-  std::ifstream file(path);
-  CityTable table(file);
-  if (table.cities().empty()) throw Failure("the table of cities cannot be read from " + quote(path));
-  return table;
+  return std::string(folder && *folder ? folder : "/usr/share/zoneinfo") + "/zone.tab";
 }
 
 }  // namespace
 
 const CityTable& CityTable::system() {
-  static const CityTable table = readSystemTable();
+  static const CityTable table = fromFile(pathOfSystemTable());
+  return table;
+}
+
+CityTable CityTable::fromFile(const std::string& path) {
+  std::ifstream file = openedTable(path);
+  CityTable table(file);
+  if (table.cities().empty()) throw Failure("the system's time zones cannot be read from " + quotePath(path));
   return table;
 }
 

@@ -19,9 +19,12 @@ struct City {
 /// The cities of the time zone database's table of zones (zone.tab).
 class CityTable {
  public:
-  /// The system's table, in the folder that TZDIR names, else /usr/share/zoneinfo; read once. Throws Failure
-  /// if it cannot be read.
+  /// The system's table, in the folder that TZDIR names, else /usr/share/zoneinfo; read once. Throws as
+  /// below.
   static const CityTable& system();
+
+  /// The table in a file. Throws Failure if it cannot be read or has no cities.
+  static CityTable fromFile(const std::string& path);
 
   /// Reads a table: country code, coordinates as ±DDMM[SS]±DDDMM[SS] and zone identifier, separated by tabs;
   /// "#" begins a comment line. Rows that do not have this form are left out.

@@ -3,7 +3,10 @@
 #include <cerrno>
 #include <fstream>
 #include <random>
+#include <sstream>
 #include <system_error>
+
+#include <velmora/platform/resources/HeldSignals.h>
 
 namespace velmora {
 namespace {
@@ -46,8 +49,12 @@ std::optional<std::string> replaceFile(const fs::path& path,
   if (fs::is_directory(former)) return std::generic_category().message(EISDIR);
   if (fs::exists(former) && !fs::is_regular_file(former)) return writeInPlace(target, write);
 
+  std::ostringstream bytes;
+  if (!write(bytes)) return std::string("its content cannot be made");
+  const HeldSignals noPartIsLeft;
   const fs::path part = unusedNameIn(target.parent_path());
-  std::optional<std::string> failure = writeInPlace(part, write);
+  std::optional<std::string> failure =
+      writeInPlace(part, [&](std::ostream& file) { return bool(file << bytes.str()); });
   if (!failure) {
     error.clear();
     if (fs::exists(former)) fs::permissions(part, former.permissions(), error);

@@ -21,6 +21,7 @@ class Collector {
   explicit Collector(std::string_view text) : _text(text) {}
 
   void addRun(const PangoGlyphItem& run) {
+    if (run.item->analysis.font == nullptr) return addUncovered(run);
     cairo_scaled_font_t* face =
         pango_cairo_font_get_scaled_font(reinterpret_cast<PangoCairoFont*>(run.item->analysis.font));
     line.faces.emplace_back(cairo_scaled_font_reference(face));
@@ -34,6 +35,14 @@ class Collector {
   ShapedLine line;
 
  private:
+  /// Where no face is installed at all.
+  void addUncovered(const PangoGlyphItem& run) {
+    for (int i = 0; i < run.glyphs->num_glyphs; ++i) {
+      const auto byte = static_cast<std::size_t>(run.item->offset + run.glyphs->log_clusters[i]);
+      line.uncovered.emplace(characterAt(_text, byte));
+    }
+  }
+
   void addGlyph(const PangoGlyphInfo& glyph, const cairo_scaled_font_t* face, std::size_t byte) {
     const double advance = pango_units_to_double(glyph.geometry.width);
     const Point origin = {_x + pango_units_to_double(glyph.geometry.x_offset),
