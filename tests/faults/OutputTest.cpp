@@ -4,9 +4,11 @@
 #include <unistd.h>
 
 #include <array>
+#include <cerrno>
 #include <csignal>
 #include <filesystem>
 #include <new>
+#include <system_error>
 
 #include <app/Errors.h>
 
@@ -23,6 +25,9 @@ using testing::bytesOfFile;
 using testing::End;
 using testing::RunningProgram;
 using testing::runProcess;
+
+/// What the system says of an error, in the language of the process.
+std::string systemText(int error) { return std::generic_category().message(error); }
 
 const std::string request = R"({"op": "position", "lat": 1, "lon": 2})"
                             "\n";
@@ -172,8 +177,8 @@ TEST_F(PictureOutput, IntoAFolderThatIsReadOnlyLeavesTheFormerPicture) {
   }
   fs::permissions(folder.path(), fs::perms::owner_all);
   EXPECT_EQ(outcome.status, 1);
-  EXPECT_EQ(outcome.err,
-            "velmora: output '" + picture.string() + "': the picture cannot be written: Permission denied\n");
+  EXPECT_EQ(outcome.err, "velmora: output '" + picture.string() +
+                             "': the picture cannot be written: " + systemText(EACCES) + "\n");
   expectFormerPictureAlone();
 }
 
@@ -181,7 +186,8 @@ TEST_F(PictureOutput, OntoAFolderIsAFailure) {
   fs::create_directory(folder.path() / "folder.png");
   const Outcome outcome = runProgram({"draw", "chart", "-o", (folder.path() / "folder.png").string()});
   EXPECT_EQ(outcome.status, 1);
-  EXPECT_TRUE(outcome.err.ends_with("folder.png': the picture cannot be written: Is a directory\n"))
+  EXPECT_TRUE(
+      outcome.err.ends_with("folder.png': the picture cannot be written: " + systemText(EISDIR) + "\n"))
       << outcome.err;
   EXPECT_TRUE(fs::is_empty(folder.path() / "folder.png"));
 }
