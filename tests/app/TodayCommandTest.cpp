@@ -42,7 +42,8 @@ TEST_F(TodayCommandTest, IsTheDayAtThePlace) {
 
 TEST_F(TodayCommandTest, ThePhaseIsTheRecordOfTheDay) {
   const Json today = json({"today"});
-  for (const Json& day : json({"month", "2024-06"})["days"]) {
+  const Json month = json({"month", "2024-06"});
+  for (const Json& day : month["days"]) {
     if (day["day"] != 20) continue;
     for (const char* name : {"phase", "phaseName", "fullFactor", "moonAge"})
       EXPECT_EQ(today[name], day.value(name, today[name])) << name;
