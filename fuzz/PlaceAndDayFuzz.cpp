@@ -5,7 +5,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
-#include <cstring>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -27,7 +26,7 @@ template <class Value>
 Value taken(std::string_view& bytes) {
   Value value{};
   const std::size_t size = bytes.size() < sizeof value ? bytes.size() : sizeof value;
-  std::memcpy(&value, bytes.data(), size);
+  bytes.copy(reinterpret_cast<char*>(&value), size);
   bytes.remove_prefix(size);
   return value;
 }
