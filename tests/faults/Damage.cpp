@@ -1,9 +1,12 @@
 #include "tests/faults/Damage.h"
 
-#include <sys/prctl.h>
+#include <linux/capability.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
+#include <array>
+#include <cstdint>
 #include <fstream>
 #include <iterator>
 #include <stdexcept>
@@ -13,12 +16,30 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr uid_t nobody = 65534;
+constexpr std::uint32_t readAnyFile = std::uint32_t{1} << CAP_DAC_READ_SEARCH;
+constexpr std::uint32_t readAndWriteAnyFile = std::uint32_t{1} << CAP_DAC_OVERRIDE;
 constexpr std::uintmax_t gibibyte = std::uintmax_t{1} << 30;
 
 void require(bool isDone, const char* what) {
   if (!isDone) throw std::runtime_error(what);
 }
+
+/// The capabilities of this thread; those of files are in the first word.
+class Capabilities {
+ public:
+  Capabilities() { require(syscall(SYS_capget, &_header, _words.data()) == 0, "privileges cannot be read"); }
+
+  std::uint32_t effective() const { return _words[0].effective; }
+
+  void setEffective(std::uint32_t privileges) {
+    _words[0].effective = privileges;
+    require(syscall(SYS_capset, &_header, _words.data()) == 0, "privileges cannot be changed");
+  }
+
+ private:
+  __user_cap_header_struct _header{_LINUX_CAPABILITY_VERSION_3, 0};
+  std::array<__user_cap_data_struct, _LINUX_CAPABILITY_U32S_3> _words{};
+};
 
 std::string list(const std::string& root) {
   return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\">\n" + root + "\n</plist>\n";
@@ -81,14 +102,11 @@ const std::vector<Damage>& damagesOfAPropertyList() {
   return damages;
 }
 
-WithoutPrivileges::WithoutPrivileges() : _wasRoot(geteuid() == 0) {
-  if (_wasRoot) require(seteuid(nobody) == 0, "privileges cannot be dropped");
+WithoutPrivilege::WithoutPrivilege(Privilege privilege) : _before(Capabilities().effective()) {
+  const std::uint32_t left = privilege == Privilege::toWrite ? _before : _before & ~readAnyFile;
+  Capabilities().setEffective(left & ~readAndWriteAnyFile);
 }
 
-WithoutPrivileges::~WithoutPrivileges() {
-  if (!_wasRoot) return;
-  [[maybe_unused]] const int isBack = seteuid(0);
-  prctl(PR_SET_DUMPABLE, 1);  // which dropping them took away; a leak checker needs it
-}
+WithoutPrivilege::~WithoutPrivilege() { Capabilities().setEffective(_before); }
 
 }  // namespace velmora::testing

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -25,17 +26,19 @@ void overwrite(const std::filesystem::path& file, std::string_view bytes);
 
 std::string bytesOfFile(const std::filesystem::path& file);
 
-/// Lets the process do no more than any user may, for as long as it lives: root reads what nobody may read
-/// and writes where nobody may write.
-class WithoutPrivileges {
+/// What root may do to files whatever their permissions say.
+enum class Privilege { toWrite, toReadAndWrite };
+
+/// Takes the privilege from this thread as long as it lives; root stays the owner of its own files.
+class WithoutPrivilege {
  public:
-  WithoutPrivileges();
-  ~WithoutPrivileges();
-  WithoutPrivileges(const WithoutPrivileges&) = delete;
-  WithoutPrivileges& operator=(const WithoutPrivileges&) = delete;
+  explicit WithoutPrivilege(Privilege privilege);
+  ~WithoutPrivilege();
+  WithoutPrivilege(const WithoutPrivilege&) = delete;
+  WithoutPrivilege& operator=(const WithoutPrivilege&) = delete;
 
  private:
-  bool _wasRoot;
+  std::uint32_t _before;
 };
 
 }  // namespace velmora::testing

@@ -168,11 +168,10 @@ TEST_F(PictureOutput, OnADiskThatIsFullLeavesTheFormerPicture) {
 }
 
 TEST_F(PictureOutput, IntoAFolderThatIsReadOnlyLeavesTheFormerPicture) {
-  fs::permissions(folder.path(), fs::perms::owner_read | fs::perms::owner_exec | fs::perms::others_read |
-                                     fs::perms::others_exec);
+  fs::permissions(folder.path(), fs::perms::owner_read | fs::perms::owner_exec);
   Outcome outcome;
   {
-    const testing::WithoutPrivileges anyUser;
+    const testing::WithoutPrivilege asAnyUser(testing::Privilege::toWrite);
     outcome = runProgram(drawMonth());
   }
   fs::permissions(folder.path(), fs::perms::owner_all);
