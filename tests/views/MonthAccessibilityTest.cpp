@@ -118,6 +118,12 @@ TEST_F(MonthAccessibilityTest, BeforeTheFirstDrawingThereAreNoElements) {
   EXPECT_EQ(elements().size(), 28U);
 }
 
+TEST_F(MonthAccessibilityTest, WithoutASelectionThereAreNoElementsEvenIfDaysWereDrawn) {
+  draw();
+  MoonPhaseData::resetSharedInstance();
+  EXPECT_EQ(view->accessibilityElements().size(), 0U);
+}
+
 TEST_F(MonthAccessibilityTest, ElementsStayUntilTheHostEmptiesThem) {
   elements();
   select(utc(2026, 4, 14));

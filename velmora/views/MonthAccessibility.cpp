@@ -45,6 +45,8 @@ std::vector<AccessibilityElement> iPhoneCalendarView::accessibilityElements() {
 
 void iPhoneCalendarView::setupAccessibility() {
   _axElements.clear();
+  // A view may outlive the selection that it drew.
+  if (MoonPhaseData::sharedInstance().currentMonth() == 0) return;
   for (std::int64_t day = 1; day <= _grid.numberOfDaysInMonth; ++day) {
     _axElements.push_back(elementOfDay(day));
   }
