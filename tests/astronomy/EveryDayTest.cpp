@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <optional>
+#include <ostream>
 
 #include <velmora/astronomy/RiseAndSetCalc.h>
 
@@ -81,6 +82,8 @@ struct Place {
   double latitude, longitude;
   std::int64_t offset;
 };
+
+void PrintTo(const Place& place, std::ostream* out) { *out << place.name; }
 
 class EveryDayFrom2000To2040 : public ::testing::TestWithParam<Place> {};
 

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <ostream>
 
 #include <velmora/astronomy/PositionData.h>
 
@@ -14,6 +15,8 @@ struct HourCase {
   const char* long12;
   const char* short12;
 };
+
+void PrintTo(const HourCase& position, std::ostream* out) { *out << position.hour; }
 
 class HourOfAPosition : public ::testing::TestWithParam<HourCase> {};
 

@@ -3,6 +3,7 @@
 #include <array>
 #include <cmath>
 #include <limits>
+#include <ostream>
 
 #include <velmora/astronomy/RiseAndSetCalc.h>
 
@@ -112,6 +113,8 @@ struct ClockCase {
   const char* text24;
   const char* text12;
 };
+
+void PrintTo(const ClockCase& clock, std::ostream* out) { *out << clock.hours; }
 
 class ClockTextOfHours : public ::testing::TestWithParam<ClockCase> {};
 

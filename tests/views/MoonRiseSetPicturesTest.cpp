@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <ostream>
 #include <string>
 
 #include <velmora/platform/graphics/cairo/CairoCanvas.h>
@@ -25,6 +26,8 @@ struct Week {
   std::int64_t day;  ///< of June 2024, selected
   std::int64_t alternateCalendarType;
 };
+
+void PrintTo(const Week& week, std::ostream* out) { *out << week.name; }
 
 constexpr Size weekSize{390, 7 * 80};
 constexpr Color night{14.0 / 255, 12.0 / 255, 22.0 / 255, 1};
