@@ -1,5 +1,6 @@
 #include <velmora/astronomy/SunAndMoonSeries.h>
 
+#include <array>
 #include <cmath>
 
 #include <velmora/astronomy/RiseAndSetCalc.h>
@@ -12,6 +13,10 @@ constexpr double degreesPerRadian = 57.29577951471995;         // 360 / 6.283185
 constexpr double hoursPerHalfAngleRadian = 7.639437268629327;  // 48 / 6.283185307
 constexpr double radiansPerDegree = 0.0174532925;
 
+double turnsAt(const MeanArgument& argument, double centuries) {
+  return RiseAndSetCalc::_frac(argument.atEpoch + argument.perCentury * centuries);
+}
+
 constexpr double moon = 1.0;  // every other object is the Sun
 
 EquatorialCoordinates coordinates(const Direction<double>& direction) {
@@ -22,27 +27,35 @@ EquatorialCoordinates coordinates(const Direction<double>& direction) {
 }  // namespace
 
 ArgumentValue<double> valueAt(const MeanArgument& argument, double centuries) {
-  const double turns = RiseAndSetCalc::_frac(argument.atEpoch + argument.perCentury * centuries);
+  const double turns = turnsAt(argument, centuries);
   return {turns, angleWithinTurn(seriesTwoPi * turns)};
 }
 
 ArgumentValue<Hours> valueAt(const MeanArgument& argument, const Hours& centuries) {
   Hours turns;
   for (std::size_t i = 0; i < Hours::count; ++i) {
-    turns.set(i, RiseAndSetCalc::_frac(argument.atEpoch + argument.perCentury * centuries[i]));
+    turns.set(i, turnsAt(argument, centuries[i]));
   }
   return {turns, angleWithinTurn<Hours>(seriesTwoPi * turns)};
 }
 
-template <class Number>
-Direction<Number> moonDirectionAt(const Number& centuries) {
+template <>
+Direction<double> moonDirectionAt(const double& centuries) {
+  // Four arguments of one moment are computed as one argument of four hours is.
+  constexpr std::array arguments = {moonAnomaly, sunAnomaly, moonElongation, moonLatitudeArgument};
+  Hours turns;
+  for (std::size_t i = 0; i < arguments.size(); ++i) turns.set(i, turnsAt(arguments[i], centuries));
+  const Angle<Hours> angles = angleWithinTurn<Hours>(seriesTwoPi * turns);
+  const auto angle = [&](std::size_t i) { return Angle<double>{cos(angles)[i], sin(angles)[i]}; };
+  return moonDirection(valueAt(moonLongitude, centuries), angle(0), angle(1), angle(2), angle(3));
+}
+
+template <>
+Direction<Hours> moonDirectionAt(const Hours& centuries) {
   const auto angle = [&](const MeanArgument& argument) { return valueAt(argument, centuries).angle; };
   return moonDirection(valueAt(moonLongitude, centuries), angle(moonAnomaly), angle(sunAnomaly),
                        angle(moonElongation), angle(moonLatitudeArgument));
 }
-
-template Direction<double> moonDirectionAt(const double&);
-template Direction<Hours> moonDirectionAt(const Hours&);
 
 double rightAscensionHours(const Direction<double>& direction, double rho) {
   const double hours = hoursPerHalfAngleRadian * std::atan(direction.y / (direction.x + rho));
