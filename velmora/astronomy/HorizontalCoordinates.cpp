@@ -35,6 +35,16 @@ Number localSiderealRadians(const Number& d, double longitude) {
   return longitude + (280.46061837 + 360.98564736629 * d) * radiansPerDegree;
 }
 
+template <class Number>
+Number anomalyOfSun(const Number& d) {
+  return 6.240040768070287 + 0.017201970343643867 * d;
+}
+
+template <class Number>
+Number longitudeOfSun(const Number& d) {
+  return 4.894967873435816 + 0.017202792393721557 * d;
+}
+
 /// A unit vector's vertical and horizontal parts.
 template <class Number>
 struct HorizontalDirection {
@@ -52,16 +62,31 @@ bool reducesAnglesOfSun(double d, double longitude) {
   return d >= 0 && localSiderealRadians(d, longitude) >= 0;
 }
 
+/// The angles of the Sun's formula.
+template <class Number>
+struct SunAngles {
+  Angle<Number> g, meanLongitude, siderealAngle;
+};
+
+SunAngles<Hours> sunAngles(const Hours& d, double longitude) {
+  const auto angle = [](const Hours& radians) { return angleWithinTurn<Hours>(withinTurn(radians)); };
+  return {angle(anomalyOfSun(d)), angle(longitudeOfSun(d)), angle(localSiderealRadians(d, longitude))};
+}
+
+SunAngles<double> sunAngles(double d, double longitude) {
+  const auto angles = anglesSideBySide(
+      withinTurn(Hours::of(anomalyOfSun(d), longitudeOfSun(d), localSiderealRadians(d, longitude), 0)));
+  return {angles[0], angles[1], angles[2]};
+}
+
 /// The Sun by the addition theorems, where its angles are reduced.
 template <class Number>
 HorizontalDirection<Number> sunDirectionInSky(const Number& d, double longitude,
                                               const Angle<double>& latitude) {
-  const auto angle = [](const Number& radians) { return angleWithinTurn<Number>(withinTurn(radians)); };
-  const Angle<Number> g = angle(6.240040768070287 + 0.017201970343643867 * d);
+  const auto [g, meanLongitude, siderealAngle] = sunAngles(d, longitude);
   const Angle<Number> lambda =
-      angle(4.894967873435816 + 0.017202792393721557 * d) +
-      smallAngle<Number>(0.03342305517569141 * sin(g) + 0.00034906585039886593 * sin(g + g));
-  const Angle<Number> epsilon = obliquity(d), siderealAngle = angle(localSiderealRadians(d, longitude));
+      meanLongitude + smallAngle<Number>(0.03342305517569141 * sin(g) + 0.00034906585039886593 * sin(g + g));
+  const Angle<Number> epsilon = obliquity(d);
   const Number x = cos(lambda), y = cos(epsilon) * sin(lambda), z = sin(epsilon) * sin(lambda);
   const Number south = cos(siderealAngle) * x + sin(siderealAngle) * y;
   const Number east = cos(siderealAngle) * y - sin(siderealAngle) * x;

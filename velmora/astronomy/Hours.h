@@ -8,13 +8,16 @@ namespace [[gnu::visibility("hidden")]] velmora {
 // Four hours at once; not for other folders.
 
 /// A number for each of four consecutive hours, computed side by side as two vectors of the processor, in
-/// the form that g++ and clang share. A double stands for the same number in every hour.
+/// the form that g++ and clang share. A double stands for the same number in every hour. Four numbers of one
+/// moment may stand side by side as well.
 class Hours {
  public:
   static constexpr std::size_t count = 4;
 
   Hours() = default;
   Hours(double number) : _early{number, number}, _late{number, number} {}
+
+  static Hours of(double a, double b, double c, double d) { return {Pair{a, b}, Pair{c, d}}; }
 
   /// `first`, first + 1 and so on.
   static Hours from(double first) { return {Pair{first, first + 1}, Pair{first + 2, first + 3}}; }

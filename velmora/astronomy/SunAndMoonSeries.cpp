@@ -1,6 +1,5 @@
 #include <velmora/astronomy/SunAndMoonSeries.h>
 
-#include <array>
 #include <cmath>
 
 #include <velmora/astronomy/RiseAndSetCalc.h>
@@ -41,13 +40,11 @@ ArgumentValue<Hours> valueAt(const MeanArgument& argument, const Hours& centurie
 
 template <>
 Direction<double> moonDirectionAt(const double& centuries) {
-  // Four arguments of one moment are computed as one argument of four hours is.
-  constexpr std::array arguments = {moonAnomaly, sunAnomaly, moonElongation, moonLatitudeArgument};
-  Hours turns;
-  for (std::size_t i = 0; i < arguments.size(); ++i) turns.set(i, turnsAt(arguments[i], centuries));
-  const Angle<Hours> angles = angleWithinTurn<Hours>(seriesTwoPi * turns);
-  const auto angle = [&](std::size_t i) { return Angle<double>{cos(angles)[i], sin(angles)[i]}; };
-  return moonDirection(valueAt(moonLongitude, centuries), angle(0), angle(1), angle(2), angle(3));
+  const auto turns = [&](const MeanArgument& argument) { return turnsAt(argument, centuries); };
+  const auto [l, ls, D, F] =
+      anglesSideBySide(seriesTwoPi * Hours::of(turns(moonAnomaly), turns(sunAnomaly), turns(moonElongation),
+                                               turns(moonLatitudeArgument)));
+  return moonDirection(valueAt(moonLongitude, centuries), l, ls, D, F);
 }
 
 template <>

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+
 #include <velmora/astronomy/Angle.h>
 #include <velmora/astronomy/Hours.h>
 #include <velmora/astronomy/RiseAndSetCalc.h>
@@ -31,6 +33,14 @@ inline constexpr MeanArgument moonLongitude{0.606433, 1336.855225};
 inline constexpr MeanArgument moonAnomaly{0.374897, 1325.55241};
 inline constexpr MeanArgument moonElongation{0.827361, 1236.853086};
 inline constexpr MeanArgument moonLatitudeArgument{0.259086, 1342.227825};
+
+/// Each the angle of one of four numbers of 0 to 2π radians, computed together.
+inline std::array<Angle<double>, Hours::count> anglesSideBySide(const Hours& radians) {
+  const Angle<Hours> angles = angleWithinTurn(radians);
+  std::array<Angle<double>, Hours::count> each;
+  for (std::size_t i = 0; i < each.size(); ++i) each[i] = {cos(angles)[i], sin(angles)[i]};
+  return each;
+}
 
 /// The value of an argument at one moment, or at several hours.
 template <class Number>
