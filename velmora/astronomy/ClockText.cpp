@@ -17,13 +17,15 @@ std::string wholeText(double number) { return std::to_string(wholeNumber<std::in
 
 std::string twoDigits(double number) {
   const auto whole = wholeNumber<std::int32_t>(number);
-  if (whole < 0 || whole > 9) return std::to_string(whole);
-  return {'0', static_cast<char>('0' + whole)};
+  if (whole < 0 || whole > 99) return std::to_string(whole);
+  return {static_cast<char>('0' + whole / 10), static_cast<char>('0' + whole % 10)};
 }
 
 std::string clockText(double hours, bool use24Hour) {
   const auto [hour, minute] = clockReading(hours);
-  std::string text = twoDigits(!use24Hour && hour > 12 ? hour - 12 : hour) + ':' + twoDigits(minute);
+  std::string text = twoDigits(!use24Hour && hour > 12 ? hour - 12 : hour);
+  text += ':';
+  text += twoDigits(minute);
   if (!use24Hour) text += hour >= 12 ? " PM" : " AM";
   return text;
 }

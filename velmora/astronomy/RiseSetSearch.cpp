@@ -107,7 +107,9 @@ double minutesFromMidnight(double time) {
 
 /// The clock text, marked where the event falls on the next day.
 std::string eventText(double clockTime, bool nextDay) {
-  return RiseAndSetCalc::_hrsmin(clockTime) + (nextDay ? " **" : "");
+  std::string text = RiseAndSetCalc::_hrsmin(clockTime);
+  if (nextDay) text += " **";
+  return text;
 }
 
 /// A rise beyond hour 24 keeps its hours ("24:37 **"), a set does not; both as intended.
