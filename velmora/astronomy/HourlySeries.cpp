@@ -32,8 +32,8 @@ HourlyAngle::HourlyAngle(const ArgumentValue<double>& start, const HourlyGrowth&
   _perStep = {cos(perStep), sin(perStep)};
 }
 
-HourlyAngle::HourlyAngle(const MeanArgument& argument, double centuries)
-    : HourlyAngle(valueAt(argument, centuries), {argument.perCentury / hoursPerCentury, seriesTwoPi},
+HourlyAngle::HourlyAngle(const MeanArgument& argument, const ArgumentValue<double>& start)
+    : HourlyAngle(start, {argument.perCentury / hoursPerCentury, seriesTwoPi},
                   smallAngle(seriesTwoPi * argument.perCentury / hoursPerCentury)) {}
 
 void HourlyAngle::step() {
@@ -41,7 +41,8 @@ void HourlyAngle::step() {
 }
 
 HourlySun::HourlySun(double centuries)
-    : _longitude(sunLongitude, centuries), _anomaly(sunAnomaly, centuries) {}
+    : _longitude(sunLongitude, valueAt(sunLongitude, centuries)),
+      _anomaly(sunAnomaly, valueAt(sunAnomaly, centuries)) {}
 
 void HourlySun::step() {
   _longitude.step();
@@ -49,11 +50,15 @@ void HourlySun::step() {
 }
 
 HourlyMoon::HourlyMoon(double centuries)
-    : _longitude(moonLongitude, centuries),
-      _anomaly(moonAnomaly, centuries),
-      _sunAnomaly(sunAnomaly, centuries),
-      _elongation(moonElongation, centuries),
-      _latitudeArgument(moonLatitudeArgument, centuries) {}
+    : HourlyMoon(valueAt(moonLongitude, centuries),
+                 valuesAt({moonAnomaly, sunAnomaly, moonElongation, moonLatitudeArgument}, centuries)) {}
+
+HourlyMoon::HourlyMoon(const ArgumentValue<double>& longitude, const Values& starts)
+    : _longitude(moonLongitude, longitude),
+      _anomaly(moonAnomaly, starts[0]),
+      _sunAnomaly(sunAnomaly, starts[1]),
+      _elongation(moonElongation, starts[2]),
+      _latitudeArgument(moonLatitudeArgument, starts[3]) {}
 
 void HourlyMoon::step() {
   for (HourlyAngle* angle : {&_longitude, &_anomaly, &_sunAnomaly, &_elongation, &_latitudeArgument}) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 
 #include <velmora/astronomy/Hours.h>
@@ -20,7 +21,7 @@ class HourlyAngle {
  public:
   /// `perHour`: the growth as an angle.
   HourlyAngle(const ArgumentValue<double>& start, const HourlyGrowth& growth, const Angle<double>& perHour);
-  HourlyAngle(const MeanArgument& argument, double centuries);
+  HourlyAngle(const MeanArgument& argument, const ArgumentValue<double>& start);
 
   const ArgumentValue<Hours>& value() const { return _value; }
   const Angle<Hours>& angle() const { return _value.angle; }
@@ -56,6 +57,10 @@ class HourlyMoon {
   void step();
 
  private:
+  using Values = std::array<ArgumentValue<double>, Hours::count>;
+
+  HourlyMoon(const ArgumentValue<double>& longitude, const Values& starts);
+
   HourlyAngle _longitude, _anomaly, _sunAnomaly, _elongation, _latitudeArgument;
 };
 

@@ -38,6 +38,16 @@ ArgumentValue<Hours> valueAt(const MeanArgument& argument, const Hours& centurie
   return {turns, angleWithinTurn<Hours>(seriesTwoPi * turns)};
 }
 
+std::array<ArgumentValue<double>, Hours::count> valuesAt(
+    const std::array<MeanArgument, Hours::count>& arguments, double centuries) {
+  Hours turns;
+  for (std::size_t i = 0; i < Hours::count; ++i) turns.set(i, turnsAt(arguments[i], centuries));
+  const auto angles = anglesSideBySide(seriesTwoPi * turns);
+  std::array<ArgumentValue<double>, Hours::count> values;
+  for (std::size_t i = 0; i < Hours::count; ++i) values[i] = {turns[i], angles[i]};
+  return values;
+}
+
 template <>
 Direction<double> moonDirectionAt(const double& centuries) {
   const auto turns = [&](const MeanArgument& argument) { return turnsAt(argument, centuries); };

@@ -56,6 +56,9 @@ inline void setHour(ArgumentValue<Hours>& values, std::size_t hour, const Argume
 }
 
 ArgumentValue<double> valueAt(const MeanArgument& argument, double centuries);
+/// Those of several arguments at one moment.
+std::array<ArgumentValue<double>, Hours::count> valuesAt(
+    const std::array<MeanArgument, Hours::count>& arguments, double centuries);
 ArgumentValue<Hours> valueAt(const MeanArgument& argument, const Hours& centuries);
 
 /// A direction in the frame of the equator and equinox of date. A unit vector but for the short figures of
