@@ -48,8 +48,7 @@ std::array<ArgumentValue<double>, Hours::count> valuesAt(
   return values;
 }
 
-template <>
-Direction<double> moonDirectionAt(const double& centuries) {
+Direction<double> moonDirectionAt(double centuries) {
   const auto turns = [&](const MeanArgument& argument) { return turnsAt(argument, centuries); };
   const auto [l, ls, D, F] =
       anglesSideBySide(seriesTwoPi * Hours::of(turns(moonAnomaly), turns(sunAnomaly), turns(moonElongation),
@@ -57,7 +56,6 @@ Direction<double> moonDirectionAt(const double& centuries) {
   return moonDirection(valueAt(moonLongitude, centuries), l, ls, D, F);
 }
 
-template <>
 Direction<Hours> moonDirectionAt(const Hours& centuries) {
   const auto angle = [&](const MeanArgument& argument) { return valueAt(argument, centuries).angle; };
   return moonDirection(valueAt(moonLongitude, centuries), angle(moonAnomaly), angle(sunAnomaly),

@@ -56,10 +56,11 @@ inline void setHour(ArgumentValue<Hours>& values, std::size_t hour, const Argume
 }
 
 ArgumentValue<double> valueAt(const MeanArgument& argument, double centuries);
+ArgumentValue<Hours> valueAt(const MeanArgument& argument, const Hours& centuries);
+
 /// Those of several arguments at one moment.
 std::array<ArgumentValue<double>, Hours::count> valuesAt(
     const std::array<MeanArgument, Hours::count>& arguments, double centuries);
-ArgumentValue<Hours> valueAt(const MeanArgument& argument, const Hours& centuries);
 
 /// A direction in the frame of the equator and equinox of date. A unit vector but for the short figures of
 /// the obliquity, which make x and y up to 1e-6 too small.
@@ -115,9 +116,9 @@ constexpr Direction<Number> moonDirection(const ArgumentValue<Number>& longitude
   return {X, cosObliquity * V - sinObliquity * W, sinObliquity * V + cosObliquity * W};
 }
 
-/// The Moon at one moment, or at several: the same to the last bit. `Number` is double or `Hours`.
-template <class Number>
-Direction<Number> moonDirectionAt(const Number& centuries);
+/// The Moon at one moment, or at several: the same to the last bit.
+Direction<double> moonDirectionAt(double centuries);
+Direction<Hours> moonDirectionAt(const Hours& centuries);
 
 /// The printed half-angle formula, in hours, [0, 24). `rho`: cosine of the declination.
 double rightAscensionHours(const Direction<double>& direction, double rho);
