@@ -184,6 +184,28 @@ TEST(DrawnAgain, AShapeElsewhereByWholePixelsLooksTheSame) {
   }
 }
 
+TEST(DrawnAgain, FiguresAtOtherPlacesLookTheSameToTheLastBit) {
+  const auto figuresAt = [](double x, double y) {
+    return [x, y](Canvas& canvas) {
+      const Rect box{x, y, 15.3, 15.3};
+      canvas.fillEllipse(box);
+      canvas.setLineDash({2, 1}, 0);
+      canvas.stroke(Path::ellipse(box.inset(0.7, 0.7)));
+      canvas.clip(Path::rect({x + 4.2, y - 1, 40, 12.1}));
+      canvas.setFillColor(Color::cyan());
+      canvas.fillEllipse(box.inset(2.1, 2.1));
+      canvas.clip(Path::rect({0, 0, 40, 20}));
+      canvas.setFillColor(Color::black());
+      canvas.fillEllipse(box.inset(4.1, 3.1));
+    };
+  };
+  for (int i = 0; i < 60; ++i) {
+    // Whole pixels apart, 256ths, and finer than Cairo tells apart.
+    const double x = 3.1 + i % 7 * 5 / scale + i / 20 / (scale * 256), y = 2.4 + i % 9 * 2 + i / 30 * 1e-4;
+    ASSERT_EQ(drawn(figuresAt(x, y)), drawnAfresh(figuresAt(x, y))) << i;
+  }
+}
+
 TEST(DrawnAgain, AShapeCutByThePicturesEdgeIsWholeElsewhere) {
   const auto discAt = [](double x) {
     return [x](Canvas& canvas) {

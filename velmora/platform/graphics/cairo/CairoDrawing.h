@@ -20,8 +20,8 @@ class [[gnu::visibility("hidden")]] CairoCanvas::Drawing {
  public:
   /// A clip as it was set, and those set before it.
   struct Clip {
-    ShapeKey outline;
-    cairo_matrix_t frame;
+    OutlineInPixels outline;
+    std::optional<Rect> rectangle;  ///< in pixels, if it is one with upright edges
     std::shared_ptr<const Clip> outer;
   };
 
@@ -81,8 +81,9 @@ class [[gnu::visibility("hidden")]] CairoCanvas::Drawing {
 
   /// What covers pixels: a figure, glyphs or an image.
   struct Shape {
-    ShapeKey key;                ///< all that tells it from other shapes in the same frame and clips
-    Rect box;                    ///< holds all of it
+    ShapeKey key;  ///< all that tells it from others of its outline, frame and clips
+    std::optional<OutlineInPixels> outline;  ///< of a figure
+    Rect box;                                ///< holds all of it
     cairo_content_t content;     ///< with colours of its own, or to be drawn with the paint that is set
     std::function<void()> draw;  ///< onto the context
   };
@@ -91,7 +92,7 @@ class [[gnu::visibility("hidden")]] CairoCanvas::Drawing {
   void cover(const Path& path, const Rect& box);
   bool isWorthKeeping(const Path& path) const;
   void place(const Shape& shape);
-  ShapeKey keyInPlace(ShapeKey key, const Rect& pixels) const;
+  ShapeKey keyInPlace(const Shape& shape, const Rect& pixels) const;
   CairoSurface makePixels(const Shape& shape, const Rect& pixels);
   void layDown(cairo_surface_t* pixels, cairo_content_t content, Point topLeft);
   /// The whole pixels that the rectangle of the current frame touches.

@@ -11,6 +11,7 @@ struct CairoDeleter {
   void operator()(cairo_surface_t* surface) const { cairo_surface_destroy(surface); }
   void operator()(cairo_scaled_font_t* font) const { cairo_scaled_font_destroy(font); }
   void operator()(cairo_font_options_t* options) const { cairo_font_options_destroy(options); }
+  void operator()(cairo_path_t* path) const { cairo_path_destroy(path); }
 };
 
 using CairoContext = std::unique_ptr<cairo_t, CairoDeleter>;

@@ -1,6 +1,9 @@
 #include <velmora/platform/graphics/cairo/CairoPath.h>
 
 #include <cmath>
+#include <memory>
+
+#include <velmora/platform/graphics/cairo/CairoHandles.h>
 
 namespace velmora {
 namespace {
@@ -37,6 +40,17 @@ void setPath(cairo_t* context, const Path& path) {
     if (!std::visit(IsFinite(), element)) return;
   }
   for (const Path::Element& element : elements) std::visit(Appender{context}, element);
+}
+
+OutlineInPixels outlineInPixels(cairo_t* context, const Path& path) {
+  setPath(context, path);
+  cairo_matrix_t frame;
+  cairo_get_matrix(context, &frame);
+  cairo_identity_matrix(context);
+  const std::unique_ptr<cairo_path_t, CairoDeleter> outline(cairo_copy_path(context));
+  cairo_set_matrix(context, &frame);
+  cairo_new_path(context);
+  return {outline->data, outline->data + outline->num_data};
 }
 
 }  // namespace velmora

@@ -24,12 +24,6 @@ ShapeKey keyOf(Kind kind) {
   return key;
 }
 
-ShapeKey keyOf(Kind kind, const Path& path) {
-  ShapeKey key = keyOf(kind);
-  key.add(path);
-  return key;
-}
-
 cairo_matrix_t frameOf(cairo_t* context) {
   cairo_matrix_t frame;
   cairo_get_matrix(context, &frame);
@@ -57,6 +51,15 @@ void countOffsetFrom(cairo_surface_t* group, Point origin) {
   cairo_surface_set_device_offset(group, offset.x + origin.x, offset.y + origin.y);
 }
 
+/// The pixels that the path holds in the frame, if it is a rectangle with upright edges.
+std::optional<Rect> uprightRectangle(const cairo_matrix_t& frame, const Path& path) {
+  const auto box = path.boundingBox();
+  if (!box || path != Path::rect(*box) || frame.xy != 0 || frame.yx != 0) return std::nullopt;
+  const auto [left, right] = std::minmax({frame.xx * box->x, frame.xx * (box->x + box->width)});
+  const auto [top, bottom] = std::minmax({frame.yy * box->y, frame.yy * (box->y + box->height)});
+  return Rect{frame.x0 + left, frame.y0 + top, right - left, bottom - top};
+}
+
 bool isCurved(const Path& path) {
   const std::vector<Path::Element> elements = path.elements();
   return std::any_of(elements.begin(), elements.end(),
@@ -72,9 +75,8 @@ bool CairoCanvas::Drawing::isWorthKeeping(const Path& path) const {
 
 void CairoCanvas::Drawing::clip(const Path& path) {
   finishPendingClear();
-  Clip added = {{}, frameOf(context()), state().clip};
-  added.outline.add(path);
-  state().clip = std::make_shared<const Clip>(std::move(added));
+  state().clip = std::make_shared<const Clip>(
+      Clip{outlineInPixels(context(), path), uprightRectangle(frameOf(context()), path), state().clip});
   setPath(context(), path);
   cairo_clip(context());
 }
@@ -111,7 +113,7 @@ void CairoCanvas::Drawing::cover(const Path& path, const Rect& box) {
     cairo_fill(context());
   };
   if (!isWorthKeeping(path)) return draw();
-  place({keyOf(Kind::fill, path), box, CAIRO_CONTENT_ALPHA, draw});
+  place({keyOf(Kind::fill), outlineInPixels(context(), path), box, CAIRO_CONTENT_ALPHA, draw});
 }
 
 void CairoCanvas::Drawing::stroke(const Path& path) {
@@ -126,12 +128,12 @@ void CairoCanvas::Drawing::stroke(const Path& path) {
     cairo_stroke(context());
   };
   if (!isWorthKeeping(path)) return draw();
-  ShapeKey key = keyOf(Kind::stroke, path);
+  ShapeKey key = keyOf(Kind::stroke);
   key.add(width);
   const std::vector<double> dashes = dashesOf(context());
   key.add(dashes.size());
   for (const double length : dashes) key.add(length);
-  place({key, reached, CAIRO_CONTENT_ALPHA, draw});
+  place({key, outlineInPixels(context(), path), reached, CAIRO_CONTENT_ALPHA, draw});
 }
 
 void CairoCanvas::Drawing::drawGlyphs(const GlyphRun& run, std::uint64_t lineSerial) {
@@ -143,7 +145,7 @@ void CairoCanvas::Drawing::drawGlyphs(const GlyphRun& run, std::uint64_t lineSer
   key.add(run.glyphs.size());
   key.add(run.glyphs.front().x);
   key.add(run.glyphs.front().y);
-  place({key, inkBox(context(), run), CAIRO_CONTENT_ALPHA, [&] { fillOutlines(context(), run); }});
+  place({key, {}, inkBox(context(), run), CAIRO_CONTENT_ALPHA, [&] { fillOutlines(context(), run); }});
 }
 
 void CairoCanvas::Drawing::drawImage(const Image& image, const Rect& rect) {
@@ -158,7 +160,7 @@ void CairoCanvas::Drawing::drawImage(const Image& image, const Rect& rect) {
   key.add(image.serial());
   key.add(rect);
   key.add(alpha);
-  place({key, rect, CAIRO_CONTENT_COLOR_ALPHA, draw});
+  place({key, {}, rect, CAIRO_CONTENT_COLOR_ALPHA, draw});
 }
 
 /// Draws the shape by way of its pixels, unless it is large.
@@ -168,23 +170,29 @@ void CairoCanvas::Drawing::place(const Shape& shape) {
   if (!(pixels.width * pixels.height <= largestKeptArea)) return shape.draw();
 
   ShapeCache& cache = ShapeCache::ofThread();
-  const ShapeKey key = keyInPlace(shape.key, pixels);
+  const ShapeKey key = keyInPlace(shape, pixels);
   if (cairo_surface_t* kept = cache.find(key)) return layDown(kept, shape.content, pixels.origin());
   CairoSurface made = makePixels(shape, pixels);
   if (cairo_status(context()) != CAIRO_STATUS_SUCCESS) return;
   layDown(cache.keep(key, std::move(made)), shape.content, pixels.origin());
 }
 
-/// Shapes that lie whole pixels apart, with the clips around them, share their key.
-ShapeKey CairoCanvas::Drawing::keyInPlace(ShapeKey key, const Rect& pixels) const {
-  const cairo_matrix_t frame = frameOf(context());
-  const Point origin = {std::floor(frame.x0), std::floor(frame.y0)};
+/// Shapes that lie whole pixels apart, with the clips that touch them, share their key.
+ShapeKey CairoCanvas::Drawing::keyInPlace(const Shape& shape, const Rect& pixels) const {
+  const Point origin = pixels.origin();
+  cairo_matrix_t frame = frameOf(context());
+  ShapeKey key = shape.key;
   key.add(cairo_get_tolerance(context()));
-  key.add(Rect{pixels.x - origin.x, pixels.y - origin.y, pixels.width, pixels.height});
+  key.add(pixels.width);
+  key.add(pixels.height);
+  if (shape.outline) {
+    key.add(*shape.outline, origin);
+    frame.x0 = origin.x, frame.y0 = origin.y;  // the outline says where it lies
+  }
   key.add(frame, origin);
   for (const Clip* clip = _states.back().clip.get(); clip != nullptr; clip = clip->outer.get()) {
-    key.add(clip->outline);
-    key.add(clip->frame, origin);
+    const bool showsAll = clip->rectangle && clip->rectangle->intersection(pixels) == pixels;
+    if (!showsAll) key.add(clip->outline, origin);
   }
   return key;
 }

@@ -1,25 +1,22 @@
 #include <velmora/platform/graphics/cairo/ShapeKey.h>
 
-#include <type_traits>
-#include <variant>
-#include <vector>
-
 namespace velmora {
 
 void ShapeKey::add(const Rect& rect) {
   for (const double number : {rect.x, rect.y, rect.width, rect.height}) add(number);
 }
 
-void ShapeKey::add(const Path& path) {
-  const std::vector<Path::Element> elements = path.elements();
-  add(elements.size());
-  for (const Path::Element& element : elements) {
-    _bytes += static_cast<char>(element.index());
-    std::visit(
-        [this](const auto& part) {
-          if constexpr (!std::is_empty_v<std::decay_t<decltype(part)>>) append(&part, sizeof part);
-        },
-        element);
+void ShapeKey::add(const OutlineInPixels& outline, Point origin) {
+  add(std::uint64_t{outline.size()});
+  for (std::size_t header = 0; header < outline.size();) {
+    const auto& [type, length] = outline[header].header;
+    add(static_cast<std::uint64_t>(type));
+    const std::size_t end = header + static_cast<std::size_t>(length);
+    for (std::size_t i = header + 1; i < end; ++i) {
+      add(outline[i].point.x - origin.x);
+      add(outline[i].point.y - origin.y);
+    }
+    header = end;
   }
 }
 

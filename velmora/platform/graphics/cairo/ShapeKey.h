@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <string>
 
-#include <velmora/platform/graphics/Path.h>
+#include <velmora/platform/graphics/cairo/CairoPath.h>
 
 namespace [[gnu::visibility("hidden")]] velmora {
 
@@ -16,8 +16,8 @@ class ShapeKey {
   void add(double number) { append(&number, sizeof number); }
   void add(std::uint64_t number) { append(&number, sizeof number); }
   void add(const Rect& rect);
-  void add(const Path& path);
-  void add(const ShapeKey& other) { _bytes += other._bytes; }
+  /// The outline as it is seen from the point.
+  void add(const OutlineInPixels& outline, Point origin);
   /// The frame as it is seen from the point, in pixels.
   void add(const cairo_matrix_t& frame, Point origin);
 
