@@ -278,7 +278,8 @@ TEST_F(DrawTest, AFileThatCannotBeWrittenIsAFailureOfOneLine) {
     EXPECT_EQ(outcome.status, 1);
     EXPECT_EQ(outcome.out, "");
     ASSERT_EQ(linesOf(outcome.err).size(), 1U);
-    EXPECT_NE(outcome.err.find("'" + file + "': the picture cannot be written: "), std::string::npos) << outcome.err;
+    EXPECT_NE(outcome.err.find("'" + file + "': the picture cannot be written: "), std::string::npos)
+        << outcome.err;
   }
 }
 

@@ -94,7 +94,8 @@ TEST_F(EclipseCommandTest, AMissingCatalogueIsAFailure) {
     const Outcome outcome = runProgram({command});
     EXPECT_EQ(outcome.status, 1);
     EXPECT_EQ(outcome.out, "");
-    EXPECT_EQ(outcome.err, "velmora: the catalogue of eclipses cannot be read from '/nonexistent/Data/events.txt'\n");
+    EXPECT_EQ(outcome.err,
+              "velmora: the catalogue of eclipses cannot be read from '/nonexistent/Data/events.txt'\n");
   }
 }
 

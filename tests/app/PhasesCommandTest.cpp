@@ -90,7 +90,8 @@ TEST_F(PhasesCommandTest, WithoutTheTablesThereIsNoAnswer) {
     const Outcome outcome = runProgram(question);
     EXPECT_EQ(outcome.status, 1) << question.front();
     EXPECT_EQ(outcome.out, "");
-    EXPECT_EQ(outcome.err, "velmora: the phase table of 2024 cannot be read from '/nowhere/Data/2024.plist'\n");
+    EXPECT_EQ(outcome.err,
+              "velmora: the phase table of 2024 cannot be read from '/nowhere/Data/2024.plist'\n");
   }
 }
 

@@ -134,7 +134,8 @@ TEST_F(TodayCommandTest, AMissingTableIsAFailure) {
   const Outcome outcome = runProgram({});
   EXPECT_EQ(outcome.status, 1);
   EXPECT_EQ(outcome.out, "");
-  EXPECT_EQ(outcome.err, "velmora: the phase table of 2024 cannot be read from '/nonexistent/Data/2024.plist'\n");
+  EXPECT_EQ(outcome.err,
+            "velmora: the phase table of 2024 cannot be read from '/nonexistent/Data/2024.plist'\n");
 }
 
 TEST_F(TodayCommandTest, FollowsTheClockOfTheLocale) {

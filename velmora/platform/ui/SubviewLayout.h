@@ -20,7 +20,7 @@ namespace [[gnu::visibility("hidden")]] velmora {
 /// Frames are those without the views' transforms.
 class [[gnu::visibility("hidden")]] SubviewLayout {
  public:
-  explicit SubviewLayout(View& container);
+  explicit SubviewLayout(View & container);
 
   void apply() const;
 
@@ -31,15 +31,15 @@ class [[gnu::visibility("hidden")]] SubviewLayout {
 
   void collect(const LayoutConstraint::List& constraints);
   bool isPart(const View* item) const;
-  void include(View* item);
+  void include(View * item);
 
   Box boxOf(const View& item) const;
   LinearExpression mirrored(const LinearExpression& x) const;
   LinearExpression valueOf(const View& item, LayoutAttribute attribute) const;
 
-  void addEqualities(ConstraintSolver& solver) const;
-  void addIntrinsicSizes(ConstraintSolver& solver) const;
-  void addPresentFrames(ConstraintSolver& solver) const;
+  void addEqualities(ConstraintSolver & solver) const;
+  void addIntrinsicSizes(ConstraintSolver & solver) const;
+  void addPresentFrames(ConstraintSolver & solver) const;
 
   View& _container;
   bool _isRightToLeft;

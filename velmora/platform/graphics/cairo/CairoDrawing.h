@@ -94,7 +94,7 @@ class [[gnu::visibility("hidden")]] CairoCanvas::Drawing {
   void place(const Shape& shape);
   ShapeKey keyInPlace(const Shape& shape, const Rect& pixels) const;
   CairoSurface makePixels(const Shape& shape, const Rect& pixels);
-  void layDown(cairo_surface_t* pixels, cairo_content_t content, Point topLeft);
+  void layDown(cairo_surface_t * pixels, cairo_content_t content, Point topLeft);
   /// The whole pixels that the rectangle of the current frame touches.
   Rect inPixels(const Rect& rect) const;
   /// Those that the clip lets show, or a rectangle around them.
