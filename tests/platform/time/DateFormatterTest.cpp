@@ -81,6 +81,13 @@ TEST(DateFormatter, IsGregorianBeforeTheGregorianReform) {
   EXPECT_EQ(formatter("yyyy-MM-dd").dateFromString("1500-02-29"), std::nullopt);
 }
 
+TEST(DateFormatter, AnInstantJustBeforeMidnightBelongsToTheDayThatEnds) {
+  const DateFormatter toTheSecond = formatter("yyyy-MM-dd HH:mm:ss");
+  for (const double seconds : {-1e-3, -1e-12, -1e-310, -5e-324}) {
+    EXPECT_EQ(toTheSecond.stringFromDate(instantFromUnixSeconds(seconds)), "1969-12-31 23:59:59") << seconds;
+  }
+}
+
 TEST(DateFormatter, FollowsDaylightSavingOfTheZoneDatabase) {
   const DateFormatter cairo = formatter("HH:mm", "en_US", "Africa/Cairo");
   EXPECT_EQ(cairo.stringFromDate(utc(2024, 1, 10, 12)), "14:00");

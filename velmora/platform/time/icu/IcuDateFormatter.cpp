@@ -83,8 +83,10 @@ std::string DateFormatter::stringFromDate(Instant date) const {
   if (format == nullptr) return "";
 
   useOffset(*format, _timeZone.secondsFromGMT(date));
+  // ICU takes what is smaller than its smallest normal number before a midnight for no time of day.
+  const UDate milliseconds = std::floor(unixSeconds(date) * millisecondsPerSecond);
   icu::UnicodeString text;
-  return fromIcu(format->format(unixSeconds(date) * millisecondsPerSecond, text));
+  return fromIcu(format->format(milliseconds, text));
 }
 
 std::optional<Instant> DateFormatter::dateFromString(std::string_view text) const {
