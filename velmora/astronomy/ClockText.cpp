@@ -5,7 +5,7 @@
 
 #include <velmora/astronomy/WholeNumber.h>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 
 ClockReading clockReading(double hours) {
   const double rounded = std::floor(hours * 60 + 0.5) / 60;

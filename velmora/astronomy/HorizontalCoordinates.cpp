@@ -7,7 +7,7 @@
 #include <velmora/astronomy/TimeScales.h>
 #include <velmora/platform/time/NumberText.h>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 namespace {
 
 constexpr double degreesPerRadian = 57.29577951308232;

@@ -5,7 +5,7 @@
 #include <velmora/astronomy/PrintedDegrees.h>
 #include <velmora/astronomy/TimeScales.h>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 namespace {
 
 constexpr double pi = 3.141592653589793;

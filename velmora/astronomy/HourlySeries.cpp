@@ -2,7 +2,7 @@
 
 #include <velmora/astronomy/TimeScales.h>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 namespace {
 
 constexpr double hoursPerCentury = 24 * daysPerCentury;

@@ -5,7 +5,7 @@
 #include <velmora/astronomy/RiseAndSetCalc.h>
 #include <velmora/astronomy/TimeScales.h>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 namespace {
 
 constexpr double degreesPerRadian = 57.29577951471995;         // 360 / 6.283185307

@@ -9,7 +9,7 @@
 
 #include <velmora/phases/Phase.h>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 namespace {
 
 constexpr std::size_t kFieldCount = 3;

@@ -6,7 +6,7 @@
 
 #include <velmora/service/ShortTimeText.h>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 namespace {
 
 std::optional<std::int64_t> twoDigits(std::string_view text) {

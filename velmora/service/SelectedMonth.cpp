@@ -6,11 +6,6 @@
 
 namespace velmora {
 
-std::string pictureName(std::int64_t number) {
-  constexpr std::int64_t unknownPicture = -1;
-  return number == unknownPicture ? "moon_0" : "IMG_" + std::to_string(number);
-}
-
 std::shared_ptr<const MoonPhaseCalc::ImageCalendar> MoonPhaseData::currentMonthImageDictionary() {
   if (_rawDataDictionary && !_currentImageDictionary) {
     _currentImageDictionary = std::make_shared<const ImageCalendar>(

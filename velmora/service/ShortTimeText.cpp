@@ -4,7 +4,7 @@
 
 #include <velmora/foundation/VelmoraCalendar.h>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 namespace {
 
 constexpr std::size_t minutesPerDay = 1440;

@@ -4,7 +4,7 @@
 #include <velmora/phases/PhaseItem.h>
 #include <velmora/platform/graphics/Canvas.h>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 namespace {
 
 constexpr double thinLine = 1;

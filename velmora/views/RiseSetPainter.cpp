@@ -8,7 +8,7 @@
 #include <velmora/views/UIControls.h>
 #include <velmora/views/VelmoraTheme.h>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 namespace {
 
 constexpr double midlineWidth = 0.5, midlineAlpha = 0.9;

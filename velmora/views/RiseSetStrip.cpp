@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 namespace {
 
 constexpr std::int64_t minutesOfDay = 1440;

@@ -3,7 +3,7 @@
 #include <velmora/platform/time/Clock.h>
 #include <velmora/service/MoonPhaseData.h>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 
 std::int64_t todayInSelectedMonth(const MoonPhaseData& service) {
   const DateComponents now = Calendar::currentCalendar().components(Clock::now());

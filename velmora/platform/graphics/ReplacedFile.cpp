@@ -8,7 +8,7 @@
 
 #include <velmora/platform/resources/HeldSignals.h>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 namespace {
 
 namespace fs = std::filesystem;

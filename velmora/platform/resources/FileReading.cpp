@@ -4,7 +4,7 @@
 #include <fstream>
 #include <system_error>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 namespace {
 
 /// What the first byte of a sequence says of the rest.

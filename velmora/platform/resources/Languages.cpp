@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 namespace {
 
 constexpr std::size_t kScriptLength = 4;

@@ -3,7 +3,7 @@
 #include <cstdlib>
 #include <system_error>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 namespace {
 
 /// Code lies at most this far under its prefix: PREFIX/lib/ARCHITECTURE/APPLICATION.

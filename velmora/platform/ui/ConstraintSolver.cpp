@@ -4,7 +4,7 @@
 #include <cmath>
 #include <utility>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 namespace {
 
 // Coefficients are near 1; what elimination leaves of one that cancels is far below this.

@@ -4,7 +4,7 @@
 #include <velmora/platform/ui/LayoutConstraint.h>
 #include <velmora/platform/ui/View.h>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 
 SubviewLayout::SubviewLayout(View& container)
     : _container(container),

@@ -3,7 +3,7 @@
 #include <charconv>
 #include <utility>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 namespace {
 
 // Reads a format from its beginning; each part is taken off as it is read.

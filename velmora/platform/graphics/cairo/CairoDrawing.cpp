@@ -8,7 +8,7 @@
 #include <velmora/platform/graphics/cairo/CairoPath.h>
 #include <velmora/platform/time/NumberText.h>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 namespace {
 
 /// The sides in what the limits count: pixels of a PNG, else points.

@@ -8,7 +8,7 @@
 
 #include <velmora/platform/graphics/cairo/PngWriter.h>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 namespace {
 
 cairo_status_t writeBytes(void* output, const unsigned char* bytes, unsigned int count) {

@@ -4,7 +4,7 @@
 
 #include <velmora/platform/graphics/cairo/CairoHandles.h>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 namespace {
 
 /// Cairo keeps a pixel as one number of 32 bits: alpha in the highest byte, then red, green and blue.

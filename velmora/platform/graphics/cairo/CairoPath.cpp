@@ -5,7 +5,7 @@
 
 #include <velmora/platform/graphics/cairo/CairoHandles.h>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 namespace {
 
 struct Appender {

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <vector>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 namespace {
 
 const Color& colorAt(const AttributedText& text, std::size_t byte) {

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <string_view>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 namespace {
 
 /// The glyph of a face that stands for a missing one.

@@ -9,7 +9,7 @@
 #include <velmora/platform/graphics/cairo/LineReader.h>
 #include <velmora/platform/time/Locale.h>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 namespace {
 
 /// The families that views ask for and that the system's own face stands in for.

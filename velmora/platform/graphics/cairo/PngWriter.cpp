@@ -11,7 +11,7 @@
 
 #include <velmora/platform/graphics/cairo/CairoImage.h>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 namespace {
 
 // Without filters flat areas, most of what a view draws, take no more room at level 2 than with them at

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 namespace {
 
 // In bytes. A month at three pixels a point takes some 2 MB.

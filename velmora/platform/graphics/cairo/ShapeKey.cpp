@@ -1,6 +1,6 @@
 #include <velmora/platform/graphics/cairo/ShapeKey.h>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 
 void ShapeKey::add(const Rect& rect) {
   for (const double number : {rect.x, rect.y, rect.width, rect.height}) add(number);

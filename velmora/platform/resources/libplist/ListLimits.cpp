@@ -4,7 +4,7 @@
 #include <optional>
 #include <vector>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 namespace {
 
 constexpr std::size_t kMaximumExpandedSize = std::size_t{4} << 20;

@@ -8,7 +8,7 @@
 #include <velmora/platform/time/icu/IcuSupport.h>
 #include <velmora/platform/time/icu/ObjectCache.h>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 namespace {
 
 using Style = DateFormatter::Style;

@@ -7,7 +7,7 @@
 
 #include <velmora/platform/time/icu/ObjectCache.h>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 namespace {
 
 /// ICU keeps whatever bytes stand where a language should.
