@@ -3,14 +3,12 @@
 #include <algorithm>
 #include <new>
 
+#include <app/text/Utf8.h>
+
 namespace velmora::app {
 namespace {
 
 constexpr std::size_t longestQuotation = 80;
-
-bool continuesCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; }
-
-bool isControl(char byte) { return static_cast<unsigned char>(byte) < 0x20U || byte == 0x7F; }
 
 }  // namespace
 

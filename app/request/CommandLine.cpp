@@ -44,14 +44,18 @@ void declareAll(CLI::App& parser) {
   }
 }
 
+bool isDigit(char c) { return c >= '0' && c <= '9'; }
+
 bool looksLikeAnOption(const std::string& argument) {
-  return argument.size() > 1 && argument.front() == '-' && (argument[1] < '0' || argument[1] > '9');
+  return argument.size() > 1 && argument.front() == '-' && !isDigit(argument[1]);
 }
 
 [[noreturn]] void refuse(const std::string& extra, const Command& command, bool commandWasNamed) {
   if (looksLikeAnOption(extra)) {
     std::vector<std::string> options;
-    for (const auto name : command.options) options.push_back("--" + std::string(name));
+    for (const auto name : command.options) {
+      if (name != command.positional) options.push_back("--" + std::string(name));
+    }
     throw BadInput(quote(extra) + " is not an option of " + std::string(command.name) + "; nearest: " +
                    nearest(extra, options) + "; all: velmora " + std::string(command.name) + " --help");
   }
@@ -82,13 +86,35 @@ void readOption(const std::string& name, const std::vector<std::string>& values,
   readOptionText(option, name == command.positional ? name : "--" + name, values.front(), request);
 }
 
-/// In the order in which the parser takes them, the last first; a number that begins with its decimal point
-/// would look like an option to it.
+/// "--name=", an option that is given an empty value.
+bool givesAnEmptyValue(const std::string& argument) {
+  return argument.starts_with("--") && argument.find('=') == argument.size() - 1;
+}
+
+/// "-.5"
+bool isNegativeFraction(const std::string& argument) {
+  return argument.size() > 2 && argument.starts_with("-.") && isDigit(argument[2]);
+}
+
+/// In the order in which the parser takes them, the last first. It would take the word behind "--name=" for
+/// the value, and a number that begins with its decimal point for an option.
 std::vector<std::string> parserArguments(const std::vector<std::string>& arguments) {
-  std::vector<std::string> list(arguments.rbegin(), arguments.rend());
-  for (std::string& argument : list) {
-    if (argument.starts_with("-.")) argument.insert(1, "0");
+  std::vector<std::string> list;
+  for (const std::string& argument : arguments) {
+    if (givesAnEmptyValue(argument)) {
+      list.insert(list.end(), {argument.substr(0, argument.size() - 1), ""});
+    } else {
+      list.push_back(isNegativeFraction(argument) ? "-0" + argument.substr(1) : argument);
+    }
   }
+  std::reverse(list.begin(), list.end());
+  return list;
+}
+
+/// What the parser could not place, but for the mark behind which nothing is an option.
+std::vector<std::string> leftovers(const CLI::App& parser) {
+  std::vector<std::string> list = parser.remaining(true);
+  list.erase(std::remove(list.begin(), list.end(), "--"), list.end());
   return list;
 }
 
@@ -102,13 +128,16 @@ Request requestFromArguments(const std::vector<std::string>& arguments) {
     const auto named = parser.get_subcommands();
     Request request;
     request.command = named.empty() ? allCommands().front() : findCommand(named.front()->get_name());
+    const auto extras = leftovers(parser);
+    // An unknown option goes first: the word behind it may have been taken for something else.
+    const auto unknown = std::find_if(extras.begin(), extras.end(), looksLikeAnOption);
+    if (unknown != extras.end()) refuse(*unknown, *request.command, !named.empty());
     Values values;
     collect(parser, values);
     if (!named.empty()) collect(*named.front(), values);
     for (const auto& [name, given] : values) {
       if (!given.empty()) readOption(name, given, request);
     }
-    const auto extras = parser.remaining(true);
     if (!extras.empty()) refuse(extras.front(), *request.command, !named.empty());
     return request;
   } catch (const CLI::ArgumentMismatch&) {

@@ -6,6 +6,7 @@
 #include <app/drawing/DrawingOptions.h>
 #include <app/place/CityTable.h>
 #include <app/request/ValueTexts.h>
+#include <app/text/Utf8.h>
 #include <velmora/phases/Phase.h>
 
 namespace velmora::app {
@@ -78,12 +79,14 @@ Locale locale(const std::string& text) {
   return Locale(text);
 }
 
-std::string unicodeText(const std::string& text) {
+/// What can stand in a line of any answer, a terminal's among them.
+std::string nameText(const std::string& text) {
   try {
     Json(text).dump();  // writes nothing but UTF-8
   } catch (const Json::type_error&) {
     throw BadInput("is not UTF-8");
   }
+  if (std::any_of(text.begin(), text.end(), isControl)) throw BadInput("holds control characters");
   return text;
 }
 
@@ -139,8 +142,8 @@ std::vector<Option> makeOptions() {
       {"gmt-offset", "SECONDS", "fixed offset from GMT in place of a time zone",
        "whole seconds from -64800 to 64800 (18 hours), east positive",
        Number([](R& r, double v) { r.gmtOffset = wholeNumber(within(v, farthestGmtOffset)); })},
-      {"name", "TEXT", "what to call the place", "text in UTF-8",
-       Text([](R& r, S& v) { r.name = unicodeText(v); })},
+      {"name", "TEXT", "what to call the place", "one line of text in UTF-8",
+       Text([](R& r, S& v) { r.name = nameText(v); })},
       {"date", "YYYY-MM-DD", "the day (default: today)", dateForm,
        Text([](R& r, S& v) { r.date = date(v); })},
       {"time", "HH:MM", "the time of day at the place", "HH:MM from 00:00 to 23:59",

@@ -3,16 +3,13 @@
 #include <algorithm>
 
 #include <app/request/ValueTexts.h>
+#include <app/text/Utf8.h>
 #include <velmora/Version.h>
 
 namespace velmora::app {
 namespace {
 
 constexpr std::size_t longestLine = 75;  // bytes, without the line's end
-
-bool continuesCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; }
-
-bool isControl(char byte) { return static_cast<unsigned char>(byte) < 0x20U || byte == 0x7F; }
 
 /// How many bytes of the text fit into that many without cutting a character of UTF-8.
 std::size_t fitting(const std::string& text, std::size_t begin, std::size_t bytes) {

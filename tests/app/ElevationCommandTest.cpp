@@ -33,6 +33,9 @@ TEST_F(ElevationCommandTest, NegativeElevationsAreTakenAsTheyStand) {
   EXPECT_EQ(json({"elevation", "-0.5", "--body", "sun", "--city", "Guayaquil"})[0]["altitude"], -0.5);
   EXPECT_EQ(json({"elevation", "-.5", "--body", "sun", "--city", "Guayaquil"})[0]["altitude"], -0.5);
   EXPECT_EQ(json({"elevation", "--body", "sun", "--city", "Guayaquil", "-0.5"})[0]["altitude"], -0.5);
+  const std::string answered =
+      answer({"elevation", "--json", "--body", "sun", "--city", "Guayaquil", "--", "-0.5"});
+  EXPECT_EQ(Json::parse(answered)[0]["altitude"], -0.5);
 }
 
 /// Every event's instant must be the moment at which the body really stands there, whatever the zone, the

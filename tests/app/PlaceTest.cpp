@@ -44,6 +44,13 @@ TEST_F(PlaceTest, AZoneAndANameReplaceThoseOfThePlace) {
   EXPECT_EQ(place["timezone"], "UTC");
 }
 
+TEST_F(PlaceTest, ANameIsTakenAsItStands) {
+  for (const std::string name : {"", "-.x", "--", "=", "a=b"})
+    EXPECT_EQ(placeOfToday({"--name", name})["name"], name);
+  EXPECT_EQ(placeOfToday({"--name=", "--city", "Oslo"})["name"], "");
+  EXPECT_EQ(placeOfToday({"--name=a=b"})["name"], "a=b");
+}
+
 TEST_F(PlaceTest, AnOffsetIsTheZoneNamedAfterIt) {
   EXPECT_EQ(placeOfToday({"--gmt-offset", "19800"})["timezone"], "GMT+05:30");
   EXPECT_EQ(placeOfToday({"--gmt-offset", "-12600"})["timezone"], "GMT-03:30");
