@@ -63,14 +63,20 @@ const Option& optionOf(const std::string& name, const Command& command) {
                  "; nearest: " + nearest(name, accepted));
 }
 
+BadInput invalidAt(std::size_t byte) {
+  return BadInput("the line is not valid JSON at byte " + std::to_string(byte) +
+                  "; accepted: one object in UTF-8");
+}
+
 }  // namespace
 
 Json jsonFromLine(std::string_view line) {
+  const auto zero = line.find('\0');  // the parser would take it for the end
+  if (zero != std::string_view::npos) throw invalidAt(zero + 1);
   try {
     return Json::parse(line.begin(), line.end(), Watch());
   } catch (const Json::parse_error& error) {
-    throw BadInput("the line is not valid JSON at byte " + std::to_string(error.byte) +
-                   "; accepted: one object in UTF-8");
+    throw invalidAt(error.byte);
   } catch (const Json::out_of_range&) {
     throw BadInput("the line holds a number out of range; accepted: what fits a double");
   }

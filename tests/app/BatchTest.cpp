@@ -132,6 +132,7 @@ TEST_F(BatchTest, BadLinesSayWhatIsWrongAndTheStreamGoesOn) {
       {"\xff\xfe{}", "not valid JSON"},
       {"{\"op\": \"position\", \"city\": \"\xff\"}", "not valid JSON"},
       {std::string("{\"op\": \"posi\0tion\"}", 19), "not valid JSON"},
+      {std::string("{\"op\": \"position\"}\0{\"op\"", 25), "not valid JSON at byte 19"},
   };
   for (const auto& [line, message] : cases) {
     const std::string error = errorOf(line);
