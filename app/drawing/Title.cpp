@@ -1,5 +1,7 @@
 #include <app/drawing/Title.h>
 
+#include <algorithm>
+
 #include <velmora/platform/graphics/TextLayout.h>
 #include <velmora/platform/time/DateFormatter.h>
 #include <velmora/views/VelmoraTheme.h>
@@ -9,6 +11,7 @@ namespace {
 
 constexpr double margin = 10;  // on either side
 constexpr double lineGap = 4;  // scripts that hang low need it
+constexpr double leastFontSize = 9;
 
 std::string dateText(Instant date, std::string_view fields) {
   DateFormatter formatter;
@@ -16,10 +19,12 @@ std::string dateText(Instant date, std::string_view fields) {
   return formatter.stringFromDate(date);
 }
 
+/// A line that is too wide in smaller letters; where these could not be read any more, its beginning.
 TextLayout fitting(const std::string& text, TextAttributes attributes, double width) {
   const TextLayout line(AttributedText(text, attributes));
   if (line.width() <= width) return line;
-  attributes.font.size *= width / line.width();
+  attributes.font.size = std::max(leastFontSize, attributes.font.size * width / line.width());
+  attributes.lineBreak = LineBreak::clipping;
   return TextLayout(AttributedText(text, attributes));
 }
 

@@ -15,7 +15,7 @@ class Title {
   /// The date has the template's fields in the order of the locale.
   Title(Instant date, std::string_view fields, const Place& place);
 
-  /// Draws it in the middle of the band, a line that is too wide in smaller letters.
+  /// Draws it in the middle of the band, a line that is too wide in smaller letters, or cut.
   void draw(Canvas& canvas, Rect band) const;
 
  private:

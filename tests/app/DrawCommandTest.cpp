@@ -146,6 +146,15 @@ TEST_F(DrawTest, TitleOfALongNameFitsThePicture) {
   EXPECT_EQ(paintedPixels(drawn, {381, 0, 9, 56}), 0);
 }
 
+TEST_F(DrawTest, TitleOfANameLongerThanALineShowsItsBeginning) {
+  const std::string beginning(80, 'M');
+  const DrawnPicture drawn = picture({"month", "--background", "none", "--name", beginning + "and the end"});
+  EXPECT_EQ(drawn.pixels(), picture({"month", "--background", "none", "--name", beginning}).pixels());
+  EXPECT_GT(paintedPixels(drawn, {10, 28, 370, 28}), 1000);
+  EXPECT_EQ(paintedPixels(drawn, {0, 0, 9, 56}), 0);
+  EXPECT_EQ(paintedPixels(drawn, {381, 0, 9, 56}), 0);
+}
+
 TEST_F(DrawTest, TitleNamesThePlaceAndTheMonthInTheLanguage) {
   const std::string here = bytesOf(draw({"month", "--lat", "60", "--lon", "25"}));
   EXPECT_NE(bytesOf(draw({"month", "--lat", "60", "--lon", "25", "--name", "Home"})), here);
