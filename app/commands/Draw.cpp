@@ -1,5 +1,7 @@
 #include <app/commands/Draw.h>
 
+#include <algorithm>
+
 #include <app/drawing/Drawing.h>
 #include <app/drawing/DrawingOptions.h>
 #include <app/text/TextTable.h>
@@ -21,11 +23,24 @@ std::string text(const Query& query) {
          std::to_string(picture.height) + " " + picture.unit + "\n";
 }
 
+std::string viewsThatTake(std::string_view option) {
+  std::string names;
+  for (const DrawableView& view : allViews()) {
+    if (std::find(view.options.begin(), view.options.end(), option) != view.options.end())
+      names += (names.empty() ? "" : ", ") + std::string(view.name);
+  }
+  return names;
+}
+
 std::string notes() {
   TextTable views({"Views", ""});
   for (const DrawableView& view : allViews())
     views.add({"  " + std::string(view.name), std::string(view.summary)});
-  return views.text(false);
+  TextTable options({"Options of some views", ""});
+  for (const std::string_view option : viewOptions())
+    options.add({"  --" + std::string(option), viewsThatTake(option)});
+  return views.text(false) + "\n" + options.text(false) +
+         "\nCalendars: " + std::string(findOption("calendar")->accepts) + "\n";
 }
 
 }  // namespace
