@@ -74,6 +74,15 @@ TEST_F(MonthCaches, FollowADateWithoutSelectingIt) {
   EXPECT_EQ(told.texts, Texts());
 }
 
+TEST_F(MonthCaches, OfADateOnlyFollowedLeadToNoItemsOfTheFormerMonth) {
+  select(losAngeles(), 2024, 3, 10);
+  service().currentMonthPhaseDictionary();
+  service().updateCacheForDate(localTime(losAngeles(), 2024, 4, 10));
+  const auto items = service().GetRiseSetPhaseItemsForCurrentMonth();
+  ASSERT_EQ(items->size(), 30U);
+  for (const auto& [number, item] : *items) EXPECT_EQ(item->month, 4) << number;
+}
+
 TEST_F(MonthCaches, AYearsTableIsReadWithOrWithoutKeepingIt) {
   EXPECT_EQ(*service().getDataForYear(2030), shippedTable(2030));
   EXPECT_EQ(service().rawDataDictionary(), nullptr);

@@ -33,6 +33,12 @@ TEST_F(MonthItems, AreThePhaseCalendarsDays) {
   }
 }
 
+TEST_F(MonthItems, TakeNothingFromWhatACallerWroteIntoThePhases) {
+  select(losAngeles(), 2024, 3, 10);
+  service().currentMonthPhaseDictionary()->at(9)->moonAge = 99;
+  EXPECT_NE(currentMonth().at(9)->moonAge, 99);
+}
+
 TEST_F(MonthItems, AreDescribedForTheEventOrForThreeInTheMorning) {
   const Place place = losAngeles();
   select(place, 2024, 3, 10);

@@ -47,7 +47,7 @@ std::vector<RiseSetData> MoonPhaseData::getRiseSetDataFrom(Instant from, Instant
 
 std::shared_ptr<const MoonPhaseData::RiseSetItems> MoonPhaseData::GetRiseSetPhaseItemsForCurrentMonth() {
   if (!_rawDataDictionary || _currentRiseSetPhaseItemDictionary) return _currentRiseSetPhaseItemDictionary;
-  const auto days = _currentPhaseDictionary ? _currentPhaseDictionary : phasesOfMonth();
+  const auto days = phasesOfMonth();
   const Calendar localCalendar(zoneOfPlace());
 
   auto items = std::make_shared<RiseSetItems>();
