@@ -87,6 +87,27 @@ TEST_F(PlaceSelection, WithoutADateLeavesTheDayAsItWas) {
   EXPECT_EQ(told.texts.size(), 1U);
 }
 
+TEST_F(PlaceSelection, ARecordMovedToAnotherZoneMovesTheCalendarWithTheNextMonth) {
+  const Place place = losAngeles();
+  select(place, 2024, 3, 10);
+  place->SetLocation(35.6762, 139.6503, "Tokyo", "Asia/Tokyo", 0, false);
+  EXPECT_EQ(service().calendar().timeZone().name(), "America/Los_Angeles") << "while the month stays";
+  service().SetSelectedDate(localTime(place, 2024, 4, 10, 3));
+  EXPECT_EQ(service().calendar().timeZone().name(), "Asia/Tokyo");
+  EXPECT_EQ(eventDays(), (Days{2, 9, 16, 24}));
+  EXPECT_EQ(service().GetRiseSetPhaseItemsForCurrentMonth()->at(10)->weekDay, 4) << "a Wednesday";
+  EXPECT_EQ(service().GetRiseSetPhaseItemsForYear(2024).at(4).at(0)->day, 2);
+}
+
+TEST_F(PlaceSelection, ADayOfARecordMovedToAnotherZoneStartsThere) {
+  const Place place = losAngeles();
+  select(place, 2024, 3, 10);
+  place->SetLocation(35.6762, 139.6503, "Tokyo", "Asia/Tokyo", 0, false);
+  service().changeSelectedDay(20, 3, 2024);
+  EXPECT_EQ(service().currentDate(), localTime(place, 2024, 3, 20));
+  EXPECT_EQ(service().currentDay(), 20);
+}
+
 TEST_F(PlaceSelection, OfNoPlaceKeepsTheCalendarsZone) {
   select(losAngeles(), 2024, 3, 10);
   service().SetSelectedLocation(nullptr);

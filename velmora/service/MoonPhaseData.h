@@ -97,7 +97,8 @@ class MoonPhaseData {
   /// Reads a year's table without keeping it; none when there is no such table.
   std::shared_ptr<const YearTable> getDataForYear(std::int64_t year) const;
 
-  /// Builds `currentMonthData` anew; keeps the old list while no table is loaded.
+  /// Builds `currentMonthData` anew and moves the calendar to the place's zone; does nothing while no table
+  /// is loaded.
   void calculateMoonPhases();
 
   // The selected month (SelectedMonth.cpp)

@@ -92,10 +92,11 @@ void MoonPhaseData::calculateMoonPhases() {
   const Instant firstOfMonth = _calendar.date({.year = _currentYear, .month = _currentMonth});
   const std::int64_t offset = place().GetTimezoneIntervalFromGMT(firstOfMonth);
   const std::int64_t zeroBasedMonth = _currentMonth - 1;
-  Calendar calendar = _calendar;  // the query moves its calendar, also where there is no place to move to
+  Calendar calendar = _calendar;  // the query moves its own even where there is no place to move to
   _currentMonthData = MoonPhaseCalc::GetMoonPhaseDataForMonth(*_rawDataDictionary, _currentYear,
                                                               zeroBasedMonth, calendar, offset, _currentYear,
                                                               zeroBasedMonth, place(), _use24HrTimeFormat);
+  useZoneOfPlace();  // the caller may have moved the place's record to another zone
 }
 
 /// The selected place; before one is selected, a place without coordinates and zone.
