@@ -1,3 +1,5 @@
+#include <limits>
+
 #include <tests/service/ServiceTest.h>
 #include <velmora/astronomy/RiseAndSetCalc.h>
 
@@ -58,6 +60,18 @@ TEST_F(RiseSetDataOfDays, OfARangeAlwaysHoldTheFirst) {
   EXPECT_EQ(days(from + std::chrono::hours(24)), 2U);
   EXPECT_EQ(days(from + std::chrono::hours(24) - std::chrono::seconds(1)), 1U);
   EXPECT_EQ(days(utc(2020, 1, 1)), 1U) << "to before from";
+}
+
+TEST_F(RiseSetDataOfDays, OfARangeEndWithTheCalendar) {
+  service().SetSelectedLocation(greenwich());
+  const auto infinite = std::numeric_limits<double>::infinity();
+  const Instant beyond = Instant(Seconds(1e12)), endless = Instant(Seconds(infinite));
+  EXPECT_EQ(service().getRiseSetDataFrom(beyond, beyond).size(), 1U);
+  EXPECT_EQ(service().getRiseSetDataFrom(endless, endless).size(), 1U);
+  const Instant lastDayButOne = std::chrono::sys_days(std::chrono::year::max() / 12 / 30);
+  const auto days = service().getRiseSetDataFrom(lastDayButOne, endless);
+  ASSERT_EQ(days.size(), 2U);
+  EXPECT_EQ(days[1].date, lastDayButOne + std::chrono::hours(24));
 }
 
 }  // namespace

@@ -207,6 +207,7 @@ class MoonPhaseData {
   RiseSetData GetRiseSetDataForDate(Instant date) const;
 
   /// The same a day, from `from` by steps of one calendar day while not later than `to`; the first always.
+  /// Ends with the calendar, whose last day is 31 December 32767.
   std::vector<RiseSetData> getRiseSetDataFrom(Instant from, Instant to) const;
 
   /// Rewrites the item's four rise and set texts in the user's short time style; the Moon's mark for the next

@@ -36,12 +36,13 @@ RiseSetData MoonPhaseData::GetRiseSetDataForDate(Instant date) const {
 
 std::vector<RiseSetData> MoonPhaseData::getRiseSetDataFrom(Instant from, Instant to) const {
   std::vector<RiseSetData> days;
-  Instant day = from;
+  Instant day, next = from;
   do {
+    day = next;
     days.push_back(GetRiseSetDataForDate(day));
     days.back().date = day;
-    day = _calendar.dateByAddingDays(1, day);
-  } while (day <= to);
+    next = _calendar.dateByAddingDays(1, day);
+  } while (day < next && next <= to);
   return days;
 }
 
