@@ -71,6 +71,21 @@ TEST_F(MonthEvents, TheInstantIsTheTrueOneInEveryZone) {
   EXPECT_EQ(events.at(0)->localDate, utc(2024, 7, 21, 10, 17));
 }
 
+TEST_F(MonthEvents, AnOffsetChosenOverANamedZoneMovesTheTimeTextAlone) {
+  const YearTable table = {{"3", {"31 16:00 FM"}}};
+  GeoLocationData place = placeInZone("Asia/Tokyo");
+  place.SetLocation(0, 0, "Tokyo", std::nullopt, 5 * kHour + 1800, true);
+  EXPECT_EQ(listed(table, 2024, 2, place), Texts()) << "1 April in Tokyo, still 31 March by the offset";
+  EXPECT_EQ(listed(table, 2024, 3, place), Texts{"1 0 21:30"});
+}
+
+TEST_F(MonthEvents, WithoutAZoneTheOffsetInForceCountsNotOneKeptWithoutTheFlag) {
+  const YearTable table = {{"3", {"31 16:00 FM"}}};
+  GeoLocationData place;
+  place.SetLocation(0, 0, "no zone, no flag", std::nullopt, 9 * kHour, false);
+  EXPECT_EQ(listed(table, 2024, 2, place), Texts{"31 0 16:00"});
+}
+
 TEST_F(MonthEvents, AnEventOnTheFirstMayBelongToThePreviousMonthInTheWest) {
   const YearTable table = {{"6", {"1 02:00 LQ"}}};
   const GeoLocationData place = placeAtOffset(-5 * kHour);
