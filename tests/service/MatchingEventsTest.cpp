@@ -56,6 +56,14 @@ TEST_F(MatchingEvents, EndWithTheTables) {
   EXPECT_EQ(matching(0, utc(2040, 11, 1), utc(2040, 11, 30)), Texts{"2040-11-18"});
 }
 
+TEST_F(MatchingEvents, EndWith2040WhateverTablesThereAre) {
+  const OwnResources resources;
+  for (const std::int64_t year : {2040, 2041}) resources.writeTable(year, {{"6", {"1 09:00 FM"}}});
+  service().SetSelectedLocation(greenwich());
+  EXPECT_EQ(matching(0, utc(2040, 1, 1), utc(2045, 3, 1)), Texts{"2040-6-1"});
+  EXPECT_EQ(matching(0, utc(2041, 1, 1), utc(2045, 3, 1)), Texts());
+}
+
 TEST_F(MatchingEvents, FromBeforeTheTablesStartInTheirMonthOf2000) {
   service().SetSelectedLocation(greenwich());
   EXPECT_EQ(matching(0, utc(1995, 7, 1), utc(2000, 9, 30)), (Texts{"2000-7-16", "2000-8-15", "2000-9-13"}));

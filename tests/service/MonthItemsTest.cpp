@@ -202,6 +202,16 @@ TEST_F(MonthItems, OfTheNextMonthAreThatMonthsDaysOtherwise) {
   }
 }
 
+TEST_F(MonthItems, OfTheNextMonthCarryTheWeekdayOfThePlaceNotOfTheDevice) {
+  const ScopedDefaultTimeZone zone("Pacific/Kiritimati");
+  select(losAngeles(), 2024, 2, 10);
+  const auto march = nextMonth();
+  EXPECT_EQ(march->at(9)->timeText, "1:00\u202fAM") << "of the tenth on the device";
+  for (const auto& [number, item] : *march) {
+    EXPECT_EQ(item->weekDay, (number + 4) % 7 + 1) << "1 March 2024 was a Friday, the sixth day";
+  }
+}
+
 TEST_F(MonthItems, OfTheNextMonthAreNeverKept) {
   select(losAngeles(), 2024, 2, 10);
   const auto next = nextMonth();
@@ -225,6 +235,16 @@ TEST_F(MonthItems, OfNoMonthComeAfterDecember2040) {
   EXPECT_EQ(nextMonth()->at(26)->phase, 2) << "last quarter on 26 December";
   service().changeSelectedDay(15, 12, 2040);
   EXPECT_EQ(nextMonth(), nullptr);
+}
+
+TEST_F(MonthItems, OfNoMonthComeAfterDecember2040WhateverTablesThereAre) {
+  const OwnResources resources;
+  for (const std::int64_t year : {2040, 2041}) resources.writeTable(year, {{"1", {"9 09:00 NM"}}});
+  select(greenwich(), 2040, 12, 15);
+  ASSERT_NE(service().getDataForYear(2041), nullptr);
+  EXPECT_EQ(nextMonth(), nullptr);
+  service().SetSelectedLocation(greenwich(), utc(2041, 1, 15));
+  EXPECT_EQ(nextMonth(), nullptr) << "after January 2041";
 }
 
 TEST_F(MonthItems, OfJanuaryAreNoneWithoutItsTableUntilItIsThere) {
