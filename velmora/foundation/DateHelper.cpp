@@ -1,13 +1,12 @@
 #include <velmora/foundation/DateHelper.h>
 
+#include <velmora/foundation/TableYears.h>
 #include <velmora/foundation/VelmoraCalendar.h>
 #include <velmora/platform/time/NumberText.h>
 
 namespace velmora {
 namespace {
 
-constexpr std::int64_t firstValidYear = 2000;
-constexpr std::int64_t lastValidYear = 2040;
 constexpr std::int64_t minutesPerHour = 60;
 
 constexpr const char* dateFormat = "EEE MMMM d',' yyyy";
@@ -22,7 +21,7 @@ constexpr const char* shortDateAndTimeFormat = "MMM d',' yyyy  hh:mm a";
 bool DateHelper::IsDateValid(std::optional<Instant> date) {
   if (!date) return false;
   const std::int64_t year = VelmoraCalendar::applicationCalendar().components(*date).year;
-  return year >= firstValidYear && year <= lastValidYear;
+  return year >= kFirstTableYear && year <= kLastTableYear;
 }
 
 bool DateHelper::AreEqual(std::optional<Instant> date1, std::optional<Instant> date2) {

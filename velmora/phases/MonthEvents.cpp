@@ -1,4 +1,5 @@
 #include <velmora/foundation/DateHelper.h>
+#include <velmora/foundation/TableYears.h>
 #include <velmora/foundation/VelmoraCalendar.h>
 #include <velmora/phases/Months.h>
 #include <velmora/phases/MoonPhaseCalc.h>
@@ -6,9 +7,6 @@
 
 namespace velmora {
 namespace {
-
-constexpr std::int64_t kFirstTableYear = 2000;
-constexpr std::int64_t kLastTableYear = 2040;
 
 const std::vector<std::string>& linesOfMonth(const YearTable& table, std::int64_t month) {
   static const std::vector<std::string> noLines;

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <limits>
 
+#include <velmora/foundation/TableYears.h>
 #include <velmora/phases/Phase.h>
 #include <velmora/platform/time/Clock.h>
 #include <velmora/service/MoonPhaseData.h>
@@ -10,7 +11,7 @@ namespace {
 
 using Item = std::shared_ptr<RiseSetPhaseItem>;
 
-constexpr std::int64_t december = 12, firstYear = 2000, lastYear = 2040;
+constexpr std::int64_t december = 12;
 
 std::int64_t phaseThatFollows(std::int64_t principalPhase) {
   switch (principalPhase) {
@@ -94,12 +95,12 @@ std::vector<std::shared_ptr<RiseSetPhaseItem>> MoonPhaseData::matchingEventsWith
   std::vector<Item> found;
   if (!from || !to || *from > *to) return found;
   const DateComponents first = _calendar.components(*from), last = _calendar.components(*to);
-  if (first.year > lastYear) return found;
+  if (first.year > kLastTableYear) return found;
 
   // A start before the tables keeps its month: July 1995 starts the walk in July 2000.
-  std::int64_t year = std::max(first.year, firstYear), month = first.month;
-  const std::int64_t endYear = std::min(last.year, lastYear);
-  const std::int64_t endMonth = last.year > lastYear ? december : last.month;
+  std::int64_t year = std::max(first.year, kFirstTableYear), month = first.month;
+  const std::int64_t endYear = std::min(last.year, kLastTableYear);
+  const std::int64_t endMonth = last.year > kLastTableYear ? december : last.month;
   for (; year <= endYear; ++year, month = 1) {
     const YearItems items = GetRiseSetPhaseItemsForYear(year);
     if (items.empty()) break;

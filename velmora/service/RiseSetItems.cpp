@@ -1,4 +1,5 @@
 #include <velmora/astronomy/RiseAndSetCalc.h>
+#include <velmora/foundation/TableYears.h>
 #include <velmora/phases/TableLine.h>
 #include <velmora/service/LocalizedClockText.h>
 #include <velmora/service/MoonPhaseData.h>
@@ -8,7 +9,7 @@ namespace velmora {
 namespace {
 
 constexpr int civilTwilight = 0;
-constexpr std::int64_t december = 12, lastYear = 2040;
+constexpr std::int64_t december = 12;
 
 // A day without an event of its own is described for 03:00.
 constexpr std::int64_t hourOfQuietDays = 3;
@@ -66,7 +67,7 @@ std::shared_ptr<const MoonPhaseData::RiseSetItems> MoonPhaseData::GetRiseSetPhas
   if (!_rawDataDictionary) return nullptr;
   const bool inNextYear = _currentMonth == december;
   const std::int64_t year = inNextYear ? _currentYear + 1 : _currentYear;
-  if (year > lastYear) return nullptr;
+  if (year > kLastTableYear) return nullptr;
   const auto table = inNextYear ? getDataForYear(year) : _rawDataDictionary;
   if (!table) return nullptr;
   const std::int64_t zeroBasedMonth = inNextYear ? 0 : _currentMonth;

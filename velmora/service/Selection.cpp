@@ -82,7 +82,7 @@ void MoonPhaseData::updateCacheForDate(std::optional<Instant> date) {
 void MoonPhaseData::loadDataForYear(std::int64_t year) { _rawDataDictionary = getDataForYear(year); }
 
 std::shared_ptr<const YearTable> MoonPhaseData::getDataForYear(std::int64_t year) const {
-  return MoonPhaseCalc::GetFileContents("Data/" + std::to_string(static_cast<std::int32_t>(year)));
+  return tableOfYear(static_cast<std::int32_t>(year));  // the low 32 bits name a table, by intent
 }
 
 // The offset of the month's first midnight goes with the whole month; a change of the clocks within it does

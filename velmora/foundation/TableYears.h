@@ -1,0 +1,11 @@
+#pragma once
+
+#include <cstdint>
+
+namespace [[gnu::visibility("hidden")]] velmora {
+
+/// The years that the tables of phases cover, both included.
+inline constexpr std::int64_t kFirstTableYear = 2000;
+inline constexpr std::int64_t kLastTableYear = 2040;
+
+}  // namespace velmora
