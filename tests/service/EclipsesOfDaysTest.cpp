@@ -184,6 +184,28 @@ TEST_F(EclipsesOfDays, MinutesAreElapsedTimeOnADayOfAClockChange) {
   EXPECT_TRUE(isShownAt(rise));
 }
 
+TEST_F(EclipsesOfDays, TheLastHourOf25CountsWithRiseAndSetOfTheInstantAskedFor) {
+  const Place louisville = placeAt(38.2527, -85.7585, "America/Kentucky/Louisville");
+  service().SetSelectedLocation(louisville);
+  const Instant start = localTime(louisville, 2019, 11, 3);
+  const std::int64_t set = dataOf(start).moonSetMinutesFromMidnight;
+  ASSERT_GT(set, 1440) << "a midnight that the day's second clock shows as 23:00";
+  writeEclipses(start, {{set, "TLE"}});
+  EXPECT_EQ(shownAt(start), "TLE") << "more than 24 hours later";
+  EXPECT_EQ(shownAt(localTime(louisville, 2019, 11, 3, 12)), "none") << "set an hour earlier by that clock";
+}
+
+TEST_F(EclipsesOfDays, AMoonThatIsUpAtMidnightIsUpFor24HoursOf25) {
+  const Place newYork = placeAt(40.7128, -74.0060, "America/New_York");
+  service().SetSelectedLocation(newYork);
+  const Instant start = localTime(newYork, 2012, 11, 4);
+  ASSERT_GT(dataOf(start).moonRiseMinutesFromMidnight, dataOf(start).moonSetMinutesFromMidnight);
+  EXPECT_TRUE(isShown("TLE", start, 1440));
+  EXPECT_FALSE(isShown("TLE", start, 1441)) << "at 23:01, by intent";
+  writeEclipses(start, {{15, "TLE"}});
+  EXPECT_EQ(shownAt(localTime(newYork, 2012, 11, 4, 23, 30)), "TLE") << "more than 24 hours before";
+}
+
 TEST_F(EclipsesOfDays, OfTwoOnADayTheEarlierIsShown) {
   service().SetSelectedLocation(greenwich());
   const Instant day = utc(2024, 6, 20);
