@@ -3,7 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <filesystem>
 
+#include <tests/platform/resources/TemporaryFolder.h>
 #include <velmora/platform/time/ZoneDatabase.h>
 
 #include "ScopedEnvironment.h"
@@ -49,11 +51,28 @@ TEST(TimeZone, ReadsNamesOfFixedOffsets) {
 }
 
 TEST(TimeZone, KnowsNoOtherNames) {
-  for (const char* name : {"", "Atlantis/Poseidonis", "GMT+18:01", "GMT+5:30", "GMT+05:60", "GMT+05:30:60",
-                           "GMT 05:30", "GMT+-5:30", "/etc/localtime", "../../etc/passwd", "libc:localtime",
-                           "Fixed/UTC+05:00:00", "Europe"}) {
+  for (const char* name :
+       {"", "Atlantis/Poseidonis", "GMT+18:01", "GMT+5:30", "GMT+05:60", "GMT+05:30:60", "GMT 05:30",
+        "GMT+-5:30", "/etc/localtime", "../../etc/passwd", "libc:localtime", "Fixed/UTC+05:00:00", "Europe",
+        "Europe/", "Europe/Helsinki/", "Europe//Helsinki"}) {
     EXPECT_FALSE(TimeZone::named(name).has_value()) << name;
   }
+}
+
+TEST(TimeZone, ANameWithoutAZoneIsLookedForAgain) {
+  const TemporaryFolder zones;
+  const ScopedEnvironment environment("TZDIR", zones.path().string());
+  EXPECT_FALSE(TimeZone::named("Lunar/Tranquility").has_value());
+  std::filesystem::create_directory(zones.path() / "Lunar");
+  std::filesystem::copy("/usr/share/zoneinfo/Asia/Tokyo", zones.path() / "Lunar/Tranquility");
+  EXPECT_EQ(offset("Lunar/Tranquility", utc(2024, 7, 1)), 9 * 3600);
+}
+
+TEST(TimeZone, AZoneOnceFoundStaysWithoutItsFile) {
+  const TimeZone tokyo = *TimeZone::named("Asia/Tokyo");
+  const TemporaryFolder empty;
+  const ScopedEnvironment environment("TZDIR", empty.path().string());
+  EXPECT_EQ(TimeZone::named("Asia/Tokyo"), tokyo);
 }
 
 TEST(TimeZone, FixedZonesAreNamedByTheirOffset) {

@@ -6,6 +6,8 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <map>
+#include <mutex>
 #include <system_error>
 
 #include <velmora/platform/time/ZoneDatabase.h>
@@ -63,14 +65,31 @@ class CctzZone final : public ZoneRules {
   cctz::time_zone _zone;
 };
 
-/// Zone identifiers are names below the database's folder; nothing else may be opened through them.
+/// Zone identifiers are names below the database's folder; nothing else may be opened through them, and no
+/// zone by two spellings of its file.
 bool isIdentifier(std::string_view text) {
   const auto allowed = [](char c) {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '/' ||
            c == '_' || c == '-' || c == '+';
   };
   return !text.empty() && text.size() <= 64 && text.front() != '/' &&
-         std::all_of(text.begin(), text.end(), allowed);
+         text.find("//") == std::string_view::npos && std::all_of(text.begin(), text.end(), allowed);
+}
+
+/// Whether the folder that cctz reads holds a file of that name.
+bool hasFile(const std::string& identifier) {
+  const char* const chosen = std::getenv("TZDIR");
+  const std::filesystem::path folder(chosen && *chosen ? chosen : "/usr/share/zoneinfo");
+  std::error_code error;
+  return std::filesystem::is_regular_file(folder / identifier, error);
+}
+
+/// The zone as read from its file; none if there is none. cctz keeps each name that it could not load for
+/// ever, so it is not asked for one without a file.
+std::shared_ptr<const ZoneRules> loaded(const std::string& identifier) {
+  cctz::time_zone zone;
+  if (!hasFile(identifier) || !cctz::load_time_zone(identifier, &zone)) return nullptr;
+  return std::make_shared<CctzZone>(zone);
 }
 
 constexpr const char* systemZoneLink = "/etc/localtime";
@@ -85,9 +104,16 @@ std::string identifierOfPath(std::string_view path) {
 }  // namespace
 
 std::shared_ptr<const ZoneRules> ZoneDatabase::find(std::string_view identifier) {
-  cctz::time_zone zone;
-  if (!isIdentifier(identifier) || !cctz::load_time_zone(std::string(identifier), &zone)) return nullptr;
-  return std::make_shared<CctzZone>(zone);
+  if (!isIdentifier(identifier)) return nullptr;
+  // Kept here as well, so that a zone read once is found without a look at its file.
+  static std::mutex mutex;
+  static std::map<std::string, std::shared_ptr<const ZoneRules>, std::less<>> found;
+  const std::lock_guard lock(mutex);
+  if (const auto known = found.find(identifier); known != found.end()) return known->second;
+  const std::string name(identifier);
+  auto zone = loaded(name);
+  if (zone) found.emplace(name, zone);
+  return zone;
 }
 
 std::string ZoneDatabase::systemZoneIdentifier() {
