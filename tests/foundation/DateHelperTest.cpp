@@ -76,8 +76,13 @@ TEST_F(DateHelperTest, DaysKeepTheTimeOnTheClock) {
             std::chrono::hours(23));
   EXPECT_EQ(DateHelper::AdjustDaysToDate(local(2024, 3, 1, 8), -1), local(2024, 2, 29, 8));
   EXPECT_EQ(DateHelper::AdjustDaysToDate(local(2024, 12, 31, 8), 1), local(2025, 1, 1, 8));
-  EXPECT_EQ(DateHelper::AdjustDaysToDate(local(2024, 6, 20, 8), 0), local(2024, 6, 20, 8));
   EXPECT_EQ(DateHelper::AdjustDaysToDate(noDate, 1), noDate);
+}
+
+TEST_F(DateHelperTest, MovedByNoDaysADateIsItself) {
+  const Instant secondHalfPastOne = local(2024, 11, 3) + std::chrono::minutes(150);  // clocks went back at 2
+  ASSERT_EQ(DateHelper::GetTimeFormattedString(secondHalfPastOne, true), "01:30");
+  EXPECT_EQ(DateHelper::AdjustDaysToDate(secondHalfPastOne, 0), secondHalfPastOne);
 }
 
 TEST_F(DateHelperTest, DayLengthsHaveTwoDigitsAtLeast) {

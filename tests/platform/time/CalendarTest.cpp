@@ -99,6 +99,14 @@ TEST(Calendar, AddingMonthsEndsOnTheLastDayOfAShorterMonth) {
   EXPECT_EQ(calendar.dateByAddingMonths(12, utc(2024, 2, 29)), utc(2025, 2, 28));
 }
 
+TEST(Calendar, AddingNothingStaysInTheSecondOfTwoHours) {
+  const Calendar helsinki = in("Europe/Helsinki");
+  const Instant second = utc(2024, 10, 27, 1, 30);  // 03:30 for the second time
+  ASSERT_EQ(helsinki.components(second).hour, 3);
+  EXPECT_EQ(helsinki.dateByAddingDays(0, second), second);
+  EXPECT_EQ(helsinki.dateByAddingMonths(0, second), second);
+}
+
 TEST(Calendar, PacificApiaSkippedADay) {
   const Calendar apia = in("Pacific/Apia");
   const Instant before = apia.date({.year = 2011, .month = 12, .day = 29, .hour = 12});

@@ -88,11 +88,13 @@ std::optional<Instant> Calendar::dateBySettingTime(std::int64_t hour, std::int64
 }
 
 Instant Calendar::dateByAddingDays(std::int64_t count, Instant instant) const {
+  if (count == 0) return instant;
   const Seconds moved = Seconds(days(clampedCount(count, 24'000'000)));
   return firstInstant(_timeZone, clamped(_timeZone.localTime(instant) + moved));
 }
 
 Instant Calendar::dateByAddingMonths(std::int64_t count, Instant instant) const {
+  if (count == 0) return instant;
   const LocalTime local = clamped(_timeZone.localTime(instant));
   const local_days day = floor<days>(local);
   const year_month_day date(day);

@@ -59,11 +59,12 @@ class Calendar {
   std::optional<Instant> dateBySettingTime(std::int64_t hour, std::int64_t minute, std::int64_t second,
                                            Instant day, TimeMatching matching = TimeMatching::nextTime) const;
 
-  /// The instant that many days later (negative: earlier) at the same time on the clock.
+  /// The instant that many days later (negative: earlier) at the same time on the clock, of a time that
+  /// occurs twice the first. Moved by 0 it is the instant itself.
   Instant dateByAddingDays(std::int64_t days, Instant instant) const;
 
   /// The instant that many months later (negative: earlier), on the same day of the month, or on the month's
-  /// last day where it is shorter, at the same time on the clock.
+  /// last day where it is shorter, at the same time on the clock as above.
   Instant dateByAddingMonths(std::int64_t months, Instant instant) const;
 
   /// Whether both instants fall on one day of the calendar's zone.
