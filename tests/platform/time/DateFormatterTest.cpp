@@ -97,6 +97,12 @@ TEST(DateFormatter, FollowsDaylightSavingOfTheZoneDatabase) {
             "17:45 GMT+5:45 +05:45");
 }
 
+TEST(DateFormatter, OfOnePatternEachZoneHasItsOwnClock) {
+  EXPECT_EQ(formatter("HH:mm", "en_US", "Asia/Tokyo").stringFromDate(juneEvening), "02:05");
+  EXPECT_EQ(formatter("HH:mm", "en_US", "GMT").stringFromDate(juneEvening), "17:05");
+  EXPECT_EQ(formatter("HH:mm", "en_US", "Asia/Kathmandu").stringFromDate(juneEvening), "22:50");
+}
+
 TEST(DateFormatter, ShortTimesFollowTheHabitOfTheLocale) {
   const std::pair<const char*, const char*> cases[] = {
       {"en_US", "5:05\u202fPM"}, {"de_DE", "17:05"}, {"fi_FI", "17.05"},  {"en_GB", "17:05"},
@@ -119,6 +125,18 @@ TEST(DateFormatter, ShortTimesFollowAnOverrideOfTheHabit) {
   EXPECT_EQ(text("de_DE", Cycle::h24), "17:05");
   EXPECT_EQ(text("ja_JP", Cycle::h12), "午後5:05");
   EXPECT_EQ(text("ar_EG", Cycle::h24), "١٧:٠٥");
+}
+
+TEST(DateFormatter, APatternIsNeverTakenForAnOverrideOfTheHabit) {
+  DateFormatter us24 = formatter("HH:mm");
+  us24.setLocale(Locale("en_US").withHourCycle(Locale::HourCycle::h24));
+  EXPECT_EQ(us24.stringFromDate(juneEvening), "17:05");
+  EXPECT_EQ(formatter("24|HH:mm").stringFromDate(juneEvening), "24|17:05");
+}
+
+TEST(DateFormatter, APatternIsNeverTakenForTheEndOfAnIdentifier) {
+  EXPECT_EQ(formatter("|HH:mm", "en_US").stringFromDate(juneEvening), "|17:05");
+  EXPECT_EQ(formatter("HH:mm", "en_US|").stringFromDate(juneEvening), "17:05");
 }
 
 TEST(DateFormatter, MidnightAndNoonReadAsClocksDo) {

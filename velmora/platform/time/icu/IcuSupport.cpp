@@ -41,8 +41,8 @@ icu::Locale icuLocale(const Locale& locale) {
 
 std::string cacheKey(const Locale& locale) {
   const auto cycle = locale.hourCycle();
-  const char* const suffix = !cycle ? "|" : *cycle == Locale::HourCycle::h24 ? "|24|" : "|12|";
-  return locale.identifier() + suffix;
+  const char* const habit = !cycle ? "|" : *cycle == Locale::HourCycle::h24 ? "24|" : "12|";
+  return habit + std::to_string(locale.identifier().size()) + "|" + locale.identifier();
 }
 
 icu::DateTimePatternGenerator* patternGenerator(const Locale& locale) {
