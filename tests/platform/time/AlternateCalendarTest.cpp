@@ -53,6 +53,13 @@ TEST(AlternateCalendar, KnowsTheDaysThatAlmanacsName) {
   }
 }
 
+TEST(AlternateCalendar, EachKindCountsADayItsOwnWay) {
+  const Instant noon = noonOf(2024, 10, 3);
+  EXPECT_EQ(AlternateCalendar(Kind::hebrew, gmt).day(noon), 1);
+  EXPECT_EQ(AlternateCalendar(Kind::buddhist, gmt).day(noon), 3);
+  EXPECT_EQ(AlternateCalendar(Kind::indian, gmt).day(noon), 11);
+}
+
 TEST(AlternateCalendar, TheDayIsThatOfTheZone) {
   const Instant evening = noonOf(2024, 10, 2) + std::chrono::hours(11);
   EXPECT_EQ(AlternateCalendar(Kind::hebrew, gmt).day(evening), 29);
