@@ -117,6 +117,20 @@ TEST_F(ImageCalendar, AnUnknownPhaseBesideTheMonthKeepsThePictureOfTheEventBefor
   EXPECT_EQ(calendarOf(table, 4, 2024), calendarOf(kSpring, 4, 2024));
 }
 
+TEST_F(ImageCalendar, OfTwoEventsOnOneDayBesideTheMonthTheFirstInTheListCounts) {
+  YearTable table = kSpring;
+  table["4"] = {"26 01:00 LQ", "26 23:00 FQ"};
+  table["6"] = {"2 01:00 NM", "2 23:00 LQ"};
+  EXPECT_EQ(calendarOf(table, 4, 2024), calendarOf(kSpring, 4, 2024));
+}
+
+TEST_F(ImageCalendar, BetweenTwoEqualPhasesThePictureStays) {
+  const YearTable table = {{"5", {"1 12:00 FQ", "16 12:00 FQ", "31 12:00 FM"}}};
+  const auto calendar = calendarOf(table, 4, 2024);
+  EXPECT_EQ(calendar.at(2), 15);
+  EXPECT_EQ(calendar.at(15), 15);
+}
+
 TEST_F(ImageCalendar, AMissingPictureOfTheFirstEventCountsAsNewMoon) {
   const YearTable table = {
       {"4", {"26 12:00 LQ"}}, {"5", {"3 12:00 XX", "10 12:00 FQ"}}, {"6", {"2 12:00 FM"}}};

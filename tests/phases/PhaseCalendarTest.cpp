@@ -146,6 +146,16 @@ TEST_F(PhaseCalendar, YearsBeyondTheTablesLimitsAreReadIfTheyAreThere) {
   EXPECT_EQ(calendarOf({{"12", {"30 12:00 NM"}}}, 11, 2040).at(31)->fullFactor, 0.125F);
 }
 
+TEST_F(PhaseCalendar, AnEventOnTheSameDayOfThePreviousMonthLiesAMonthBack) {
+  const YearTable table = {{"4", {"10 12:00 NM"}}, {"5", {"20 12:00 FQ"}}};
+  EXPECT_EQ(calendarOf(table, 4, 2024).at(10)->fullFactor, static_cast<float>((30 / 2.0) / 40.0));
+}
+
+TEST_F(PhaseCalendar, AnEventOnTheSameDayOfTheNextMonthLiesAMonthAhead) {
+  const YearTable table = {{"5", {"1 12:00 NM"}}, {"6", {"10 12:00 FQ"}}};
+  EXPECT_EQ(calendarOf(table, 4, 2024).at(10)->fullFactor, static_cast<float>((9 / 2.0) / 40.0));
+}
+
 TEST_F(PhaseCalendar, AMonthWithoutEventsLiesBetweenItsNeighbours) {
   const YearTable table = {{"4", {"26 12:00 NM"}}, {"6", {"4 12:00 FQ"}}};
   const auto calendar = calendarOf(table, 4, 2024);
@@ -170,6 +180,13 @@ TEST_F(PhaseCalendar, OfTwoEventsOnADayTheLaterInTheListCounts) {
   const auto calendar = calendarOf({{"5", {"10 01:00 NM", "10 23:00 FQ"}}}, 4, 2024);
   expectDay(*calendar.at(10), kFirstQuarter, 0.5F, 1);
   EXPECT_EQ(calendar.at(10)->localDate, utc(2024, 5, 10, 23));
+}
+
+TEST_F(PhaseCalendar, OfTwoEventsOnADayTheFirstIsWhatTheDaysBesideItLieBetween) {
+  const YearTable table = {{"4", {"30 01:00 NM", "30 23:00 FM"}}, {"5", {"10 01:00 NM", "10 23:00 FM"}}};
+  const auto calendar = calendarOf(table, 4, 2024);
+  EXPECT_EQ(calendar.at(1)->phase, kWaxingCrescent) << "from the new moon of the previous month";
+  EXPECT_EQ(calendar.at(11)->phase, kWaxingCrescent);
 }
 
 TEST_F(PhaseCalendar, AnUnknownCodeLeavesTheLitFractionAsItIs) {
