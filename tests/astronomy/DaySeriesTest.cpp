@@ -216,6 +216,16 @@ TEST(ElevationEvents, OfTheSunCarryAWholeHourOffsetAndOfTheMoonTheExactOne) {
   EXPECT_EQ(moon[1].hour - std::floor(moon[1].hour), 0.5);
 }
 
+TEST(ElevationEvents, OfTheSunCutTheOffsetTowardZero) {
+  const GeoLocationData stJohns = placeAt(47.56, -52.71);
+  const auto sun = Calc::EventsMatchingSunElevation(0, utc(2024, 3, 20, 5), stJohns, -12600, true);
+  ASSERT_GE(sun.size(), 2U);
+  const PositionData sample =
+      Calc::CalculateSunPosition(-52.71 * degree, 47.56 * degree, 2024, 3, 20, 10, -3);
+  EXPECT_EQ(sun[1].altitude, sample.altitude) << "the first full hour after sunrise";
+  EXPECT_EQ(sun[1].hour, 10 - 3) << "three and a half hours behind GMT count as three";
+}
+
 TEST(ElevationEvents, ReadTheDateAgainAtUniversalMidnight) {
   const GeoLocationData place = placeAt(60.1699, 24.9384, "Europe/Helsinki");
   const auto events = Calc::EventsMatchingSunElevation(0, utc(2024, 2, 29, 20), place, 7200, true);

@@ -81,6 +81,7 @@ TEST(SunPosition, HourIsMovedByTheZoneValueAndByOneDayOnceIfNegative) {
   };
   EXPECT_EQ(hourOf(7.5, 3), 10.5);
   EXPECT_EQ(hourOf(3, -7), 20);
+  EXPECT_EQ(hourOf(7, -7), 0);
   EXPECT_EQ(hourOf(3, -30), -3);
   EXPECT_EQ(hourOf(23, 3), 26);
   EXPECT_EQ(hourOf(3, -25200), 3 - 25200 + 24);
