@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
+#include <utility>
 
 #include <velmora/astronomy/RiseAndSetCalc.h>
 
@@ -62,6 +64,38 @@ TEST(SunsLongitude, AtTheEpochAndAtTheEquinox) {
   EXPECT_NEAR(Calc::FNsun(0) / degree, 280.461 - 0.0826 - 0.0017, 0.0001);
   const double equinox = Calc::_mjd(20, 3, 2024, 3) + 6.0 / 1440 - 51544.5;  // 2024 March 20, 03:06
   EXPECT_NEAR(std::sin(Calc::FNsun(equinox)), 0, 0.01 * degree);
+}
+
+TEST(SunsLongitude, IsReducedFrom2000OnAndBeforeMayBeNegative) {
+  for (double day = 0; day < 36525; day += 0.9) {
+    ASSERT_GE(Calc::FNsun(day), 0) << day;
+    ASSERT_LT(Calc::FNsun(day), 2 * pi) << day;
+  }
+  EXPECT_NEAR(Calc::FNsun(-1000), -12.2744, 0.0001);
+}
+
+/// The least and the greatest azimuth of the Sun in a year at the latitude, sampled hourly.
+std::pair<double, double> azimuthsOfAYear(double latitude) {
+  double least = infinity, greatest = -infinity;
+  for (double hour = 0; hour < 366 * 24; ++hour) {
+    const double azimuth = Calc::CalculateSunPosition(0, latitude * degree, 2024, 1, 1, hour, 0).azimuth;
+    least = std::min(least, azimuth);
+    greatest = std::max(greatest, azimuth);
+  }
+  return {least, greatest};
+}
+
+TEST(SunPosition, TheAzimuthLiesInOneTurnAndAtAPoleDownToMinus90) {
+  for (const double latitude : {-89.9, -33.9, 0.0, 60.2, 89.9}) {
+    const auto [least, greatest] = azimuthsOfAYear(latitude);
+    EXPECT_GE(least, 0) << latitude;
+    EXPECT_LT(greatest, 360) << latitude;
+  }
+  for (const double pole : {-90.0, 90.0}) {
+    const auto [least, greatest] = azimuthsOfAYear(pole);
+    EXPECT_EQ(least, -90) << pole;
+    EXPECT_LT(greatest, 360) << pole;
+  }
 }
 
 TEST(SunPosition, IsDueSouthAtNorthernNoonAndDueNorthAtSouthernNoon) {

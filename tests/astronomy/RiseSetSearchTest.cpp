@@ -187,6 +187,16 @@ TEST(RiseSetSearch, ASunsetOfTheNextDayWithoutASunriseKeepsItsClockMinutes) {
   EXPECT_EQ(record.dayLengthMinutes, 24);
 }
 
+TEST(RiseSetSearch, ASunsetOfTheNextDayLaterByTheClockThanTheSunriseKeepsItsClockMinutes) {
+  const ScopedTimeFormat format(clock24);
+  // In the shortest night of the year, between two others, the Sun does not go down.
+  const RiseSetData record = recordOf(65.728, 0.25, 0, 2024, 6, 20);
+  EXPECT_EQ(record.sunRiseText, "00:03");
+  EXPECT_EQ(record.sunSetText, "23:57 **");
+  EXPECT_EQ(record.sunSetMinutesFromMidnight, 23 * 60 + 57);
+  EXPECT_EQ(record.dayLengthMinutes, 23 * 60 + 54);
+}
+
 TEST(RiseSetSearch, APairOfCrossingsAfterTheSunriseTakesThePlaceOfItsTime) {
   const ScopedTimeFormat format(clock24);
   const RiseSetData utqiagvik = recordOf(71.2906, -156.7886, -32400, 2024, 5, 9);
@@ -247,6 +257,14 @@ TEST(RiseSetSearch, AnEventThatRoundsToMidnightReads2400OfItsOwnDay) {
   }
   EXPECT_EQ(record.sunSetText, "24:00");
   EXPECT_EQ(record.sunSetMinutesFromMidnight, 1440);
+}
+
+TEST(RiseSetSearch, OnTheTwelveHourClockTheMidnightAtTheDaysEndReadsAsNoon) {
+  const ScopedTimeFormat format(clock12);
+  const RiseSetData record = recordIn("Australia/Lord_Howe", -31.55, 159.0833, 2012, 1, 1);
+  EXPECT_EQ(record.moonRiseText, "12:23 PM");
+  EXPECT_EQ(record.moonSetText, "12:00 PM");
+  EXPECT_EQ(record.moonSetMinutesFromMidnight, 1440);
 }
 
 TEST(RiseSetSearch, OfTheSunLeavesTextsAloneWhereNothingHappens) {

@@ -162,10 +162,14 @@ TEST(AngleInRadians, IsReducedToOneTurn) {
   EXPECT_NEAR(Calc::FNRange(7), 7 - 2 * pi, 1e-14);
   EXPECT_NEAR(Calc::FNRange(1000), 1000 - 159 * 2 * pi, 1e-12);
   EXPECT_EQ(Calc::FNRange(0), 0);
+  EXPECT_EQ(Calc::FNRange(-1e-17), 2 * pi);
 }
 
-TEST(AngleInRadians, BelowMinusOneTurnMovesAwayFromZero) {
+TEST(AngleInRadians, OfOneNegativeTurnToTwoStaysAndBelowMovesAwayFromZero) {
+  EXPECT_EQ(Calc::FNRange(-2 * pi), -2 * pi);
   EXPECT_NEAR(Calc::FNRange(-7), -7, 1e-13);
+  EXPECT_NEAR(Calc::FNRange(-12.5), -12.5, 1e-13);
+  EXPECT_NEAR(Calc::FNRange(-4 * pi), -6 * pi, 1e-12);
   EXPECT_NEAR(Calc::FNRange(-13), -13 - 2 * pi, 1e-12);
 }
 

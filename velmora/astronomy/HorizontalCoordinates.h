@@ -8,7 +8,8 @@ namespace [[gnu::visibility("hidden")]] velmora {
 
 // Positions in numbers alone, as the files of the engine share them; not for other folders.
 
-/// A place in the sky, in degrees: altitude −90..90, azimuth from north over east 0..360.
+/// A place in the sky, in degrees: altitude −90..90, azimuth from north over east 0..360, where it has no
+/// meaning as low as −90.
 struct HorizontalCoordinates {
   double altitude, azimuth;
 };
@@ -21,7 +22,7 @@ std::array<HorizontalCoordinates, Hours::count> sunCoordinates(const Hours& d, d
                                                                const Angle<double>& latitude);
 
 /// The Moon. `mjd`: Modified Julian Date. Longitude in degrees. No guard where the azimuth is undefined, at
-/// the poles and the zenith: NaN there.
+/// the poles and the zenith: it may be NaN there.
 HorizontalCoordinates moonCoordinates(double mjd, double longitude, const Angle<double>& latitude);
 
 /// The same of the Moon in a direction that is known already.

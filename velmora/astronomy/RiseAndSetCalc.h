@@ -67,11 +67,12 @@ class RiseAndSetCalc {
   /// The days of a common year before the month (1..12), 0 for a month outside. No leap day in any year.
   static std::int64_t GetDayCountForMonth(std::int64_t month);
 
-  /// An angle in radians reduced to [0, 2π) if it is −2π or above. Below −2π it stays negative and moves
-  /// away from zero, by intent. Whole turns are counted up to 2³² − 1.
+  /// An angle in radians reduced to [0, 2π) if it is above −2π; a negative one too small to tell from 0 gives
+  /// 2π. By intent others stay negative: as they are above −4π, from there down moved away from zero. Whole
+  /// turns are counted up to 2³² − 1.
   static double FNRange(double radians);
 
-  /// The four-quadrant arctangent in radians, [0, 2π); for x = 0 it is ±π/2 with the sign of y.
+  /// The four-quadrant arctangent in radians, [0, 2π); for x = 0 it is ±π/2 with the sign of y, by intent.
   static double FNatn2(double y, double x);
 
   /// The arcsine in radians, −π/2..π/2; NaN outside −1..1.
@@ -124,7 +125,8 @@ class RiseAndSetCalc {
   // All are those of the centre, seen from the centre of the Earth, without refraction. Azimuth: north is
   // zero and east is +90°. Accuracy: Sun 0.004°, at most 0.012°, Moon 0.025°, at most 0.094°.
 
-  /// The Sun's ecliptic longitude of date in radians, [0, 2π). Astronomical Almanac.
+  /// The Sun's ecliptic longitude of date in radians, [0, 2π) from 2000 on; before, `FNRange` may leave it
+  /// negative. Astronomical Almanac.
   static double FNsun(double daysFromJ2000);
 
   /// The Sun at `hour` (may exceed 24) of a universal date, 1901 to 2099. Longitude and latitude in radians.
