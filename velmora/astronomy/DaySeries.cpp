@@ -10,8 +10,6 @@
 namespace velmora {
 namespace {
 
-constexpr double radiansPerDegree = 0.017453292519943295;
-constexpr double degreesPerRadian = 57.29577951308232;
 constexpr double hitTolerance = 0.05;  // degrees
 constexpr int mostRefinedEvents = 2;
 constexpr std::size_t moonSamples = 25, sunSamples = 24;  // of a day's series

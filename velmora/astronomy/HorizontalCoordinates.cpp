@@ -10,8 +10,9 @@
 namespace [[gnu::visibility("hidden")]] velmora {
 namespace {
 
-constexpr double degreesPerRadian = 57.29577951308232;
-constexpr double radiansPerDegree = 0.017453292519943295;  // of the Sun
+// The Sun's equation of the centre in radians: 1.915° and 0.020°.
+constexpr double centreOfAnomaly = 0.03342305517569141;
+constexpr double centreOfTwiceAnomaly = 0.00034906585039886593;
 
 std::string degreesText(double degrees) { return decimalText(degrees, 1) + "°"; }
 
@@ -85,7 +86,7 @@ HorizontalDirection<Number> sunDirectionInSky(const Number& d, double longitude,
                                               const Angle<double>& latitude) {
   const auto [g, meanLongitude, siderealAngle] = sunAngles(d, longitude);
   const Angle<Number> lambda =
-      meanLongitude + smallAngle<Number>(0.03342305517569141 * sin(g) + 0.00034906585039886593 * sin(g + g));
+      meanLongitude + smallAngle<Number>(centreOfAnomaly * sin(g) + centreOfTwiceAnomaly * sin(g + g));
   const Angle<Number> epsilon = obliquity(d);
   const Number x = cos(lambda), y = cos(epsilon) * sin(lambda), z = sin(epsilon) * sin(lambda);
   const Number south = cos(siderealAngle) * x + sin(siderealAngle) * y;
@@ -116,6 +117,12 @@ double hourAngle(double longitude, double siderealTime, double rightAscension) {
 }
 
 }  // namespace
+
+double RiseAndSetCalc::FNsun(double daysFromJ2000) {
+  const double L = FNRange(longitudeOfSun(daysFromJ2000));
+  const Angle<double> g = angleOfRadians(FNRange(anomalyOfSun(daysFromJ2000)));
+  return FNRange(L + centreOfAnomaly * sin(g) + centreOfTwiceAnomaly * sin(g + g));
+}
 
 HorizontalCoordinates sunCoordinates(double d, double longitude, const Angle<double>& latitude) {
   if (!reducesAnglesOfSun(d, longitude)) return sunCoordinatesByPrintedSteps(d, longitude, latitude);

@@ -8,6 +8,10 @@ namespace [[gnu::visibility("hidden")]] velmora {
 
 // Positions in numbers alone, as the files of the engine share them; not for other folders.
 
+// To the last figure, where no formula prints fewer.
+inline constexpr double degreesPerRadian = 57.29577951308232;
+inline constexpr double radiansPerDegree = 0.017453292519943295;
+
 /// A place in the sky, in degrees: altitude −90..90, azimuth from north over east 0..360, where it has no
 /// meaning as low as −90.
 struct HorizontalCoordinates {

@@ -5,18 +5,6 @@
 #include <velmora/platform/time/Calendar.h>
 
 namespace velmora {
-namespace {
-
-constexpr double degreesPerRadian = 57.29577951308232;
-constexpr double radiansPerDegree = 0.017453292519943295;  // of the Sun
-
-}  // namespace
-
-double RiseAndSetCalc::FNsun(double daysFromJ2000) {
-  const double L = FNRange(4.894967873435816 + 0.017202792393721557 * daysFromJ2000);
-  const Angle<double> g = angleOfRadians(FNRange(6.240040768070287 + 0.017201970343643867 * daysFromJ2000));
-  return FNRange(L + 0.03342305517569141 * sin(g) + 0.00034906585039886593 * sin(g + g));
-}
 
 PositionData RiseAndSetCalc::CalculateSunPosition(double longitude, double latitude, std::int64_t year,
                                                   std::int64_t month, std::int64_t day, double hour,

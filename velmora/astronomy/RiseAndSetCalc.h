@@ -120,7 +120,7 @@ class RiseAndSetCalc {
   static void _find_moonrise_set(RiseSetData& record, double mjd0, double offsetHours, double longitude,
                                  double latitude);
 
-  // Positions (HorizontalPosition.cpp)
+  // Positions (HorizontalPosition.cpp, the Sun's longitude HorizontalCoordinates.cpp)
   //
   // All are those of the centre, seen from the centre of the Earth, without refraction. Azimuth: north is
   // zero and east is +90°. Accuracy: Sun 0.004°, at most 0.012°, Moon 0.025°, at most 0.094°.

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include <velmora/astronomy/PrintedDegrees.h>
 #include <velmora/astronomy/RiseAndSetCalc.h>
 #include <velmora/astronomy/TimeScales.h>
 
@@ -10,7 +11,6 @@ namespace {
 
 constexpr double degreesPerRadian = 57.29577951471995;         // 360 / 6.283185307
 constexpr double hoursPerHalfAngleRadian = 7.639437268629327;  // 48 / 6.283185307
-constexpr double radiansPerDegree = 0.0174532925;
 
 double turnsAt(const MeanArgument& argument, double centuries) {
   return RiseAndSetCalc::_frac(argument.atEpoch + argument.perCentury * centuries);
@@ -80,8 +80,8 @@ double RiseAndSetCalc::_sin_alt(double object, double mjd0, double hour, double 
   const double mjd = mjd0 + hour / 24;
   const double T = centuriesSinceJ2000(mjd);
   const EquatorialCoordinates body = object == moon ? _minimoon(T) : _minisun(T);
-  const double hourAngle = 15 * (_lmst(mjd, longitude) - body.rightAscension) * radiansPerDegree;
-  const double declination = body.declination * radiansPerDegree;
+  const double hourAngle = 15 * (_lmst(mjd, longitude) - body.rightAscension) * printedRadiansPerDegree;
+  const double declination = body.declination * printedRadiansPerDegree;
   return sinLatitude * std::sin(declination) + cosLatitude * std::cos(declination) * std::cos(hourAngle);
 }
 
