@@ -5,6 +5,7 @@
 #include <exception>
 #include <utility>
 
+#include <velmora/foundation/MorningOffset.h>
 #include <velmora/platform/time/Clock.h>
 #include <velmora/platform/time/NumberText.h>
 
@@ -14,8 +15,6 @@ namespace {
 constexpr int coordinateDecimals = 4;
 constexpr std::int64_t secondsPerHour = 3600;
 constexpr std::int64_t secondsPerMinute = 60;
-// Clocks change in the small hours, so the offset at this hour is the day's usual one.
-constexpr std::int64_t morningHour = 9;
 
 std::string coordinateText(double degrees, const char* positiveSide, const char* negativeSide) {
   return decimalText(std::abs(degrees), coordinateDecimals) + "° " +
@@ -105,10 +104,7 @@ std::int64_t GeoLocationData::GetTimezoneIntervalFromGMT(Instant date) const {
 }
 
 std::int64_t GeoLocationData::gmtIntervalForDate(Instant date, const Calendar& calendar) const {
-  if (!timezone) return 0;
-  const Instant start = calendar.startOfDay(date);
-  const auto morning = calendar.dateBySettingTime(morningHour, 0, 0, start, TimeMatching::strict);
-  return timezone->secondsFromGMT(morning.value_or(start));
+  return timezone ? morningOffset(*timezone, date, calendar) : 0;
 }
 
 }  // namespace velmora

@@ -2,6 +2,7 @@
 #include <utility>
 
 #include <velmora/astronomy/RiseAndSetCalc.h>
+#include <velmora/foundation/MorningOffset.h>
 #include <velmora/service/MoonPhaseData.h>
 
 namespace velmora {
@@ -11,7 +12,6 @@ constexpr double radiansPerDegree = 0.017453292519943295;
 constexpr double minutesPerHour = 60.0;
 constexpr double farthestMinutes = 1e15;
 constexpr std::int64_t hoursPerDay = 24;
-constexpr std::int64_t morningHour = 9;
 
 /// A count of minutes cut into whole hours and minutes, both toward zero.
 std::pair<std::int64_t, std::int64_t> hoursAndMinutes(double minutes) {
@@ -73,9 +73,7 @@ std::optional<std::vector<PositionData>> MoonPhaseData::Get24HourMoonPositionsFo
 }
 
 std::int64_t MoonPhaseData::gmtIntervalForDate(Instant date, const TimeZone& withTimezone) const {
-  const Instant start = _calendar.startOfDay(date);
-  const auto morning = _calendar.dateBySettingTime(morningHour, 0, 0, start, TimeMatching::strict);
-  return withTimezone.secondsFromGMT(morning.value_or(start));
+  return morningOffset(withTimezone, date, _calendar);
 }
 
 double MoonPhaseData::orientationRadiansForMoonAt(const PositionData& moon, const PositionData& sunAt) const {
