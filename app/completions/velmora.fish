@@ -1,0 +1,19 @@
+# Completion of velmora's commands and options in fish: offers what the program itself says it takes.
+function __velmora_offers
+    set -l words (commandline -opc)
+    set -l program (string replace -r '^~' $HOME -- $words[1])
+    set -l command (string match -rv '^(-|$)' -- "$words[2]")
+    set -l help ($program $command --help 2>/dev/null); or return
+
+    # An option that takes a value shows its name in capitals; one that takes a few words tells them when it is
+    # given another.
+    if contains -- $words[-1] (string replace -fr '^  (--\S+) [A-Z].*' '$1' -- $help)
+        $program $command $words[-1] '?' --help 2>&1 |
+            string replace -fr '.*is not known; accepted: ' '' | string replace -ar ',? (or )?' \n
+        return
+    end
+    string replace -fr '^  ([a-z]+) +(.*)' '$1\t$2' -- $help
+    string replace -fr '^  (--\S+)( [A-Z]\S*)? +(.*)' '$1\t$3' -- $help[(contains -i Options -- $help)..]
+end
+complete -c velmora -f -a '(__velmora_offers)'
+complete -c velmora -n '__fish_seen_subcommand_from draw' -s o -l output -rF
