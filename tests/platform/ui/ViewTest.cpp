@@ -258,6 +258,9 @@ TEST(View, TouchesPassThroughWhatTakesNone) {
   above->setIsUserInteractionEnabled(true);
   above->setAlpha(0);
   EXPECT_EQ(root->hitTest({50, 50}), below.get());
+  above->setAlpha(1);
+  above->setTransform(AffineTransform::scaling(1, 0));
+  EXPECT_EQ(root->hitTest({50, 50}), below.get()) << "a view squeezed to a line";
 }
 
 TEST(View, OffersNothingToAScreenReaderUnlessItSaysSo) {

@@ -133,8 +133,8 @@ void View::drawContent(Canvas& canvas) {
 }
 
 View* View::hitTest(Point point) {
-  if (!_isUserInteractionEnabled || alpha() < kLeastTouchableAlpha || !bounds().contains(point))
-    return nullptr;
+  const bool isSeen = alpha() >= kLeastTouchableAlpha && transform().inverted();
+  if (!_isUserInteractionEnabled || !isSeen || !bounds().contains(point)) return nullptr;
   for (auto subview = _subviews.rbegin(); subview != _subviews.rend(); ++subview) {
     if (View* hit = (*subview)->hitTest((*subview)->convertFromSuperview(point))) return hit;
   }
