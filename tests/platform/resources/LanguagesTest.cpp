@@ -15,6 +15,7 @@ TEST(Languages, TheRegionStandsBeforeTheLanguageAndEnglishLast) {
 
 TEST(Languages, ChineseIsToldByItsScript) {
   EXPECT_EQ(preferredLanguages(Locale("zh_TW")), (Names{"zh-TW", "zh-Hant", "zh", "en"}));
+  EXPECT_EQ(preferredLanguages(Locale("zh_MO")), (Names{"zh-MO", "zh-Hant", "zh", "en"}));
   EXPECT_EQ(preferredLanguages(Locale("zh_CN")), (Names{"zh-CN", "zh-Hans", "zh", "en"}));
   EXPECT_EQ(preferredLanguages(Locale("zh")), (Names{"zh-Hans", "zh", "en"}));
 }

@@ -43,6 +43,17 @@ TEST(Locale, KnowsTheLanguagesWrittenFromRightToLeft) {
   }
 }
 
+TEST(Locale, KnowsWhereChineseIsWrittenInItsTraditionalForm) {
+  for (const char* identifier :
+       {"zh_TW", "zh_HK", "zh_MO", "zh-Hant", "zh_hant", "zh_Hant_CN", "en_HK", "zh_MO@calendar=roc"}) {
+    EXPECT_TRUE(Locale(identifier).writesTraditionalChinese()) << identifier;
+  }
+  for (const char* identifier :
+       {"zh", "zh_CN", "zh_SG", "zh-Hans", "zh_Hans_HK", "zh_CN@x=TW", "ja_JP", ""}) {
+    EXPECT_FALSE(Locale(identifier).writesTraditionalChinese()) << identifier;
+  }
+}
+
 TEST(Locale, KnowsHowClocksAreReadThere) {
   for (const char* identifier :
        {"de_DE", "fi_FI", "en_GB", "ja_JP", "zh-Hans", "he", "th_TH", "fa_IR", "fr_CA"}) {

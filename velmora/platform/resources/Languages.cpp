@@ -6,8 +6,6 @@
 namespace [[gnu::visibility("hidden")]] velmora {
 namespace {
 
-constexpr std::size_t kScriptLength = 4;
-
 /// The subtags of a locale's identifier ("zh_Hant_TW"), without what follows an "@" or a ".".
 std::vector<std::string> subtags(const Locale& locale) {
   const std::string& identifier = locale.identifier();
@@ -21,14 +19,6 @@ std::vector<std::string> subtags(const Locale& locale) {
   return parts;
 }
 
-std::string chineseScript(const std::vector<std::string>& tags) {
-  for (const std::string& tag : tags) {
-    if (tag.size() == kScriptLength) return tag;
-    if (tag == "TW" || tag == "HK" || tag == "MO") return "Hant";
-  }
-  return "Hans";
-}
-
 }  // namespace
 
 std::vector<std::string> preferredLanguages(const Locale& locale) {
@@ -36,7 +26,7 @@ std::vector<std::string> preferredLanguages(const Locale& locale) {
   const std::string language = locale.languageCode();
   std::vector<std::string> languages;
   for (std::size_t i = 1; i < tags.size(); ++i) languages.push_back(language + "-" + tags[i]);
-  if (language == "zh") languages.push_back("zh-" + chineseScript(tags));
+  if (language == "zh") languages.push_back(locale.writesTraditionalChinese() ? "zh-Hant" : "zh-Hans");
   languages.push_back(language);
   languages.push_back("en");
   return languages;

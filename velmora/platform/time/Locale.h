@@ -31,6 +31,10 @@ class Locale {
   /// Whether the language is written from right to left.
   bool isRightToLeft() const;
 
+  /// Whether Chinese characters are written there in their traditional form: as the identifier's script says,
+  /// else in Taiwan, Hong Kong and Macao.
+  bool writesTraditionalChinese() const;
+
   /// Whether clocks are habitually read 0..23 there, or as the override says.
   bool uses24HourClock() const;
 

@@ -23,10 +23,7 @@ std::string hanFace(const Locale& locale) {
   const std::string language = locale.languageCode();
   if (language == "ja") return ",Noto Sans CJK JP";
   if (language == "ko") return ",Noto Sans CJK KR";
-  const bool isTraditional = locale.identifier().find("Hant") != std::string::npos ||
-                             locale.identifier().find("TW") != std::string::npos ||
-                             locale.identifier().find("HK") != std::string::npos;
-  return isTraditional ? ",Noto Sans CJK TC" : ",Noto Sans CJK SC";
+  return locale.writesTraditionalChinese() ? ",Noto Sans CJK TC" : ",Noto Sans CJK SC";
 }
 
 /// The size in Pango's units; what is no size is 0.

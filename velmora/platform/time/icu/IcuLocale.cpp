@@ -1,4 +1,7 @@
 #include <velmora/platform/time/Locale.h>
+
+#include <string_view>
+
 #include <velmora/platform/time/icu/IcuSupport.h>
 
 namespace velmora {
@@ -6,6 +9,13 @@ namespace velmora {
 std::string Locale::languageCode() const { return canonicalLocale(_identifier).getLanguage(); }
 
 bool Locale::isRightToLeft() const { return canonicalLocale(_identifier).isRightToLeft(); }
+
+bool Locale::writesTraditionalChinese() const {
+  const icu::Locale locale = canonicalLocale(_identifier);
+  const std::string_view script = locale.getScript(), region = locale.getCountry();
+  if (script == "Hant" || script == "Hans") return script == "Hant";
+  return region == "TW" || region == "HK" || region == "MO";
+}
 
 bool Locale::uses24HourClock() const {
   if (_hourCycle) return *_hourCycle == HourCycle::h24;
