@@ -235,6 +235,17 @@ TEST_F(CanvasPixelsTest, AGroupBesideWhatIsPaintedClearsOnlyItself) {
   EXPECT_EQ(picture.at(17, 10), "#0000FFFF");
 }
 
+TEST_F(CanvasPixelsTest, TheSoftEdgeOfAClipAroundAGroupCountsOnce) {
+  canvas.clip(Path::rect({2.5, 0, 10, 20}));
+  canvas.beginGroup(0.5);
+  canvas.fillRect(whole);
+  canvas.fillEllipse({-20, -20, 60, 60});
+  canvas.endGroup();
+  EXPECT_EQ(picture.at(2, 10), "#00000040");
+  EXPECT_EQ(picture.at(8, 10), "#00000080");
+  EXPECT_EQ(picture.at(12, 10), "#00000040");
+}
+
 TEST_F(CanvasPixelsTest, AGroupIsLaidDownAsOne) {
   canvas.setFillColor(Color::white());
   canvas.fillRect(whole);

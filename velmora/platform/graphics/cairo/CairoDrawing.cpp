@@ -88,6 +88,8 @@ void CairoCanvas::Drawing::beginGroup(double alpha) {
     cairo_save(context());
   } else {
     cairo_push_group(context());
+    cairo_reset_clip(context());  // the clip applies when the layer is laid down
+    inside.clip.reset();
     _layers.emplace_back();
     inside.layer = alpha;
   }
