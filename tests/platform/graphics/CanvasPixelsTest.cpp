@@ -1,7 +1,12 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <memory>
 #include <numbers>
+#include <sstream>
+
+#include <velmora/platform/graphics/TextLayout.h>
+#include <velmora/platform/resources/Image.h>
 
 #include "tests/platform/graphics/Pixels.h"
 
@@ -14,6 +19,14 @@ const Color red = {1, 0, 0, 1};
 const Color blue = {0, 0, 1, 1};
 constexpr Rect whole = {0, 0, 20, 20};
 constexpr Rect middle = {5, 5, 10, 10};
+
+std::shared_ptr<const Image> blackSquare() {
+  CairoCanvas canvas(PictureFormat::png, {4, 4});
+  canvas.fillRect({0, 0, 4, 4});
+  std::ostringstream png;
+  EXPECT_EQ(canvas.write(png), std::nullopt);
+  return Image::fromBytes("black square", png.str());
+}
 
 class CanvasPixelsTest : public ::testing::Test {
  protected:
@@ -96,8 +109,34 @@ TEST_F(CanvasPixelsTest, CoordinatesThatAreNoNumbersDrawNothing) {
   canvas.fillEllipse({0, 0, infinity, 10});
   canvas.strokeLine({0, 0}, {none, 10});
   canvas.setLineWidth(none);
+  const TextLayout text(AttributedText("14"));
+  for (const Point topLeft : {Point{none, 5}, {5, none}, {infinity, 5}, {5, -infinity}}) {
+    text.drawAtPoint(canvas, topLeft);
+    text.drawGlyph(canvas, 1, topLeft);
+  }
   EXPECT_EQ(picture.coverage(), 0);
   EXPECT_EQ(canvas.error(), std::nullopt);
+}
+
+TEST(CanvasImage, InARectangleOfNoFiniteAreaDrawsNothing) {
+  const double none = std::nan(""), infinity = INFINITY;
+  const auto image = blackSquare();
+  for (const Rect rect : {Rect{none, 0, 10, 10},
+                          {0, infinity, 10, 10},
+                          {0, 0, infinity, 10},
+                          {0, 0, 10, none},
+                          {0, 0, 1e200, 1e200},
+                          {0, 0, 1e-200, 1e-200},
+                          {0, 0, 1e-200, 10},
+                          {0, 0, 1e-160, 1e-160},
+                          {0, 0, 1e160, 1e-160},
+                          {1e300, 0, 10, 10},
+                          {0, 0, 0, 10}}) {
+    Pixels picture({20, 20});
+    picture.canvas.drawImage(*image, rect);
+    EXPECT_EQ(picture.canvas.error(), std::nullopt) << rect.x << " " << rect.width << " " << rect.height;
+    EXPECT_EQ(picture.coverage(), 0) << rect.x << " " << rect.width << " " << rect.height;
+  }
 }
 
 TEST_F(CanvasPixelsTest, ClearLeavesTransparencyOnlyWhereTheShapeCovers) {

@@ -113,7 +113,9 @@ void CairoCanvas::drawGlyph(const AttributedText& text, std::size_t glyph, Point
 
 void CairoCanvas::drawGlyphRange(const AttributedText& text, std::size_t first, std::size_t end,
                                  Point topLeft) {
-  if (!_drawing->isReady()) return;
+  const bool isPlaceable =
+      _drawing->frameAfter(AffineTransform::translation(topLeft.x, topLeft.y)).has_value();
+  if (!_drawing->isReady() || !isPlaceable) return;
   const auto line = PangoTextEngine::shared().line(text);
   for (const GlyphRun& run : glyphRuns(*line, text, first, std::min(end, line->glyphs.size()), topLeft)) {
     _drawing->drawGlyphs(run, line->serial);

@@ -122,18 +122,23 @@ void CairoCanvas::Drawing::popState() {
   _layers.back().insert(_layers.back().end(), painted.begin(), painted.end());
 }
 
-void CairoCanvas::Drawing::transform(const AffineTransform& t) {
+void CairoCanvas::Drawing::transform(const AffineTransform& step) {
   finishPendingClear();
+  if (const auto frame = frameAfter(step)) {
+    cairo_set_matrix(context(), &*frame);
+  } else {
+    state().isCollapsed = true;
+  }
+}
+
+std::optional<cairo_matrix_t> CairoCanvas::Drawing::frameAfter(const AffineTransform& t) const {
   const cairo_matrix_t step = {t.a, t.b, t.c, t.d, t.tx, t.ty};
   cairo_matrix_t frame;
   cairo_get_matrix(context(), &frame);
   cairo_matrix_multiply(&frame, &step, &frame);
   const double area = frame.xx * frame.yy - frame.xy * frame.yx;
-  if (std::isfinite(area) && area != 0 && std::isfinite(frame.x0) && std::isfinite(frame.y0)) {
-    cairo_set_matrix(context(), &frame);
-  } else {
-    state().isCollapsed = true;
-  }
+  if (area == 0 || !std::isfinite(area) || !std::isfinite(frame.x0) || !std::isfinite(frame.y0)) return {};
+  return frame;
 }
 
 bool CairoCanvas::Drawing::isReady() {

@@ -55,7 +55,9 @@ class [[gnu::visibility("hidden")]] CairoCanvas::Drawing {
   /// Ends everything that is open.
   void endAll();
 
-  void transform(const AffineTransform& transform);
+  void transform(const AffineTransform& step);
+  /// The frame that the step leads to from the current one; none if it has no area or is not finite.
+  std::optional<cairo_matrix_t> frameAfter(const AffineTransform& step) const;
   void clip(const Path& path);
   void fill(const Path& path);
   void stroke(const Path& path);

@@ -150,7 +150,10 @@ void CairoCanvas::Drawing::drawGlyphs(const GlyphRun& run, std::uint64_t lineSer
 
 void CairoCanvas::Drawing::drawImage(const Image& image, const Rect& rect) {
   if (state().blendMode == BlendMode::clear) return clear(Path::rect(rect));
-  if (!isReady() || rect.isEmpty()) return;
+  const auto [width, height] = image.pixelSize();
+  const AffineTransform intoRect = {rect.width / static_cast<double>(width),   0,      0,
+                                    rect.height / static_cast<double>(height), rect.x, rect.y};
+  if (!isReady() || !frameAfter(intoRect)) return;
   const double alpha = state().alpha;
   setPaint(Color::black());
   notePaint(rect);
