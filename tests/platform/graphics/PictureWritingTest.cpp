@@ -5,6 +5,7 @@
 #include <cmath>
 #include <filesystem>
 #include <fstream>
+#include <regex>
 #include <sstream>
 #include <system_error>
 
@@ -66,6 +67,11 @@ std::string crescents(PictureFormat format, const Color& dark) {
 
 bool contains(const std::string& text, const std::string& part) {
   return text.find(part) != std::string::npos;
+}
+
+/// Without the date of a PDF and the numbers that surfaces of an SVG are counted by.
+std::string comparable(const std::string& picture) {
+  return std::regex_replace(picture, std::regex("/CreationDate \\(.*\\)|surface[0-9]+"), "");
 }
 
 class PictureFile : public ::testing::Test {
@@ -197,6 +203,18 @@ TEST(Picture, ACrescentStaysVectorInPdf) {
 TEST(Picture, AHoleFilledWithATranslucentColourShowsThroughInSvg) {
   const std::string svg = crescents(PictureFormat::svg, {0.05, 0.05, 0.1, 0.3});
   EXPECT_TRUE(contains(svg, "<image"));
+}
+
+TEST(Picture, IsTheSameWhenItIsWrittenAgain) {
+  for (const PictureFormat format : {PictureFormat::png, PictureFormat::svg, PictureFormat::pdf}) {
+    CairoCanvas canvas(format, {100, 50}, 1, {0, 0, 1, 0.5});
+    canvas.fillEllipse({0, 0, 100, 50});
+    TextLayout(AttributedText("14 Mar")).drawAtPoint(canvas, {10, 10});
+    const auto pixels = canvas.pixels();
+    const std::string first = comparable(written(canvas));
+    EXPECT_EQ(canvas.pixels(), pixels) << "the background is no part of them";
+    EXPECT_TRUE(comparable(written(canvas)) == first);
+  }
 }
 
 TEST(Picture, ClearingWhatIsStillBlankLeavesNoTraceInSvg) {

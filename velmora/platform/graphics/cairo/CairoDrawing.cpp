@@ -66,6 +66,10 @@ CairoCanvas::Drawing::Drawing(PictureFormat pictureFormat, Size pictureSize, dou
   if (format == PictureFormat::png) cairo_scale(context(), scale, scale);
 }
 
+CairoCanvas::Drawing::~Drawing() {
+  cairo_surface_finish(surface());  // Cairo's SVG holds on to the record and would never free what is in it
+}
+
 void CairoCanvas::Drawing::save() {
   cairo_save(context());
   _states.push_back(state());

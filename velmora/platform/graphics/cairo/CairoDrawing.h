@@ -38,6 +38,9 @@ class [[gnu::visibility("hidden")]] CairoCanvas::Drawing {
   };
 
   Drawing(PictureFormat format, Size size, double scale, Color background);
+  ~Drawing();
+  Drawing(const Drawing&) = delete;
+  Drawing& operator=(const Drawing&) = delete;
 
   const PictureFormat format;
   const Size size;

@@ -6,6 +6,7 @@
 #include <cmath>
 #include <ostream>
 
+#include <velmora/platform/graphics/cairo/CairoColor.h>
 #include <velmora/platform/graphics/cairo/PngWriter.h>
 
 namespace [[gnu::visibility("hidden")]] velmora {
@@ -15,21 +16,6 @@ cairo_status_t writeBytes(void* output, const unsigned char* bytes, unsigned int
   auto& stream = *static_cast<std::ostream*>(output);
   stream.write(reinterpret_cast<const char*>(bytes), static_cast<std::streamsize>(count));
   return stream ? CAIRO_STATUS_SUCCESS : CAIRO_STATUS_WRITE_ERROR;
-}
-
-void setSource(cairo_t* context, const Color& color) {
-  cairo_set_source_rgba(context, color.red, color.green, color.blue, color.alpha);
-}
-
-cairo_status_t encodePixels(cairo_surface_t* pixels, const Color& background, std::ostream& output) {
-  const CairoContext context(cairo_create(pixels));
-  if (background.alpha > 0) {
-    cairo_set_operator(context.get(), CAIRO_OPERATOR_DEST_OVER);
-    setSource(context.get(), background);
-    cairo_paint(context.get());
-  }
-  const cairo_status_t status = cairo_status(context.get());
-  return status == CAIRO_STATUS_SUCCESS ? writePng(pixels, output) : status;
 }
 
 CairoSurface makePage(PictureFormat format, Size size, std::ostream& output) {
@@ -54,7 +40,6 @@ cairo_status_t encodePage(PictureFormat format, cairo_surface_t* recorded, Size 
   const cairo_status_t status = cairo_status(context.get());
   context.reset();
   cairo_surface_finish(page.get());
-  cairo_surface_finish(recorded);  // Cairo's SVG holds on to the record and would never free what is in it
   return status != CAIRO_STATUS_SUCCESS ? status : cairo_surface_status(page.get());
 }
 
@@ -72,7 +57,7 @@ CairoSurface makeSurface(PictureFormat format, Size size, double scale) {
 
 cairo_status_t encode(PictureFormat format, cairo_surface_t* drawn, Size size, const Color& background,
                       std::ostream& output) {
-  return format == PictureFormat::png ? encodePixels(drawn, background, output)
+  return format == PictureFormat::png ? writePng(drawn, background, output)
                                       : encodePage(format, drawn, size, background, output);
 }
 

@@ -9,6 +9,8 @@
 #include <ostream>
 #include <vector>
 
+#include <velmora/platform/graphics/cairo/CairoColor.h>
+#include <velmora/platform/graphics/cairo/CairoHandles.h>
 #include <velmora/platform/graphics/cairo/CairoImage.h>
 
 namespace [[gnu::visibility("hidden")]] velmora {
@@ -51,28 +53,74 @@ void undoPremultiplication(Row& row) {
   }
 }
 
-bool isOpaque(cairo_surface_t* pixels, Row& row) {
-  for (int y = 0; y < cairo_image_surface_get_height(pixels); ++y) {
-    copyRow(pixels, y, row.data());
-    for (std::size_t alpha = 3; alpha < row.size(); alpha += 4) {
-      if (row[alpha] != opaque) return false;
-    }
+/// The pixels over the background, to be read row by row from the top.
+class Rows {
+ public:
+  Rows(cairo_surface_t* pixels, const Color& background)
+      : width(cairo_image_surface_get_width(pixels)),
+        height(cairo_image_surface_get_height(pixels)),
+        _pixels(pixels),
+        _background(background),
+        _band(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, bandHeight)),
+        _context(cairo_create(_band.get())),
+        _row(static_cast<std::size_t>(width) * 4) {}
+
+  const int width, height;
+
+  cairo_status_t status() const { return cairo_status(_context.get()); }
+
+  Row& read(int y) {
+    if (y % bandHeight == 0) composeFrom(y);
+    copyRow(_band.get(), y % bandHeight, _row.data());
+    return _row;
+  }
+
+ private:
+  static constexpr int bandHeight = 32;  // single rows take longer
+
+  void composeFrom(int y) {
+    cairo_set_operator(_context.get(), CAIRO_OPERATOR_SOURCE);
+    setSource(_context.get(), _background);
+    cairo_paint(_context.get());
+    cairo_set_operator(_context.get(), CAIRO_OPERATOR_OVER);
+    cairo_set_source_surface(_context.get(), _pixels, 0, -y);
+    cairo_paint(_context.get());
+    cairo_surface_flush(_band.get());
+  }
+
+  cairo_surface_t* _pixels;
+  Color _background;
+  CairoSurface _band;
+  CairoContext _context;
+  Row _row;
+};
+
+bool isOpaque(const Row& row) {
+  for (std::size_t alpha = 3; alpha < row.size(); alpha += 4) {
+    if (row[alpha] != opaque) return false;
+  }
+  return true;
+}
+
+bool areOpaque(Rows& rows) {
+  for (int y = 0; y < rows.height; ++y) {
+    if (!isOpaque(rows.read(y))) return false;
   }
   return true;
 }
 
 /// Whether all went well. libpng leaves by a jump on an error, so nothing in here may need a destructor.
-bool writeRows(png_struct* png, png_info* info, cairo_surface_t* pixels, int colorType, Row& row) {
+bool writeRows(png_struct* png, png_info* info, Rows& rows, int colorType) {
   if (setjmp(png_jmpbuf(png)) != 0) return false;
-  const int width = cairo_image_surface_get_width(pixels), height = cairo_image_surface_get_height(pixels);
   png_set_compression_level(png, compressionLevel);
   png_set_filter(png, PNG_FILTER_TYPE_BASE, filters);
-  png_set_IHDR(png, info, static_cast<png_uint_32>(width), static_cast<png_uint_32>(height), bitsPerChannel,
-               colorType, PNG_INTERLACE_NONE, PNG_COMPRESSION_TYPE_DEFAULT, PNG_FILTER_TYPE_DEFAULT);
+  png_set_IHDR(png, info, static_cast<png_uint_32>(rows.width), static_cast<png_uint_32>(rows.height),
+               bitsPerChannel, colorType, PNG_INTERLACE_NONE, PNG_COMPRESSION_TYPE_DEFAULT,
+               PNG_FILTER_TYPE_DEFAULT);
   png_write_info(png, info);
   if (colorType == PNG_COLOR_TYPE_RGB) png_set_filler(png, 0, PNG_FILLER_AFTER);  // leaves alpha out
-  for (int y = 0; y < height; ++y) {
-    copyRow(pixels, y, row.data());
+  for (int y = 0; y < rows.height; ++y) {
+    Row& row = rows.read(y);
     undoPremultiplication(row);
     png_write_row(png, row.data());
   }
@@ -82,16 +130,18 @@ bool writeRows(png_struct* png, png_info* info, cairo_surface_t* pixels, int col
 
 }  // namespace
 
-cairo_status_t writePng(cairo_surface_t* pixels, std::ostream& output) {
+cairo_status_t writePng(cairo_surface_t* pixels, const Color& background, std::ostream& output) {
+  Rows rows(pixels, background);
+  if (rows.status() != CAIRO_STATUS_SUCCESS) return rows.status();
   const Png png(png_create_write_struct(PNG_LIBPNG_VER_STRING, nullptr, stop, ignoreWarning));
   png_info* info = png ? png_create_info_struct(png.get()) : nullptr;
   if (info == nullptr) return CAIRO_STATUS_NO_MEMORY;
   png_set_write_fn(png.get(), &output, writeBytes, flush);
-  Row row(static_cast<std::size_t>(cairo_image_surface_get_width(pixels)) * 4);
-  cairo_surface_flush(pixels);
-  const int colorType = isOpaque(pixels, row) ? PNG_COLOR_TYPE_RGB : PNG_COLOR_TYPE_RGBA;
-  const bool isWritten = writeRows(png.get(), info, pixels, colorType, row);
+  const bool hasAlpha = background.alpha < 1 && !areOpaque(rows);
+  const bool isWritten =
+      writeRows(png.get(), info, rows, hasAlpha ? PNG_COLOR_TYPE_RGBA : PNG_COLOR_TYPE_RGB);
   png_destroy_info_struct(png.get(), &info);
+  if (rows.status() != CAIRO_STATUS_SUCCESS) return rows.status();
   if (isWritten) return CAIRO_STATUS_SUCCESS;
   return output ? CAIRO_STATUS_PNG_ERROR : CAIRO_STATUS_WRITE_ERROR;
 }

@@ -4,9 +4,12 @@
 
 #include <iosfwd>
 
+#include <velmora/platform/graphics/Color.h>
+
 namespace [[gnu::visibility("hidden")]] velmora {
 
-/// Writes the pixels of an image surface as a PNG, without alpha where all are opaque.
-cairo_status_t writePng(cairo_surface_t* pixels, std::ostream& output);
+/// Writes the pixels of an image surface over the background as a PNG, without alpha where all are opaque.
+/// The surface stays as it is.
+cairo_status_t writePng(cairo_surface_t* pixels, const Color& background, std::ostream& output);
 
 }  // namespace velmora
