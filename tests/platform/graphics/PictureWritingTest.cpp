@@ -5,6 +5,7 @@
 #include <cmath>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <regex>
 #include <sstream>
 #include <system_error>
@@ -69,10 +70,16 @@ bool contains(const std::string& text, const std::string& part) {
   return text.find(part) != std::string::npos;
 }
 
+bool holdsImage(const std::string& svgOrPdf) {
+  return contains(svgOrPdf, "<image") || contains(svgOrPdf, "/Subtype /Image");
+}
+
 /// Without the date of a PDF and the numbers that surfaces of an SVG are counted by.
 std::string comparable(const std::string& picture) {
   return std::regex_replace(picture, std::regex("/CreationDate \\(.*\\)|surface[0-9]+"), "");
 }
+
+constexpr Rect hole = {20, 20, 30, 20};
 
 class PictureFile : public ::testing::Test {
  protected:
@@ -203,6 +210,116 @@ TEST(Picture, ACrescentStaysVectorInPdf) {
 TEST(Picture, AHoleFilledWithATranslucentColourShowsThroughInSvg) {
   const std::string svg = crescents(PictureFormat::svg, {0.05, 0.05, 0.1, 0.3});
   EXPECT_TRUE(contains(svg, "<image"));
+}
+
+TEST(Picture, AHoleFilledWithAFadedColourShowsThroughInSvg) {
+  CairoCanvas canvas(PictureFormat::svg, {100, 50});
+  canvas.fillRect({0, 0, 100, 50});
+  canvas.clearRect(hole);
+  canvas.setAlpha(0.5);
+  canvas.fillRect(hole);
+  EXPECT_TRUE(contains(written(canvas), "<image"));
+}
+
+/// What follows a hole, and must change nothing about it.
+const std::vector<std::pair<const char*, std::function<void(Canvas&)>>>& whatFollowsAHole() {
+  static const std::vector<std::pair<const char*, std::function<void(Canvas&)>>> all = {
+      {"nothing", [](Canvas&) {}},
+      {"a figure over it",
+       [](Canvas& canvas) {
+         canvas.fillRect({30, 10, 30, 20});
+       }},
+      {"a translucent figure that fills it",
+       [](Canvas& canvas) {
+         canvas.setFillColor({0, 0, 0, 0.5});
+         canvas.fillRect(hole);
+       }},
+      {"the end of its frame",
+       [](Canvas& canvas) {
+         canvas.restore();
+         canvas.fillRect({30, 10, 30, 20});
+       }},
+      {"a figure that would fill it in its frame",
+       [](Canvas& canvas) {
+         canvas.translate(15, 0);
+         canvas.fillRect(hole);
+       }},
+      {"a clip",
+       [](Canvas& canvas) {
+         canvas.clip(Path::rect({0, 0, 30, 50}));
+         canvas.fillRect({0, 0, 100, 15});
+       }},
+      {"a layer",
+       [](Canvas& canvas) {
+         canvas.beginGroup(0.5);
+         canvas.fillRect({30, 10, 30, 20});
+         canvas.endGroup();
+       }},
+      {"a line",
+       [](Canvas& canvas) {
+         canvas.strokeLine({0, 0}, {100, 50});
+       }},
+      {"a text",
+       [](Canvas& canvas) {
+         TextLayout(AttributedText("14")).drawAtPoint(canvas, {20, 20});
+       }},
+      {"another hole", [](Canvas& canvas) {
+         canvas.clearRect({0, 0, 10, 10});
+       }}};
+  return all;
+}
+
+TEST(Picture, AHoleShowsTheOpaqueBackgroundAsIfThatWerePaintedInSvg) {
+  const Color background = {0.1, 0.1, 0.2, 1};
+  const auto picture = [&](bool isCleared, const auto& drawAfterwards) {
+    CairoCanvas canvas(PictureFormat::svg, {100, 50}, 1, background);
+    canvas.fillRect({0, 0, 100, 50});
+    canvas.save();
+    canvas.translate(1, 2);
+    if (isCleared) {
+      canvas.clearRect(hole);
+    } else {
+      canvas.save();
+      canvas.setFillColor(background);
+      canvas.fillRect(hole);
+      canvas.restore();
+    }
+    drawAfterwards(canvas);
+    return comparable(written(canvas));
+  };
+  for (const auto& [name, drawAfterwards] : whatFollowsAHole()) {
+    EXPECT_TRUE(picture(true, drawAfterwards) == picture(false, drawAfterwards)) << name;
+  }
+}
+
+TEST(Picture, AHoleOverAnOpaqueBackgroundStaysVectorInSvgAndPdf) {
+  for (const PictureFormat format : {PictureFormat::svg, PictureFormat::pdf}) {
+    CairoCanvas whole(format, {100, 50}, 1, Color::white()), pierced(format, {100, 50}, 1, Color::white());
+    for (Canvas* canvas : {&whole, &pierced}) canvas->fillRect({0, 0, 100, 50});
+    pierced.clearRect(hole);
+    const std::string picture = comparable(written(pierced));
+    EXPECT_FALSE(holdsImage(picture));
+    EXPECT_TRUE(picture != comparable(written(whole)));
+  }
+}
+
+TEST(Picture, AHoleInALayerShowsWhatLiesBelowInSvg) {
+  CairoCanvas canvas(PictureFormat::svg, {100, 50}, 1, Color::white());
+  canvas.fillRect({0, 0, 100, 50});
+  canvas.beginGroup(0.5);
+  canvas.fillRect({0, 0, 100, 50});
+  canvas.clearRect(hole);
+  canvas.endGroup();
+  EXPECT_TRUE(holdsImage(written(canvas)));
+}
+
+TEST(Picture, ATextAtNoPlaceLeavesNoTraceInSvg) {
+  CairoCanvas blank(PictureFormat::svg, {100, 50}), canvas(PictureFormat::svg, {100, 50});
+  TextLayout(AttributedText("14 Mar")).drawAtPoint(canvas, {std::nan(""), 10});
+  TextLayout(AttributedText("14 Mar")).drawAtPoint(canvas, {10, INFINITY});
+  for (Canvas* each : {&blank, &canvas}) each->fillRect({0, 0, 10, 10});
+  canvas.clearRect({50, 0, 50, 50});
+  EXPECT_EQ(comparable(written(canvas)), comparable(written(blank)));
 }
 
 TEST(Picture, IsTheSameWhenItIsWrittenAgain) {

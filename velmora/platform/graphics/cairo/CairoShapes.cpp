@@ -5,6 +5,7 @@
 #include <variant>
 #include <vector>
 
+#include <velmora/platform/graphics/cairo/CairoColor.h>
 #include <velmora/platform/graphics/cairo/CairoDrawing.h>
 #include <velmora/platform/graphics/cairo/CairoImage.h>
 #include <velmora/platform/graphics/cairo/CairoPath.h>
@@ -102,7 +103,13 @@ void CairoCanvas::Drawing::clear(const Path& path) {
 
 void CairoCanvas::Drawing::finishPendingClear() {
   if (!_pendingClear) return;
-  cairo_set_operator(context(), CAIRO_OPERATOR_CLEAR);
+  const bool wouldShowBackground = _layers.size() == 1 && background.alpha >= 1;
+  if (format != PictureFormat::png && wouldShowBackground) {
+    setSource(context(), background);
+    cairo_set_operator(context(), CAIRO_OPERATOR_OVER);
+  } else {
+    cairo_set_operator(context(), CAIRO_OPERATOR_CLEAR);
+  }
   cover(*_pendingClear, *_pendingClear->boundingBox());
   _pendingClear.reset();
 }
