@@ -151,6 +151,15 @@ TEST_F(CanvasPixelsTest, ClearLeavesTransparencyOnlyWhereTheShapeCovers) {
   EXPECT_EQ(picture.at(15, 10), "#FF0000FF");
 }
 
+TEST_F(CanvasPixelsTest, WhatAGroupPaintedCanBeClearedAfterIt) {
+  canvas.beginGroup(0.5);
+  canvas.fillRect(whole);
+  canvas.endGroup();
+  canvas.clearRect(middle);
+  EXPECT_EQ(picture.at(10, 10), "#00000000");
+  EXPECT_EQ(picture.at(4, 10), "#00000080");
+}
+
 TEST_F(CanvasPixelsTest, ClearStaysInsideTheClip) {
   canvas.fillRect(whole);
   canvas.clip(Path::rect({0, 0, 10, 20}));

@@ -51,9 +51,12 @@ std::shared_ptr<const Image> halfRed() {
   return Image::fromBytes("half red", png.str());
 }
 
+TextLayout layoutOf(const std::string& text, const Color& color = Color::black()) {
+  return TextLayout(AttributedText(text, {.font = Font::systemFont(13), .color = color}));
+}
+
 void drawText(Canvas& canvas, const std::string& text, const Color& color = Color::black()) {
-  TextLayout(AttributedText(text, {.font = Font::systemFont(13), .color = color}))
-      .drawAtPoint(canvas, {10.2, 10.4});
+  layoutOf(text, color).drawAtPoint(canvas, {10.2, 10.4});
 }
 
 void drawGibbous(Canvas& canvas) {
@@ -75,10 +78,23 @@ void drawCutOut(Canvas& canvas) {
   canvas.setBlendMode(BlendMode::normal);
 }
 
-void drawFadedImage(Canvas& canvas) {
+/// Its point stands out four times as far from the path as the line is wide.
+void drawSpike(Canvas& canvas) {
+  Path spike;
+  spike.moveTo({20, 35});
+  spike.lineTo({30, 16});
+  spike.lineTo({40, 35});
+  spike.curveTo({37, 40}, {23, 40}, {20, 35});
+  spike.close();
+  canvas.setLineWidth(8);
+  canvas.stroke(spike);
+}
+
+void drawFadedImage(Canvas& canvas, double alpha) {
   static const auto image = halfRed();
+  canvas.setFillColor(Color::withWhite(0.6, 1));
   canvas.fillRect({0, 0, 20, 40});
-  canvas.setAlpha(0.7);
+  canvas.setAlpha(alpha);
   canvas.setBlendMode(BlendMode::overlay);
   canvas.drawImage(*image, disc);
 }
@@ -144,7 +160,32 @@ const std::vector<std::pair<const char*, Drawing>>& drawings() {
        [](Canvas& canvas) {
          TextLayout(AttributedText("14 (3)", {.font = Font::systemFont(13)})).drawGlyph(canvas, 1, {10, 10});
        }},
-      {"image", drawFadedImage},
+      {"shifted text",
+       [](Canvas& canvas) {
+         canvas.translate(0.05, 0);
+         drawText(canvas, "14 (3)");
+       }},
+      {"lowered text",
+       [](Canvas& canvas) {
+         canvas.translate(0, 0.05);
+         drawText(canvas, "14 (3)");
+       }},
+      {"turned text",
+       [](Canvas& canvas) {
+         canvas.rotate(0.01);
+         drawText(canvas, "14 (3)");
+       }},
+      {"text beginning further right",
+       [](Canvas& canvas) {
+         layoutOf("14 (3)").drawAtPoint(canvas, {10.3, 10.4});
+       }},
+      {"text beginning further down",
+       [](Canvas& canvas) {
+         layoutOf("14 (3)").drawAtPoint(canvas, {10.2, 10.5});
+       }},
+      {"spike", drawSpike},
+      {"image", [](Canvas& canvas) { drawFadedImage(canvas, 0.7); }},
+      {"fainter image", [](Canvas& canvas) { drawFadedImage(canvas, 0.6); }},
       {"mirrored image", [](Canvas& canvas) { canvas.drawImage(*halfRed()->mirrored(), disc); }},
       {"faded group",
        [](Canvas& canvas) {
@@ -171,6 +212,63 @@ TEST(DrawnAgain, NothingIsTakenForAnother) {
   for (const auto& [name, drawing] : drawings()) {
     const auto [former, isNew] = seen.emplace(drawn(drawing), name);
     EXPECT_TRUE(isNew) << name << " looks like " << former->second;
+  }
+}
+
+TEST(DrawnAgain, ThePointOfASpikeIsNotCut) {
+  Pixels picture(size, scale);
+  drawSpike(picture.canvas);
+  EXPECT_EQ(picture.at(3 * 30, 3 * 9), "#000000FF");
+  EXPECT_EQ(picture.at(3 * 30, 3 * 5), "#00000000");
+}
+
+TEST(DrawnAgain, CurvesAreAsFineAsTheScaleAsks) {
+  const auto ringAt = [](double pictureScale) {
+    Pixels picture({480 / pictureScale, 480 / pictureScale}, pictureScale);
+    picture.canvas.scale(8 / pictureScale, 8 / pictureScale);
+    picture.canvas.fillEllipse({0.3, 0.4, 50, 50});
+    return picture.canvas.pixels();
+  };
+  const PictureBytes coarse = ringAt(8);
+  EXPECT_NE(ringAt(1), coarse);
+}
+
+TEST(DrawnAgain, AGlyphIsNotTakenForItsLine) {
+  const auto image = [](std::size_t glyphs) {
+    return [glyphs](Canvas& canvas) {
+      const AttributedText struck("W\u0335", {.font = Font::systemFont(13)});
+      for (std::size_t glyph = 0; glyph < glyphs; ++glyph) canvas.drawGlyph(struck, glyph, {10, 10});
+      if (glyphs == 0) canvas.drawText(struck, {10, 10});
+    };
+  };
+  EXPECT_EQ(drawn(image(1)), drawnAfresh(image(1)));
+  EXPECT_EQ(drawn(image(0)), drawnAfresh(image(0)));
+  EXPECT_NE(drawn(image(0)), drawn(image(1)));
+}
+
+TEST(DrawnAgain, AGlyphIsNotTakenForItsNeighbourAtItsPlace) {
+  const ScopedLocale english("en_US");
+  for (const char* pair : {"69", "bd", "pq", "38", "35", "ao", "nu"}) {
+    const TextLayout layout = layoutOf(pair);
+    const auto glyphAtOnePlace = [&](std::size_t glyph) {
+      return [&layout, glyph](Canvas& canvas) {
+        layout.drawGlyph(canvas, glyph, {20 - layout.glyphRect(glyph).x, 10});
+      };
+    };
+    for (const std::size_t glyph : {0U, 1U}) {
+      EXPECT_EQ(drawn(glyphAtOnePlace(glyph)), drawnAfresh(glyphAtOnePlace(glyph))) << pair;
+    }
+  }
+}
+
+TEST(DrawnAgain, ATextKeepsItsPlaceWithinAPixel) {
+  const ScopedLocale english("en_US");
+  for (int i = 0; i < 10; ++i) {
+    const double part = i / (10 * scale);
+    for (const Point topLeft : {Point{10 + part, 10}, {10, 10 + part}}) {
+      const Drawing text = [&](Canvas& canvas) { layoutOf("14").drawAtPoint(canvas, topLeft); };
+      EXPECT_EQ(drawn(text), drawnAfresh(text)) << topLeft.x << " " << topLeft.y;
+    }
   }
 }
 
