@@ -5,8 +5,6 @@
 #include <cmath>
 #include <filesystem>
 #include <fstream>
-#include <functional>
-#include <regex>
 #include <sstream>
 #include <system_error>
 
@@ -14,17 +12,16 @@
 #include <velmora/platform/graphics/cairo/CairoCanvas.h>
 #include <velmora/platform/resources/Image.h>
 
+#include "tests/platform/graphics/WrittenPicture.h"
+
 namespace velmora {
 namespace {
 
-namespace fs = std::filesystem;
+using testing::comparable;
+using testing::drawCrescent;
+using testing::written;
 
-std::string written(CairoCanvas& canvas) {
-  std::ostringstream output;
-  const auto failure = canvas.write(output);
-  EXPECT_EQ(failure ? failure->message : "", "");
-  return output.str();
-}
+namespace fs = std::filesystem;
 
 /// What the system says of an error, in the language of the process.
 std::string systemText(int error) { return std::generic_category().message(error); }
@@ -35,51 +32,6 @@ std::string contents(const fs::path& path) {
   std::ifstream file(path, std::ios::binary);
   return {std::istreambuf_iterator<char>(file), {}};
 }
-
-/// The crescent as every view draws it.
-void drawCrescent(Canvas& canvas, Rect disc, const Color& dark) {
-  canvas.save();
-  canvas.setLineWidth(2);
-  canvas.clip(Path::ellipse(disc));
-  canvas.setFillColor(Color::white());
-  canvas.fillEllipse(disc);
-  canvas.setBlendMode(BlendMode::clear);
-  canvas.setFillColor(Color::clear());
-  const Rect hidden = {disc.x, disc.y, disc.width * 0.7, disc.height};
-  canvas.fillEllipse(hidden);
-  canvas.setBlendMode(BlendMode::normal);
-  canvas.setFillColor(dark);
-  canvas.fillEllipse(hidden);
-  canvas.setStrokeColor(Color::white());
-  canvas.strokeEllipse(disc);
-  canvas.restore();
-}
-
-std::string crescents(PictureFormat format, const Color& dark) {
-  CairoCanvas canvas(format, {100, 50});
-  for (const double left : {0.0, 50.0}) {
-    canvas.beginGroup(1);
-    canvas.clearRect({left, 0, 50, 50});
-    drawCrescent(canvas, {left + 5, 5, 40, 40}, dark);
-    canvas.endGroup();
-  }
-  return written(canvas);
-}
-
-bool contains(const std::string& text, const std::string& part) {
-  return text.find(part) != std::string::npos;
-}
-
-bool holdsImage(const std::string& svgOrPdf) {
-  return contains(svgOrPdf, "<image") || contains(svgOrPdf, "/Subtype /Image");
-}
-
-/// Without the date of a PDF and the numbers that surfaces of an SVG are counted by.
-std::string comparable(const std::string& picture) {
-  return std::regex_replace(picture, std::regex("/CreationDate \\(.*\\)|surface[0-9]+"), "");
-}
-
-constexpr Rect hole = {20, 20, 30, 20};
 
 class PictureFile : public ::testing::Test {
  protected:
@@ -161,16 +113,6 @@ TEST(Picture, APngHasAlphaOnlyWhereSomethingIsSeenThrough) {
   EXPECT_EQ(written(canvas).at(placeOfColorType), colorsWithAlpha);
 }
 
-TEST(Picture, AnImageIsOneElementOfAnSvg) {
-  CairoCanvas source(PictureFormat::png, {4, 4});
-  source.fillRect({0, 0, 4, 4});
-  CairoCanvas canvas(PictureFormat::svg, {80, 80});
-  canvas.drawImage(*decoded(written(source)), {10, 10, 60, 60});
-  const std::string svg = written(canvas);
-  EXPECT_TRUE(contains(svg, "<image"));
-  EXPECT_EQ(svg.find("<image"), svg.rfind("<image"));
-}
-
 TEST(Picture, ADamagedImageOrOneInARectangleOfNoSizeDrawsNothing) {
   CairoCanvas source(PictureFormat::png, {4, 4});
   source.fillRect({0, 0, 4, 4});
@@ -193,135 +135,6 @@ TEST(Picture, WhatIsStillOpenIsEnded) {
   EXPECT_EQ(decoded(written(canvas))->pixels(), (PixelBytes{0, 0, 0, 128}));
 }
 
-TEST(Picture, ACrescentStaysVectorInSvg) {
-  const std::string svg = crescents(PictureFormat::svg, {0.05, 0.05, 0.1, 1});
-  EXPECT_TRUE(contains(svg, "<svg"));
-  EXPECT_TRUE(contains(svg, "<path"));
-  EXPECT_FALSE(contains(svg, "<image"));
-  EXPECT_TRUE(contains(svg, "width=\"100px\""));
-}
-
-TEST(Picture, ACrescentStaysVectorInPdf) {
-  const std::string pdf = crescents(PictureFormat::pdf, {0.05, 0.05, 0.1, 1});
-  EXPECT_EQ(pdf.substr(0, 4), "%PDF");
-  EXPECT_FALSE(contains(pdf, "/Subtype /Image"));
-}
-
-TEST(Picture, AHoleFilledWithATranslucentColourShowsThroughInSvg) {
-  const std::string svg = crescents(PictureFormat::svg, {0.05, 0.05, 0.1, 0.3});
-  EXPECT_TRUE(contains(svg, "<image"));
-}
-
-TEST(Picture, AHoleFilledWithAFadedColourShowsThroughInSvg) {
-  CairoCanvas canvas(PictureFormat::svg, {100, 50});
-  canvas.fillRect({0, 0, 100, 50});
-  canvas.clearRect(hole);
-  canvas.setAlpha(0.5);
-  canvas.fillRect(hole);
-  EXPECT_TRUE(contains(written(canvas), "<image"));
-}
-
-/// What follows a hole, and must change nothing about it.
-const std::vector<std::pair<const char*, std::function<void(Canvas&)>>>& whatFollowsAHole() {
-  static const std::vector<std::pair<const char*, std::function<void(Canvas&)>>> all = {
-      {"nothing", [](Canvas&) {}},
-      {"a figure over it",
-       [](Canvas& canvas) {
-         canvas.fillRect({30, 10, 30, 20});
-       }},
-      {"a translucent figure that fills it",
-       [](Canvas& canvas) {
-         canvas.setFillColor({0, 0, 0, 0.5});
-         canvas.fillRect(hole);
-       }},
-      {"the end of its frame",
-       [](Canvas& canvas) {
-         canvas.restore();
-         canvas.fillRect({30, 10, 30, 20});
-       }},
-      {"a figure that would fill it in its frame",
-       [](Canvas& canvas) {
-         canvas.translate(15, 0);
-         canvas.fillRect(hole);
-       }},
-      {"a clip",
-       [](Canvas& canvas) {
-         canvas.clip(Path::rect({0, 0, 30, 50}));
-         canvas.fillRect({0, 0, 100, 15});
-       }},
-      {"a layer",
-       [](Canvas& canvas) {
-         canvas.beginGroup(0.5);
-         canvas.fillRect({30, 10, 30, 20});
-         canvas.endGroup();
-       }},
-      {"a line",
-       [](Canvas& canvas) {
-         canvas.strokeLine({0, 0}, {100, 50});
-       }},
-      {"a text",
-       [](Canvas& canvas) {
-         TextLayout(AttributedText("14")).drawAtPoint(canvas, {20, 20});
-       }},
-      {"another hole", [](Canvas& canvas) {
-         canvas.clearRect({0, 0, 10, 10});
-       }}};
-  return all;
-}
-
-TEST(Picture, AHoleShowsTheOpaqueBackgroundAsIfThatWerePaintedInSvg) {
-  const Color background = {0.1, 0.1, 0.2, 1};
-  const auto picture = [&](bool isCleared, const auto& drawAfterwards) {
-    CairoCanvas canvas(PictureFormat::svg, {100, 50}, 1, background);
-    canvas.fillRect({0, 0, 100, 50});
-    canvas.save();
-    canvas.translate(1, 2);
-    if (isCleared) {
-      canvas.clearRect(hole);
-    } else {
-      canvas.save();
-      canvas.setFillColor(background);
-      canvas.fillRect(hole);
-      canvas.restore();
-    }
-    drawAfterwards(canvas);
-    return comparable(written(canvas));
-  };
-  for (const auto& [name, drawAfterwards] : whatFollowsAHole()) {
-    EXPECT_TRUE(picture(true, drawAfterwards) == picture(false, drawAfterwards)) << name;
-  }
-}
-
-TEST(Picture, AHoleOverAnOpaqueBackgroundStaysVectorInSvgAndPdf) {
-  for (const PictureFormat format : {PictureFormat::svg, PictureFormat::pdf}) {
-    CairoCanvas whole(format, {100, 50}, 1, Color::white()), pierced(format, {100, 50}, 1, Color::white());
-    for (Canvas* canvas : {&whole, &pierced}) canvas->fillRect({0, 0, 100, 50});
-    pierced.clearRect(hole);
-    const std::string picture = comparable(written(pierced));
-    EXPECT_FALSE(holdsImage(picture));
-    EXPECT_TRUE(picture != comparable(written(whole)));
-  }
-}
-
-TEST(Picture, AHoleInALayerShowsWhatLiesBelowInSvg) {
-  CairoCanvas canvas(PictureFormat::svg, {100, 50}, 1, Color::white());
-  canvas.fillRect({0, 0, 100, 50});
-  canvas.beginGroup(0.5);
-  canvas.fillRect({0, 0, 100, 50});
-  canvas.clearRect(hole);
-  canvas.endGroup();
-  EXPECT_TRUE(holdsImage(written(canvas)));
-}
-
-TEST(Picture, ATextAtNoPlaceLeavesNoTraceInSvg) {
-  CairoCanvas blank(PictureFormat::svg, {100, 50}), canvas(PictureFormat::svg, {100, 50});
-  TextLayout(AttributedText("14 Mar")).drawAtPoint(canvas, {std::nan(""), 10});
-  TextLayout(AttributedText("14 Mar")).drawAtPoint(canvas, {10, INFINITY});
-  for (Canvas* each : {&blank, &canvas}) each->fillRect({0, 0, 10, 10});
-  canvas.clearRect({50, 0, 50, 50});
-  EXPECT_EQ(comparable(written(canvas)), comparable(written(blank)));
-}
-
 TEST(Picture, IsTheSameWhenItIsWrittenAgain) {
   for (const PictureFormat format : {PictureFormat::png, PictureFormat::svg, PictureFormat::pdf}) {
     CairoCanvas canvas(format, {100, 50}, 1, {0, 0, 1, 0.5});
@@ -331,28 +144,6 @@ TEST(Picture, IsTheSameWhenItIsWrittenAgain) {
     const std::string first = comparable(written(canvas));
     EXPECT_EQ(canvas.pixels(), pixels) << "the background is no part of them";
     EXPECT_TRUE(comparable(written(canvas)) == first);
-  }
-}
-
-TEST(Picture, ClearingWhatIsStillBlankLeavesNoTraceInSvg) {
-  CairoCanvas canvas(PictureFormat::svg, {100, 50}, 1, Color::black());
-  canvas.fillRect({0, 0, 40, 50});
-  canvas.beginGroup(0.5);
-  canvas.clearRect({0, 0, 100, 50});
-  canvas.fillRect({60, 0, 40, 50});
-  canvas.clearRect({0, 0, 55, 50});
-  canvas.endGroup();
-  EXPECT_FALSE(contains(written(canvas), "<image"));
-}
-
-TEST(Picture, TextIsVectorInSvgAndPdf) {
-  for (const PictureFormat format : {PictureFormat::svg, PictureFormat::pdf}) {
-    CairoCanvas canvas(format, {100, 50});
-    TextLayout(AttributedText("14 Mar")).drawAtPoint(canvas, {10, 10});
-    const std::string picture = written(canvas);
-    EXPECT_FALSE(contains(picture, "<image"));
-    EXPECT_FALSE(contains(picture, "/Subtype /Image"));
-    EXPECT_TRUE(contains(picture, format == PictureFormat::svg ? "<symbol" : "/Font"));
   }
 }
 

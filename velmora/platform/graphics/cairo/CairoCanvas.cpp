@@ -120,8 +120,6 @@ void CairoCanvas::drawGlyphRange(const AttributedText& text, std::size_t first, 
   for (const GlyphRun& run : glyphRuns(*line, text, first, std::min(end, line->glyphs.size()), topLeft)) {
     _drawing->drawGlyphs(run, line->serial);
   }
-  const double height = line->metrics.ascent + line->metrics.descent;
-  _drawing->notePaint(Rect{topLeft.x, topLeft.y, line->metrics.width, height}.inset(-height, -height));
   _drawing->noteUncovered(line->uncovered);
 }
 

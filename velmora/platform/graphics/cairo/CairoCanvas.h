@@ -28,8 +28,10 @@ struct PictureError {
 };
 
 /// A picture of a size in points. A PNG has `scale` pixels a point; SVG and PDF have one unit a point and
-/// stay vectors, but for images, overlay and holes cleared in what is already drawn: clearing what is still
-/// blank, or what the same path then fills with an opaque colour, leaves no trace in them.
+/// stay vectors, but for images and, in SVG, overlay. Neither can clear: what is still blank
+/// needs no clearing, and a hole is painted with the colour that it shows, where that is one opaque colour,
+/// of the background or of a rectangle below the group, or is left out where the same path then fills it with
+/// one. Any other hole, as on a translucent background, makes pixels of the whole page.
 ///
 /// The shapes of a PNG are kept as pixels between the pictures drawn in the same thread, so that a view drawn
 /// again takes a fraction of its first time; whether a shape was kept makes no difference to the pixels.

@@ -121,9 +121,9 @@ void CairoCanvas::Drawing::popState() {
   cairo_pop_group_to_source(context());
   cairo_set_operator(context(), CAIRO_OPERATOR_OVER);
   cairo_paint_with_alpha(context(), *layer);
-  const PaintedRects painted = std::move(_layers.back());
+  const Layer painted = std::move(_layers.back());
   _layers.pop_back();
-  _layers.back().insert(_layers.back().end(), painted.begin(), painted.end());
+  for (const Paint& paint : painted) _layers.back().push_back({paint.box, {}, {}});
 }
 
 void CairoCanvas::Drawing::transform(const AffineTransform& step) {
@@ -181,9 +181,19 @@ Rect CairoCanvas::Drawing::visiblePixels() const {
 }
 
 bool CairoCanvas::Drawing::isPainted(const Rect& pixels) const {
-  const PaintedRects& painted = _layers.back();
-  return std::any_of(painted.begin(), painted.end(),
-                     [&](const Rect& other) { return !pixels.intersection(other).isEmpty(); });
+  return std::any_of(_layers.back().begin(), _layers.back().end(),
+                     [&](const Paint& paint) { return !pixels.intersection(paint.box).isEmpty(); });
+}
+
+std::optional<Color> CairoCanvas::Drawing::colorBelow(const Rect& pixels) const {
+  const auto isThere = [&](const Paint& paint) { return !pixels.intersection(paint.box).isEmpty(); };
+  for (auto layer = _layers.rbegin() + 1; layer != _layers.rend(); ++layer) {
+    const auto topmost = std::find_if(layer->rbegin(), layer->rend(), isThere);
+    if (topmost == layer->rend()) continue;
+    const bool coversAll = topmost->filled.intersection(pixels) == pixels;
+    return coversAll ? std::optional(topmost->color) : std::nullopt;
+  }
+  return background.alpha >= 1 ? std::optional(background) : std::nullopt;
 }
 
 }  // namespace velmora

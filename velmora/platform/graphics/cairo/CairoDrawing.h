@@ -74,7 +74,7 @@ class [[gnu::visibility("hidden")]] CairoCanvas::Drawing {
   /// Sets colour, alpha and blend mode.
   void setPaint(const Color& color);
   /// Notes that something was drawn within the rectangle of the current frame.
-  void notePaint(const Rect& rect) { _layers.back().push_back(visiblePixels(rect)); }
+  void notePaint(const Rect& rect) { _layers.back().push_back({visiblePixels(rect), {}, {}}); }
 
   void noteUncovered(const std::set<std::string>& characters) {
     _uncovered.insert(characters.begin(), characters.end());
@@ -82,7 +82,12 @@ class [[gnu::visibility("hidden")]] CairoCanvas::Drawing {
   const std::set<std::string>& uncovered() const { return _uncovered; }
 
  private:
-  using PaintedRects = std::vector<Rect>;  ///< in pixels
+  struct Paint {
+    Rect box;     ///< in pixels, holds all of it
+    Rect filled;  ///< the part that is filled with one opaque colour, as far as is known
+    Color color;
+  };
+  using Layer = std::vector<Paint>;
 
   /// What covers pixels: a figure, glyphs or an image.
   struct Shape {
@@ -106,12 +111,16 @@ class [[gnu::visibility("hidden")]] CairoCanvas::Drawing {
   Rect visiblePixels() const;
   Rect visiblePixels(const Rect& rect) const { return visiblePixels().intersection(inPixels(rect)); }
   bool isPainted(const Rect& pixels) const;
+  /// Notes of the last paint that it filled the path with the opaque colour.
+  void noteFilled(const Path& path);
+  /// What a hole in the layer shows, if that is one opaque colour.
+  std::optional<Color> colorBelow(const Rect& pixels) const;
   void finishPendingClear();
 
   CairoSurface _surface;
   CairoContext _context;
   std::vector<State> _states{State()};
-  std::vector<PaintedRects> _layers{PaintedRects()};
+  std::vector<Layer> _layers{Layer()};
   std::optional<Path> _pendingClear;  ///< waits to see whether the same path covers it at once
   std::set<std::string> _uncovered;
 };

@@ -92,6 +92,17 @@ void CairoCanvas::Drawing::fill(const Path& path) {
   setPaint(s.fill);
   cover(path, *box);
   notePaint(*box);
+  if (isOpaque && format != PictureFormat::png) noteFilled(path);
+}
+
+void CairoCanvas::Drawing::noteFilled(const Path& path) {
+  auto filled = uprightRectangle(frameOf(context()), path);
+  for (const Clip* clip = state().clip.get(); filled && clip != nullptr; clip = clip->outer.get()) {
+    filled = clip->rectangle ? std::optional(filled->intersection(*clip->rectangle)) : std::nullopt;
+  }
+  Paint& paint = _layers.back().back();
+  paint.filled = filled.value_or(Rect());
+  paint.color = state().fill;
 }
 
 void CairoCanvas::Drawing::clear(const Path& path) {
@@ -103,14 +114,11 @@ void CairoCanvas::Drawing::clear(const Path& path) {
 
 void CairoCanvas::Drawing::finishPendingClear() {
   if (!_pendingClear) return;
-  const bool wouldShowBackground = _layers.size() == 1 && background.alpha >= 1;
-  if (format != PictureFormat::png && wouldShowBackground) {
-    setSource(context(), background);
-    cairo_set_operator(context(), CAIRO_OPERATOR_OVER);
-  } else {
-    cairo_set_operator(context(), CAIRO_OPERATOR_CLEAR);
-  }
-  cover(*_pendingClear, *_pendingClear->boundingBox());
+  const Rect box = *_pendingClear->boundingBox();
+  const auto shown = format == PictureFormat::png ? std::nullopt : colorBelow(visiblePixels(box));
+  setSource(context(), shown.value_or(Color::clear()));
+  cairo_set_operator(context(), shown ? CAIRO_OPERATOR_OVER : CAIRO_OPERATOR_CLEAR);
+  cover(*_pendingClear, box);
   _pendingClear.reset();
 }
 
@@ -144,7 +152,9 @@ void CairoCanvas::Drawing::stroke(const Path& path) {
 }
 
 void CairoCanvas::Drawing::drawGlyphs(const GlyphRun& run, std::uint64_t lineSerial) {
+  const Rect box = inkBox(context(), run);
   setPaint(run.color);
+  notePaint(box);
   if (format != PictureFormat::png) return showCharacters(context(), run);
   ShapeKey key = keyOf(Kind::glyphs);
   key.add(lineSerial);
@@ -152,7 +162,7 @@ void CairoCanvas::Drawing::drawGlyphs(const GlyphRun& run, std::uint64_t lineSer
   key.add(run.glyphs.size());
   key.add(run.glyphs.front().x);
   key.add(run.glyphs.front().y);
-  place({key, {}, inkBox(context(), run), CAIRO_CONTENT_ALPHA, [&] { fillOutlines(context(), run); }});
+  place({key, {}, box, CAIRO_CONTENT_ALPHA, [&] { fillOutlines(context(), run); }});
 }
 
 void CairoCanvas::Drawing::drawImage(const Image& image, const Rect& rect) {
