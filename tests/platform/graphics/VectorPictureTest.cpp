@@ -259,6 +259,39 @@ TEST(VectorPicture, ATextAtNoPlaceLeavesNoTraceInSvg) {
   EXPECT_EQ(comparable(written(canvas)), comparable(written(blank)));
 }
 
+void drawOverlay(Canvas& canvas) {
+  canvas.setFillColor(below);
+  canvas.fillEllipse(hole);
+  canvas.setBlendMode(BlendMode::overlay);
+  canvas.setFillColor(Color::yellow());
+  canvas.fillRect(hole.inset(5, 5));
+}
+
+TEST(VectorPicture, OverlayMakesPixelsOfItsOwnFigureAlone) {
+  for (const PictureFormat format : {PictureFormat::svg, PictureFormat::pdf}) {
+    CairoCanvas canvas(format, {100, 50});
+    TextLayout(AttributedText("14 Mar")).drawAtPoint(canvas, {10, 10});
+    drawOverlay(canvas);
+    const std::string picture = written(canvas);
+    EXPECT_TRUE(holdsImage(picture));
+    EXPECT_TRUE(contains(picture, format == PictureFormat::svg ? "<symbol" : "/Font"));
+  }
+}
+
+TEST(VectorPicture, OverlayLiesAtItsPlaceInTheColoursOfItsLayer) {
+  CairoCanvas plain(PictureFormat::svg, {100, 50}), layered(PictureFormat::svg, {100, 50});
+  drawOverlay(plain);
+  layered.fillRect({0, 0, 100, 50});
+  layered.clip(Path::rect(hole));
+  layered.beginGroup(0.5);
+  drawOverlay(layered);
+  layered.endGroup();
+  const std::string svg = written(plain);
+  const std::size_t image = svg.find("data:image/png"), end = svg.find('"', image);
+  EXPECT_TRUE(contains(svg, "matrix(0.25,0,0,0.25,25,25)"));
+  EXPECT_TRUE(contains(written(layered), svg.substr(image, end - image)));
+}
+
 TEST(VectorPicture, AnImageIsOneElementOfAnSvg) {
   CairoCanvas source(PictureFormat::png, {4, 4});
   source.fillRect({0, 0, 4, 4});

@@ -28,10 +28,11 @@ struct PictureError {
 };
 
 /// A picture of a size in points. A PNG has `scale` pixels a point; SVG and PDF have one unit a point and
-/// stay vectors, but for images and, in SVG, overlay. Neither can clear: what is still blank
+/// stay vectors, in which images and what overlay paints are pixels. Neither can clear: what is still blank
 /// needs no clearing, and a hole is painted with the colour that it shows, where that is one opaque colour,
-/// of the background or of a rectangle below the group, or is left out where the same path then fills it with
-/// one. Any other hole, as on a translucent background, makes pixels of the whole page.
+/// of the background or of a rectangle below the group (overlay in the hole then meets that colour), or is
+/// left out where the same path then fills it with one. Any other hole, as on a translucent background, makes
+/// pixels of the whole page.
 ///
 /// The shapes of a PNG are kept as pixels between the pictures drawn in the same thread, so that a view drawn
 /// again takes a fraction of its first time; whether a shape was kept makes no difference to the pixels.
@@ -51,7 +52,8 @@ class CairoCanvas final : public Canvas {
   /// The first error so far; none while all is well.
   std::optional<PictureError> error() const;
 
-  /// Ends the picture, saves and groups left open included, and writes it. Draw nothing afterwards.
+  /// Ends the picture, saves and groups left open included, and writes it. Draw nothing afterwards;
+  /// write as often as needed.
   std::optional<PictureError> write(std::ostream& output);
 
   /// The same into a file, which is replaced in one step when the whole picture is written; on an error a

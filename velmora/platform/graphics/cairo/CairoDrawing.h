@@ -101,6 +101,10 @@ class [[gnu::visibility("hidden")]] CairoCanvas::Drawing {
   void popState();
   void cover(const Path& path, const Rect& box);
   bool isWorthKeeping(const Path& path) const;
+  /// Draws without keeping the pixels.
+  void drawOnce(const Rect& box, const std::function<void()>& draw);
+  /// Draws by way of pixels in a picture that has none.
+  void drawOverlay(const Rect& box, const std::function<void()>& draw);
   void place(const Shape& shape);
   ShapeKey keyInPlace(const Shape& shape, const Rect& pixels) const;
   CairoSurface makePixels(const Shape& shape, const Rect& pixels);

@@ -34,10 +34,9 @@ CairoSurface surfaceOf(const Image& image) {
             height = static_cast<int>(image.pixelSize().height);
   CairoSurface surface(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, height));
   if (cairo_surface_status(surface.get()) != CAIRO_STATUS_SUCCESS) return surface;
-  const std::uint8_t* pixel = pixels.data();
+  const std::size_t rowSize = static_cast<std::size_t>(width) * 4;
   for (int y = 0; y < height; ++y) {
-    std::uint32_t* const target = row(surface.get(), y);
-    for (int x = 0; x < width; ++x, pixel += 4) target[x] = packed(pixel);
+    setRow(surface.get(), y, pixels.data() + rowSize * static_cast<std::size_t>(y));
   }
   cairo_surface_mark_dirty(surface.get());
   return surface;
@@ -64,6 +63,12 @@ void copyRow(cairo_surface_t* surface, int y, std::uint8_t* rgba) {
   const std::uint32_t* const source = row(surface, y);
   const int width = cairo_image_surface_get_width(surface);
   for (int x = 0; x < width; ++x, rgba += 4) unpack(source[x], rgba);
+}
+
+void setRow(cairo_surface_t* surface, int y, const std::uint8_t* rgba) {
+  std::uint32_t* const target = row(surface, y);
+  const int width = cairo_image_surface_get_width(surface);
+  for (int x = 0; x < width; ++x, rgba += 4) target[x] = packed(rgba);
 }
 
 std::vector<std::uint8_t> bytesOfSurface(cairo_surface_t* surface) {

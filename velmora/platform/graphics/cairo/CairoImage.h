@@ -15,6 +15,7 @@ void paintImage(cairo_t* context, const Image& image, const Rect& rect, double a
 
 /// One row of pixels of an image surface, each as red, green, blue, alpha of 8 bits, premultiplied.
 void copyRow(cairo_surface_t* surface, int y, std::uint8_t* rgba);
+void setRow(cairo_surface_t* surface, int y, const std::uint8_t* rgba);
 
 /// The pixels of an image surface as red, green, blue, alpha of 8 bits, premultiplied.
 std::vector<std::uint8_t> bytesOfSurface(cairo_surface_t* surface);

@@ -9,6 +9,7 @@
 #include <velmora/platform/graphics/cairo/CairoDrawing.h>
 #include <velmora/platform/graphics/cairo/CairoImage.h>
 #include <velmora/platform/graphics/cairo/CairoPath.h>
+#include <velmora/platform/graphics/cairo/OverlayPixels.h>
 #include <velmora/platform/graphics/cairo/ShapeCache.h>
 
 namespace velmora {
@@ -127,7 +128,7 @@ void CairoCanvas::Drawing::cover(const Path& path, const Rect& box) {
     setPath(context(), path);
     cairo_fill(context());
   };
-  if (!isWorthKeeping(path)) return draw();
+  if (!isWorthKeeping(path)) return drawOnce(box, draw);
   place({keyOf(Kind::fill), outlineInPixels(context(), path), box, CAIRO_CONTENT_ALPHA, draw});
 }
 
@@ -142,7 +143,7 @@ void CairoCanvas::Drawing::stroke(const Path& path) {
     setPath(context(), path);
     cairo_stroke(context());
   };
-  if (!isWorthKeeping(path)) return draw();
+  if (!isWorthKeeping(path)) return drawOnce(reached, draw);
   ShapeKey key = keyOf(Kind::stroke);
   key.add(width);
   const std::vector<double> dashes = dashesOf(context());
@@ -155,7 +156,7 @@ void CairoCanvas::Drawing::drawGlyphs(const GlyphRun& run, std::uint64_t lineSer
   const Rect box = inkBox(context(), run);
   setPaint(run.color);
   notePaint(box);
-  if (format != PictureFormat::png) return showCharacters(context(), run);
+  if (format != PictureFormat::png) return drawOnce(box, [&] { showCharacters(context(), run); });
   ShapeKey key = keyOf(Kind::glyphs);
   key.add(lineSerial);
   key.add(run.first);
@@ -175,12 +176,30 @@ void CairoCanvas::Drawing::drawImage(const Image& image, const Rect& rect) {
   setPaint(Color::black());
   notePaint(rect);
   const auto draw = [&] { paintImage(context(), image, rect, alpha); };
-  if (format != PictureFormat::png) return draw();
+  if (format != PictureFormat::png) return drawOnce(rect, draw);
   ShapeKey key = keyOf(Kind::image);
   key.add(image.serial());
   key.add(rect);
   key.add(alpha);
   place({key, {}, rect, CAIRO_CONTENT_COLOR_ALPHA, draw});
+}
+
+void CairoCanvas::Drawing::drawOnce(const Rect& box, const std::function<void()>& draw) {
+  const bool isOverlay = cairo_get_operator(context()) == CAIRO_OPERATOR_OVERLAY;
+  if (format != PictureFormat::png && isOverlay) return drawOverlay(box, draw);
+  draw();
+}
+
+void CairoCanvas::Drawing::drawOverlay(const Rect& box, const std::function<void()>& draw) {
+  const Rect area = visiblePixels(box);
+  if (area.isEmpty()) return;
+  const CairoSurface backdrop(cairo_surface_reference(cairo_get_group_target(context())));
+  cairo_set_operator(context(), CAIRO_OPERATOR_OVER);
+  cairo_push_group(context());
+  const CairoSurface paint(cairo_surface_reference(cairo_get_group_target(context())));
+  draw();
+  cairo_pattern_destroy(cairo_pop_group(context()));
+  layDown(overlaid(paint.get(), backdrop.get(), area).get(), CAIRO_CONTENT_COLOR_ALPHA, area.origin());
 }
 
 /// Draws the shape by way of its pixels, unless it is large.

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <velmora/platform/graphics/Geometry.h>
+#include <velmora/platform/graphics/cairo/CairoHandles.h>
+
+namespace [[gnu::visibility("hidden")]] velmora {
+
+/// What overlay makes of the paint over the backdrop within the area, as pixels that look the same when they
+/// are laid over the backdrop as normal: four a point, as fine as print. For SVG, which has no overlay, and
+/// for PDF, whose own came out in other colours than those of a PNG.
+CairoSurface overlaid(cairo_surface_t* paint, cairo_surface_t* backdrop, const Rect& area);
+
+}  // namespace velmora
