@@ -162,9 +162,38 @@ TEST_F(DrawTest, TitleNamesThePlaceAndTheMonthInTheLanguage) {
             picture({"month", "--locale", "fr_CA", "--date", "2024-07-20", "--size", "390x596"}).pixels());
 }
 
-TEST_F(DrawTest, AVectorPictureOfAMonthHoldsNoPixels) {
-  for (const char* view : {"disc", "month"})
-    EXPECT_EQ(bytesOf(draw({view}, "picture.svg")).find("<image"), std::string::npos) << view;
+int countOf(const std::string& part, const std::string& text) {
+  int count = 0;
+  for (std::size_t at = text.find(part); at != std::string::npos; at = text.find(part, at + 1)) ++count;
+  return count;
+}
+
+TEST_F(DrawTest, AVectorPictureHoldsNoPixels) {
+  const std::vector<std::vector<std::string>> pictures = {{"disc"},    {"disc", "--theme", "default"},
+                                                          {"month"},   {"month", "--theme", "default"},
+                                                          {"year"},    {"compass"},
+                                                          {"azel"},    {"chart"},
+                                                          {"timeline"}};
+  for (std::vector<std::string> arguments : pictures) {
+    arguments.insert(arguments.end(), {"--date", "2024-03-16"});
+    EXPECT_EQ(countOf("<image", bytesOf(draw(arguments, "picture.svg"))), 0) << arguments[0];
+    EXPECT_EQ(countOf("/Subtype /Image", bytesOf(draw(arguments, "picture.pdf"))), 0) << arguments[0];
+  }
+}
+
+TEST_F(DrawTest, AVectorPictureMayBeAsLargeAsAnyOther) {
+  for (const char* name : {"picture.svg", "picture.pdf"}) {
+    draw({"riseset", "--size", "390x16384", "--date", "2024-03-16"}, name);
+    draw({"month", "--theme", "default", "--size", "16384x16384"}, name);
+  }
+}
+
+TEST_F(DrawTest, AVectorPictureOfRiseAndSetHoldsPixelsOfTheIconsAlone) {
+  const std::vector<std::string> march = {"riseset", "--date", "2024-03-16"};
+  const std::string svg = bytesOf(draw(march, "picture.svg"));
+  EXPECT_EQ(countOf("<image", svg), 121) << "two of the Sun a day, two of the Moon less one";
+  EXPECT_GT(countOf("<path", svg), 31 * 8);
+  EXPECT_GT(countOf("/Font", bytesOf(draw(march, "picture.pdf"))), 0);
 }
 
 TEST_F(DrawTest, DiscIsLitOnTheOtherSideSouthOfTheEquator) {

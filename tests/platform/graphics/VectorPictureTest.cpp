@@ -302,6 +302,15 @@ TEST(VectorPicture, AnImageIsOneElementOfAnSvg) {
   EXPECT_EQ(svg.find("<image"), svg.rfind("<image"));
 }
 
+TEST(VectorPicture, ALongPageThatCannotStayVectorIsDrawnAsWell) {
+  for (const PictureFormat format : {PictureFormat::svg, PictureFormat::pdf}) {
+    CairoCanvas canvas(format, {16384, 4});
+    canvas.fillRect({0, 0, 16384, 4});
+    canvas.clearRect({1, 1, 2, 2});
+    EXPECT_TRUE(holdsImage(written(canvas)));
+  }
+}
+
 TEST(VectorPicture, ClearingWhatIsStillBlankLeavesNoTraceInSvg) {
   CairoCanvas canvas(PictureFormat::svg, {100, 50}, 1, Color::black());
   canvas.fillRect({0, 0, 40, 50});

@@ -3,6 +3,7 @@
 #include <cairo-pdf.h>
 #include <cairo-svg.h>
 
+#include <algorithm>
 #include <cmath>
 #include <ostream>
 
@@ -18,6 +19,14 @@ cairo_status_t writeBytes(void* output, const unsigned char* bytes, unsigned int
   return stream ? CAIRO_STATUS_SUCCESS : CAIRO_STATUS_WRITE_ERROR;
 }
 
+/// In dots an inch of 72 points, of a page that cannot stay vector: as fine as print, but no more pixels a
+/// side than a PNG may have.
+double resolutionOfPixels(Size size) {
+  constexpr double print = 300, pointsAnInch = 72;
+  const double longest = std::max(size.width, size.height);
+  return std::min(print, pointsAnInch * static_cast<double>(CairoCanvas::maximumSide) / longest);
+}
+
 CairoSurface makePage(PictureFormat format, Size size, std::ostream& output) {
   if (format == PictureFormat::pdf) {
     return CairoSurface(cairo_pdf_surface_create_for_stream(writeBytes, &output, size.width, size.height));
@@ -30,6 +39,8 @@ CairoSurface makePage(PictureFormat format, Size size, std::ostream& output) {
 cairo_status_t encodePage(PictureFormat format, cairo_surface_t* recorded, Size size, const Color& background,
                           std::ostream& output) {
   const CairoSurface page = makePage(format, size, output);
+  const double resolution = resolutionOfPixels(size);
+  cairo_surface_set_fallback_resolution(page.get(), resolution, resolution);
   CairoContext context(cairo_create(page.get()));
   if (background.alpha > 0) {
     setSource(context.get(), background);
