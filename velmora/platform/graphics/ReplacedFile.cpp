@@ -32,11 +32,14 @@ fs::path unusedNameIn(const fs::path& folder) {
   return folder / (".velmora-" + std::to_string(std::random_device{}()) + ".part");
 }
 
-/// The file itself where the path is a link to it.
-fs::path withoutLinks(const fs::path& path) {
+/// Where the path leads if it is a link, whether or not there is a file yet.
+fs::path withoutLinks(fs::path path) {
+  constexpr int mostLinks = 40;  // as many as Linux follows
   std::error_code error;
-  const fs::path target = fs::weakly_canonical(path, error);
-  return error ? path : target;
+  for (int links = 0; links < mostLinks && fs::is_symlink(fs::symlink_status(path, error)); ++links) {
+    path = path.parent_path() / fs::read_symlink(path, error);
+  }
+  return path;
 }
 
 }  // namespace
@@ -44,14 +47,15 @@ fs::path withoutLinks(const fs::path& path) {
 std::optional<std::string> replaceFile(const fs::path& path,
                                        const std::function<bool(std::ostream&)>& write) {
   std::error_code error;
-  const fs::path target = withoutLinks(path);
-  const fs::file_status former = fs::status(target, error);
+  const fs::file_status former = fs::status(path, error);
+  if (former.type() == fs::file_type::none) return error.message();
   if (fs::is_directory(former)) return std::generic_category().message(EISDIR);
-  if (fs::exists(former) && !fs::is_regular_file(former)) return writeInPlace(target, write);
+  if (fs::exists(former) && !fs::is_regular_file(former)) return writeInPlace(path, write);
 
   std::ostringstream bytes;
   if (!write(bytes)) return std::string("its content cannot be made");
   const HeldSignals noPartIsLeft;
+  const fs::path target = withoutLinks(path);
   const fs::path part = unusedNameIn(target.parent_path());
   std::optional<std::string> failure =
       writeInPlace(part, [&](std::ostream& file) { return bool(file << bytes.str()); });
