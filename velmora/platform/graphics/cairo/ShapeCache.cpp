@@ -7,10 +7,10 @@ namespace {
 
 // In bytes. A month at three pixels a point takes some 2 MB.
 constexpr std::size_t room = 16 << 20;
-constexpr std::size_t bytesOfSurface = 1000;  // beside its pixels, with its place in the table
+constexpr std::size_t overhead = 1000;  // beside its pixels, with its place in the table
 
 std::size_t bytesOf(const ShapeKey& key, cairo_surface_t* pixels) {
-  return bytesOfSurface + key.bytes().size() +
+  return overhead + key.bytes().size() +
          static_cast<std::size_t>(cairo_image_surface_get_stride(pixels)) *
              static_cast<std::size_t>(cairo_image_surface_get_height(pixels));
 }
