@@ -9,18 +9,24 @@
 namespace velmora::app {
 namespace {
 
+/// A whole number where it is one.
+Json number(double side) {
+  const auto whole = static_cast<std::int64_t>(side);
+  return static_cast<double>(whole) == side ? Json(whole) : Json(side);
+}
+
 Json json(const Query& query) {
   const Picture picture = drawing().picture(query);
   return {{"view", std::string(picture.view.name)},
           {"output", picture.file},
-          {"width", picture.width},
-          {"height", picture.height}};
+          {"width", number(picture.size.width)},
+          {"height", number(picture.size.height)}};
 }
 
 std::string text(const Query& query) {
   const Picture picture = drawing().picture(query);
-  return "Wrote " + picture.file + ", " + std::to_string(picture.width) + " x " +
-         std::to_string(picture.height) + " " + picture.unit + "\n";
+  return "Wrote " + picture.file + ", " + number(picture.size.width).dump() + " x " +
+         number(picture.size.height).dump() + " " + picture.unit + "\n";
 }
 
 std::string viewsThatTake(std::string_view option) {

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cctype>
-#include <cmath>
 #include <filesystem>
 
 #include <app/Days.h>
@@ -158,10 +157,7 @@ Picture drawPicture(const Query& query) {
   warnOfUncovered(canvas);
   write(canvas, file);
 
-  const bool isPng = format == PictureFormat::png;
-  const double unit = isPng ? drawing.scale : 1;
-  return {view, file, std::lround(layout.size.width * unit), std::lround(layout.size.height * unit),
-          isPng ? "pixels" : "points"};
+  return {view, file, canvas.size(), format == PictureFormat::png ? "pixels" : "points"};
 }
 
 }  // namespace velmora::app

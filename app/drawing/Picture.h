@@ -1,10 +1,10 @@
 #pragma once
 
-#include <cstdint>
 #include <string>
 
 #include <app/commands/Command.h>
 #include <app/drawing/DrawableView.h>
+#include <velmora/platform/graphics/Geometry.h>
 
 namespace velmora::app {
 
@@ -12,8 +12,8 @@ namespace velmora::app {
 struct Picture {
   const DrawableView& view;
   std::string file;
-  std::int64_t width, height;  ///< in pixels of a PNG, else in points
-  std::string unit;            ///< "pixels" or "points"
+  Size size;         ///< in pixels of a PNG, else in points
+  std::string unit;  ///< "pixels" or "points"
 };
 
 /// Draws what the request asks for into its file. Characters that no installed font has are named in the log.

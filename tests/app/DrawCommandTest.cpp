@@ -72,6 +72,10 @@ TEST_F(DrawTest, SaysWhatItWrote) {
   const std::string svg = path("month.svg");
   EXPECT_EQ(answer({"draw", "month", "--size", "300x400", "--scale", "2", "-o", svg}),
             "Wrote " + svg + ", 300 x 400 points\n");
+  EXPECT_EQ(answer({"draw", "month", "--size", "300.5x400", "--output", svg}),
+            "Wrote " + svg + ", 300.5 x 400 points\n");
+  EXPECT_EQ(json({"draw", "month", "--size", "300.5x400", "--output", svg})["width"], 300.5);
+  EXPECT_EQ(statedSize(svg), (Size{300.5, 400}));
 }
 
 TEST_F(DrawTest, UsualSizes) {

@@ -53,7 +53,13 @@ TEST(Picture, APngHasItsSizeTimesTheScale) {
     const auto image = decoded(written(canvas));
     ASSERT_NE(image, nullptr);
     EXPECT_EQ(image->pixelSize(), (PixelSize{side, side})) << scale;
+    EXPECT_EQ(canvas.size(), (Size{static_cast<double>(side), static_cast<double>(side)})) << scale;
   }
+}
+
+TEST(Picture, AVectorHasItsSizeInPointsWhateverTheScale) {
+  EXPECT_EQ(CairoCanvas(PictureFormat::svg, {10.5, 20}, 3).size(), (Size{10.5, 20}));
+  EXPECT_EQ(CairoCanvas(PictureFormat::pdf, {10.5, 20}, 3).size(), (Size{10.5, 20}));
 }
 
 TEST(Picture, TheBackgroundLiesUnderEverythingAndCannotBeCleared) {
@@ -236,6 +242,26 @@ TEST_F(PictureFile, ReplacesWhatALinkPointsAt) {
   EXPECT_EQ(canvas.writeFile(_folder / "link.png"), std::nullopt);
   EXPECT_TRUE(fs::is_symlink(_folder / "link.png"));
   EXPECT_NE(contents(_folder / "moon.png"), "former");
+}
+
+TEST_F(PictureFile, IsMadeWhereALinkPointsThoughNothingIsThereYet) {
+  fs::create_directory(_folder / "pictures");
+  fs::create_symlink("pictures/link.png", _folder / "link.png");
+  fs::create_symlink("../moon.png", _folder / "pictures" / "link.png");
+  EXPECT_EQ(canvas.writeFile(_folder / "link.png"), std::nullopt);
+  EXPECT_TRUE(fs::is_symlink(_folder / "link.png"));
+  EXPECT_TRUE(fs::is_symlink(_folder / "pictures" / "link.png"));
+  EXPECT_TRUE(fs::is_regular_file(fs::symlink_status(_folder / "moon.png")));
+}
+
+TEST_F(PictureFile, LinksInACircleAreAnErrorAndStay) {
+  fs::create_symlink("one.png", _folder / "other.png");
+  fs::create_symlink("other.png", _folder / "one.png");
+  const auto failure = canvas.writeFile(_folder / "one.png");
+  ASSERT_TRUE(failure);
+  EXPECT_EQ(failure->message, "the picture cannot be written: " + systemText(ELOOP));
+  EXPECT_TRUE(fs::is_symlink(_folder / "one.png"));
+  EXPECT_EQ(fileCount(), 2U);
 }
 
 TEST_F(PictureFile, AFormerOneStaysWholeWhenDrawingFailed) {

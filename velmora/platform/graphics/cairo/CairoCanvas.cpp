@@ -34,6 +34,13 @@ CairoCanvas::~CairoCanvas() = default;
 CairoCanvas::CairoCanvas(CairoCanvas&&) noexcept = default;
 CairoCanvas& CairoCanvas::operator=(CairoCanvas&&) noexcept = default;
 
+Size CairoCanvas::size() const {
+  if (_drawing->format != PictureFormat::png) return _drawing->size;
+  cairo_surface_t* const pixels = _drawing->surface();
+  return {static_cast<double>(cairo_image_surface_get_width(pixels)),
+          static_cast<double>(cairo_image_surface_get_height(pixels))};
+}
+
 std::optional<PictureError> CairoCanvas::error() const {
   if (_drawing->sizeError) return _drawing->sizeError;
   const cairo_status_t status = cairo_status(_drawing->context());

@@ -49,6 +49,9 @@ class CairoCanvas final : public Canvas {
   CairoCanvas(CairoCanvas&&) noexcept;
   CairoCanvas& operator=(CairoCanvas&&) noexcept;
 
+  /// Width and height: whole pixels of a PNG, points of SVG and PDF.
+  Size size() const;
+
   /// The first error so far; none while all is well.
   std::optional<PictureError> error() const;
 
