@@ -261,6 +261,12 @@ TEST_F(CanvasPixelsTest, ClipsAddUp) {
   EXPECT_EQ(picture.inkBox(), (Rect{8, 0, 4, 20}));
 }
 
+TEST_F(CanvasPixelsTest, ClipsMayBeVeryMany) {
+  for (int i = 0; i < 300'000; ++i) canvas.clip(Path::rect({0, 0, 12, 20}));
+  canvas.fillRect(whole);
+  EXPECT_EQ(picture.inkBox(), (Rect{0, 0, 12, 20}));
+}
+
 TEST_F(CanvasPixelsTest, AnEmptyClipHidesEverything) {
   canvas.clip(Path());
   canvas.fillRect(whole);

@@ -22,7 +22,12 @@ class [[gnu::visibility("hidden")]] CairoCanvas::Drawing {
   struct Clip {
     OutlineInPixels outline;
     std::optional<Rect> rectangle;  ///< in pixels, if it is one with upright edges
-    std::shared_ptr<const Clip> outer;
+    std::shared_ptr<Clip> outer;
+
+    // One after the other: each from within the one before takes too much of the stack.
+    ~Clip() {
+      while (outer.use_count() == 1) outer = std::move(outer->outer);
+    }
   };
 
   struct State {
@@ -32,9 +37,9 @@ class [[gnu::visibility("hidden")]] CairoCanvas::Drawing {
     Color fill = Color::black();
     double alpha = 1;
     BlendMode blendMode = BlendMode::normal;
-    bool isCollapsed = false;          ///< the frame has no area: nothing shows
-    std::shared_ptr<const Clip> clip;  ///< the innermost one
-    std::optional<double> layer;       ///< the alpha of a group's own layer
+    bool isCollapsed = false;     ///< the frame has no area: nothing shows
+    std::shared_ptr<Clip> clip;   ///< the innermost one
+    std::optional<double> layer;  ///< the alpha of a group's own layer
   };
 
   Drawing(PictureFormat format, Size size, double scale, Color background);

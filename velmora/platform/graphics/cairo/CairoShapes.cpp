@@ -77,7 +77,7 @@ bool CairoCanvas::Drawing::isWorthKeeping(const Path& path) const {
 
 void CairoCanvas::Drawing::clip(const Path& path) {
   finishPendingClear();
-  state().clip = std::make_shared<const Clip>(
+  state().clip = std::make_shared<Clip>(
       Clip{outlineInPixels(context(), path), uprightRectangle(frameOf(context()), path), state().clip});
   setPath(context(), path);
   cairo_clip(context());
