@@ -7,7 +7,7 @@
 
 #include <velmora/platform/graphics/cairo/CairoImage.h>
 
-namespace velmora {
+namespace [[gnu::visibility("hidden")]] velmora {
 namespace {
 
 constexpr double pixelsAPoint = 4;
