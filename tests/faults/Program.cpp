@@ -27,6 +27,11 @@ void changeEnvironment(const Start& start) {
   }
 }
 
+/// A program started in the background, as by nohup, hands down signals that it was told to ignore.
+void heedSignals() {
+  for (const int number : {SIGHUP, SIGINT, SIGTERM}) ::signal(number, SIG_DFL);
+}
+
 [[noreturn]] void execute(const std::vector<std::string>& arguments) {
   std::vector<char*> list = {const_cast<char*>(VELMORA_PROGRAM)};
   for (const std::string& argument : arguments) list.push_back(const_cast<char*>(argument.c_str()));
@@ -61,6 +66,7 @@ End runProcess(const Start& start) {
   const std::string out = folder.write("out", "").string(), err = folder.write("err", "").string();
   const pid_t process = forked();
   if (process == 0) {
+    heedSignals();
     redirect(STDIN_FILENO, in, O_RDONLY);
     redirect(STDOUT_FILENO, out, O_WRONLY);
     redirect(STDERR_FILENO, err, O_WRONLY);
@@ -78,6 +84,7 @@ RunningProgram::RunningProgram(const std::vector<std::string>& arguments) {
     throw std::runtime_error("no pipe can be made");
   _process = forked();
   if (_process == 0) {
+    heedSignals();
     dup2(input[0], STDIN_FILENO);
     dup2(output[1], STDOUT_FILENO);
     execute(arguments);
