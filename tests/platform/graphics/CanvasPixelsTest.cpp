@@ -1,8 +1,6 @@
 #include <gtest/gtest.h>
-#include <pthread.h>
 
 #include <cmath>
-#include <functional>
 #include <memory>
 #include <numbers>
 #include <sstream>
@@ -256,45 +254,6 @@ TEST_F(CanvasPixelsTest, AFrameThatHasNoAreaShowsNothingUntilItIsRestored) {
   EXPECT_EQ(canvas.error(), std::nullopt);
 }
 
-TEST_F(CanvasPixelsTest, ClipsAddUp) {
-  canvas.clip(Path::rect({0, 0, 12, 20}));
-  canvas.clip(Path::rect({8, 0, 12, 20}));
-  canvas.fillRect(whole);
-  EXPECT_EQ(picture.inkBox(), (Rect{8, 0, 4, 20}));
-}
-
-/// Runs the work in a thread with a stack of so many bytes.
-void runOnStack(std::size_t bytes, std::function<void()> work) {
-  const auto call = [](void* function) -> void* {
-    (*static_cast<std::function<void()>*>(function))();
-    return nullptr;
-  };
-  pthread_attr_t attributes;
-  pthread_attr_init(&attributes);
-  pthread_attr_setstacksize(&attributes, bytes);
-  pthread_t thread;
-  ASSERT_EQ(pthread_create(&thread, &attributes, call, &work), 0);
-  pthread_join(thread, nullptr);
-  pthread_attr_destroy(&attributes);
-}
-
-TEST_F(CanvasPixelsTest, ClipsMayBeVeryMany) {
-  constexpr std::size_t smallStack = 256 << 10;
-  runOnStack(smallStack, [this] {
-    canvas.save();
-    for (int i = 0; i < 10'000; ++i) canvas.clip(Path::rect({0, 0, 12, 20}));
-    canvas.fillRect(whole);
-    canvas.restore();
-  });
-  EXPECT_EQ(picture.inkBox(), (Rect{0, 0, 12, 20}));
-}
-
-TEST_F(CanvasPixelsTest, AnEmptyClipHidesEverything) {
-  canvas.clip(Path());
-  canvas.fillRect(whole);
-  EXPECT_EQ(picture.coverage(), 0);
-}
-
 TEST_F(CanvasPixelsTest, AGroupBesideWhatIsPaintedClearsOnlyItself) {
   canvas.setFillColor(red);
   canvas.fillRect({0, 0, 10, 20});
@@ -309,17 +268,6 @@ TEST_F(CanvasPixelsTest, AGroupBesideWhatIsPaintedClearsOnlyItself) {
   EXPECT_EQ(picture.at(7, 10), "#FF0000FF");
   EXPECT_EQ(picture.at(12, 10), "#00000000");
   EXPECT_EQ(picture.at(17, 10), "#0000FFFF");
-}
-
-TEST_F(CanvasPixelsTest, TheSoftEdgeOfAClipAroundAGroupCountsOnce) {
-  canvas.clip(Path::rect({2.5, 0, 10, 20}));
-  canvas.beginGroup(0.5);
-  canvas.fillRect(whole);
-  canvas.fillEllipse({-20, -20, 60, 60});
-  canvas.endGroup();
-  EXPECT_EQ(picture.at(2, 10), "#00000040");
-  EXPECT_EQ(picture.at(8, 10), "#00000080");
-  EXPECT_EQ(picture.at(12, 10), "#00000040");
 }
 
 TEST_F(CanvasPixelsTest, AGroupIsLaidDownAsOne) {
