@@ -27,6 +27,7 @@ void changeWhileOthersRead(Set set, Read isOneOfThoseSet) {
 }
 
 TEST(ManyThreads, ReadADefaultZoneThatAnotherChanges) {
+  const ScopedLocale locale("en_US");
   const ScopedDefaultTimeZone zone("Asia/Tokyo");
   changeWhileOthersRead(
       [](bool first) { TimeZone::setDefault(TimeZone::named(first ? "Asia/Kathmandu" : "Asia/Tokyo")); },
