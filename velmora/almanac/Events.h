@@ -1,0 +1,108 @@
+#pragma once
+
+#include <chrono>
+#include <optional>
+#include <vector>
+
+#include <velmora/almanac/Place.h>
+#include <velmora/ephemeris/Ephemeris.h>
+#include <velmora/platform/time/Instant.h>
+#include <velmora/platform/time/TimeZone.h>
+
+/// What happens in the sky of a place. Start here: `day`.
+namespace velmora::almanac {
+
+using ephemeris::Body;
+
+enum class EventKind {
+  rise,
+  set,
+  transit,
+  civilDawn,
+  civilDusk,
+  nauticalDawn,
+  nauticalDusk,
+  astronomicalDawn,
+  astronomicalDusk,
+};
+
+/// Something that a body does at an instant. Twilight is the Sun's.
+struct Event {
+  Instant at{};
+  Body body = Body::sun;
+  EventKind kind = EventKind::rise;
+  double azimuth = 0.0;   ///< degrees [0, 360), north is zero and east is +90°
+  double altitude = 0.0;  ///< apparent (refracted) altitude of the centre, degrees
+
+  friend bool operator==(const Event&, const Event&) = default;
+};
+
+/// Whether a body stays on one side of the horizon, for all of an interval.
+enum class AllDay { no, up, down };
+
+/// What happens in the half-open interval [start, end).
+struct Day {
+  Instant start{}, end{};
+  std::vector<Event> events;  ///< in time order, of the kinds asked for
+  AllDay sun = AllDay::no;
+  AllDay moon = AllDay::no;
+  Seconds daylight{};  ///< for which the Sun is up
+  Seconds darkness{};  ///< for which the Sun's centre is below −18°
+
+  friend bool operator==(const Day&, const Day&) = default;
+};
+
+/// Which events to find besides rise and set of both bodies; those left out cost nothing. Without
+/// `astronomicalTwilight` a day's darkness is still right.
+struct EventChoice {
+  bool twilight = true;  ///< the three of them
+  bool transits = true;
+
+  friend bool operator==(const EventChoice&, const EventChoice&) = default;
+};
+
+/// The events of [start, end), of any length up to 200 years; none for a place or an interval that is not
+/// valid or not covered.
+std::optional<Day> day(const Place& place, Instant start, Instant end, const EventChoice& choice = {},
+                       const Convention& convention = {});
+
+/// The events of a civil day: from its first instant in the zone to the next day's, 23, 24, 24.5 or 25 hours.
+/// None for a day that the zone's clocks skipped whole, too.
+std::optional<Day> day(const Place& place, const TimeZone& zone, std::chrono::year_month_day date,
+                       const EventChoice& choice = {}, const Convention& convention = {});
+
+/// The days from `first` to `last`, both included, quicker for each than one alone; days that the zone's
+/// clocks skipped are left out. Empty where one is not covered.
+std::vector<Day> days(const Place& place, const TimeZone& zone, std::chrono::year_month_day first,
+                      std::chrono::year_month_day last, const EventChoice& choice = {},
+                      const Convention& convention = {});
+
+/// The events of [start, end) at many places: the paths of the bodies are prepared once. `paths` must cover
+/// the interval.
+std::optional<Day> day(const ephemeris::Paths& paths, const Place& place, Instant start, Instant end,
+                       const EventChoice& choice = {}, const Convention& convention = {});
+
+/// The first and the last instant of a civil day in the zone, as [start, end); none for a skipped day.
+struct Interval {
+  Instant start{}, end{};
+  friend bool operator==(const Interval&, const Interval&) = default;
+};
+std::optional<Interval> civilDay(const TimeZone& zone, std::chrono::year_month_day date);
+
+/// When the centre of a body passes an altitude.
+struct Crossing {
+  Instant at{};
+  double azimuth = 0.0;   ///< degrees [0, 360)
+  bool isRising = false;  ///< upward
+  friend bool operator==(const Crossing&, const Crossing&) = default;
+};
+
+/// Every passage of the apparent (refracted) altitude, degrees −90..90, in [from, to), in time order; empty
+/// for what is not valid or not covered.
+std::vector<Crossing> crossings(const Place& place, Body body, double altitude, Instant from, Instant to);
+
+/// The first such event after the instant within a year; none if there is none.
+std::optional<Event> next(const Place& place, Body body, EventKind kind, Instant after,
+                          const Convention& convention = {});
+
+}  // namespace velmora::almanac

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <vector>
+
+#include <velmora/platform/time/Instant.h>
+
+namespace velmora::almanac {
+
+enum class PrincipalPhase { newMoon, firstQuarter, fullMoon, lastQuarter };
+
+/// The instant at which the apparent longitudes of Moon and Sun differ by a whole number of quarters.
+struct PhaseEvent {
+  Instant at{};
+  PrincipalPhase phase = PrincipalPhase::newMoon;
+  friend bool operator==(const PhaseEvent&, const PhaseEvent&) = default;
+};
+
+/// The principal phases in [from, to), in time order; the interval is cut to the years covered.
+std::vector<PhaseEvent> phases(Instant from, Instant to);
+
+/// The Moon nearest to or farthest from the centre of the Earth.
+struct Apsis {
+  Instant at{};
+  bool isPerigee = false;
+  double distance = 0.0;  ///< km
+  friend bool operator==(const Apsis&, const Apsis&) = default;
+};
+
+/// The apsides of the Moon in [from, to), in time order; cut as above.
+std::vector<Apsis> apsides(Instant from, Instant to);
+
+enum class Season { marchEquinox, juneSolstice, septemberEquinox, decemberSolstice };
+
+/// The instant at which the Sun's apparent longitude is a whole number of quarters.
+struct SeasonEvent {
+  Instant at{};
+  Season season = Season::marchEquinox;
+  friend bool operator==(const SeasonEvent&, const SeasonEvent&) = default;
+};
+
+/// The beginnings of the seasons in [from, to), in time order; cut as above.
+std::vector<SeasonEvent> seasons(Instant from, Instant to);
+
+}  // namespace velmora::almanac

@@ -1,0 +1,31 @@
+#pragma once
+
+namespace velmora::almanac {
+
+/// A point of the Earth to look from.
+struct Place {
+  double latitude = 0.0;   ///< geodetic, degrees −90..90, north positive
+  double longitude = 0.0;  ///< degrees −180..180, east positive
+  double height = 0.0;     ///< metres above the horizon around, 0 or more: lowers the horizon by the dip
+
+  friend bool operator==(const Place&, const Place&) = default;
+};
+
+/// Whether every number of the place is finite and within its range. What is asked for any other place is
+/// answered by none.
+bool isValid(const Place& place);
+
+/// What people do not agree on: when a body counts as risen. As it stands, what national almanac offices
+/// print.
+struct Convention {
+  /// The point of the disc that rises.
+  enum class Limb { upper, center, lower };
+
+  Limb limb = Limb::upper;
+  double horizonRefraction = 34.0 / 60.0;  ///< degrees, at the horizon
+  double sunSemidiameter = 16.0 / 60.0;    ///< degrees, the Sun's at every distance; the Moon's is true
+
+  friend bool operator==(const Convention&, const Convention&) = default;
+};
+
+}  // namespace velmora::almanac
