@@ -8,6 +8,7 @@
 #include <regex>
 #include <set>
 #include <sstream>
+#include <string_view>
 
 #include "tests/support/SourceDirectory.h"
 
@@ -96,6 +97,7 @@ SourceFile sourceFile(const std::string& text) {
   for (std::string line; std::getline(lines, line); ++file.lineCount) {
     if (line.starts_with(hiddenNamespace)) file.isInternal = true;
     if (std::regex_match(line, match, include)) file.includes.push_back(match[1]);
+    if (line.find("/ Kept: ") != std::string::npos) file.hasKeptOddity = true;
   }
   return file;
 }
@@ -158,6 +160,18 @@ std::vector<std::string> longFiles(const SourceTree& tree) {
     if (file.lineCount > mostLines) {
       breaches.push_back(path + " has " + std::to_string(file.lineCount) + " lines");
     }
+  }
+  return breaches;
+}
+
+std::vector<std::string> wronglyListedAsKept(const SourceTree& tree, const std::string& page) {
+  std::vector<std::string> breaches;
+  for (const auto& [path, file] : tree) {
+    constexpr std::string_view library = "velmora/";
+    if (!path.starts_with(library)) continue;
+    const bool isListed = page.find("`" + path.substr(library.size()) + "`") != std::string::npos;
+    if (file.hasKeptOddity && !isListed) breaches.push_back(path + " is missing");
+    if (!file.hasKeptOddity && isListed) breaches.push_back(path + " is listed");
   }
   return breaches;
 }

@@ -10,7 +10,8 @@ namespace velmora::testing {
 struct SourceFile {
   std::vector<std::string> includes;  ///< of headers of the project, the path from its root
   int lineCount = 0;
-  bool isInternal = false;  ///< a header of the library that is not installed
+  bool isInternal = false;     ///< a header of the library that is not installed
+  bool hasKeptOddity = false;  ///< a comment that begins with "Kept:"
 };
 
 /// Source files by their path from the project's root: "velmora/views/PhaseDisc.h".
@@ -35,5 +36,8 @@ std::vector<std::string> thirdPartyOutsideAdapters(const SourceTree& tree);
 std::vector<std::string> internalOutsideLibrary(const SourceTree& tree);
 
 std::vector<std::string> longFiles(const SourceTree& tree);
+
+/// The page on what is kept names every file of the library that marks something so, and no other.
+std::vector<std::string> wronglyListedAsKept(const SourceTree& tree, const std::string& page);
 
 }  // namespace velmora::testing

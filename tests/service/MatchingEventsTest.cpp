@@ -100,7 +100,7 @@ TEST_F(MatchingEvents, EndAtTheFirstLaterItemOfAnyPhase) {
 TEST_F(MatchingEvents, EndInJanuaryWhereTheNextNewYearsMorningStandsThere) {
   service().SetSelectedLocation(tokyo());
   EXPECT_EQ(matching(0, utc(2009, 1, 1), utc(2009, 6, 1)), Texts{"2009-1-11"})
-      << "the full moon of 1 January 2010 stands in January of 2009, by intent";
+      << "the full moon of 1 January 2010 stands in January of 2009: kept";
   service().SetSelectedLocation(greenwich());
   EXPECT_EQ(matching(0, utc(2009, 1, 1), utc(2009, 6, 1)).size(), 5U);
 }

@@ -3,7 +3,7 @@
 namespace velmora {
 namespace {
 
-/// Tokyo, where the user then chose the fixed offset +05:30: by intent days and hours stay those of the named
+/// Tokyo, where the user then chose the fixed offset +05:30. Kept: days and hours stay those of the named
 /// zone, and the offset moves the month's event times and the year's instants alone.
 class OffsetOverNamedZone : public ServiceTest {
  protected:

@@ -33,7 +33,7 @@ TEST_F(PlaceSelection, InTheSameMonthKeepsTheMonthsEvents) {
   EXPECT_EQ(eventDays(), (Days{3, 10, 16, 25}));
   service().SetSelectedLocation(tokyo());
   EXPECT_TRUE(hasNothingOfMonth());
-  EXPECT_EQ(service().currentMonthData(), events) << "as seen from Los Angeles, by intent";
+  EXPECT_EQ(service().currentMonthData(), events) << "kept as seen from Los Angeles";
   EXPECT_EQ(service().currentMonthPhaseDictionary()->at(17)->phase, 1) << "as seen from Tokyo";
 }
 

@@ -21,8 +21,8 @@ std::string wholeText(double number);
 /// As above with at least two digits, like "07".
 std::string twoDigits(double number);
 
-/// `hours` as "17:05", or as "05:05 PM" with the hour after midnight written 00 and 24:00 written "12:00 PM",
-/// by intent.
+/// `hours` as "17:05" or "05:05 PM".
+/// Kept: in the 12-hour form the hour after midnight is written 00 and 24:00 is written "12:00 PM".
 std::string clockText(double hours, bool use24Hour);
 
 }  // namespace velmora

@@ -139,7 +139,7 @@ std::vector<PositionData> RiseAndSetCalc::Get24HourSunPositionsForDate(Instant d
   while (positions.size() < sunSamples) {
     const Hours hours = Hours::from(static_cast<double>(first.hour) + static_cast<double>(positions.size()));
     const auto places = sunCoordinates(firstDay + hours / 24, longitude, latitude);
-    // The zone value is the offset in seconds: the records' hours mean nothing here, by intent.
+    // Kept: the zone value is the offset in seconds, so that the records' hours mean nothing here.
     for (std::size_t i = 0; i < Hours::count; ++i) {
       positions.push_back(positionAt(places[i], sunZoneHour(hours[i], secondsFromGMT)));
     }
@@ -151,7 +151,8 @@ std::vector<PositionData> RiseAndSetCalc::EventsMatchingSunElevation(double elev
                                                                      const GeoLocationData& location,
                                                                      std::int64_t secondsFromGMT,
                                                                      bool includeIntermediatealues) {
-  const std::int64_t zone = secondsFromGMT / 3600;  // a half-hour zone loses its half hour, by intent
+  // Kept: a half-hour zone loses its half hour.
+  const std::int64_t zone = secondsFromGMT / 3600;
   return eventsMatching(
       elevation, movedToUniversalReading(date, secondsFromGMT),
       Calendar(location.calendarZone(secondsFromGMT)), includeIntermediatealues,

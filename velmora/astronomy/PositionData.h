@@ -14,8 +14,8 @@ struct PositionData {
   std::string altitudeText;  ///< `altitude` with one decimal and a degree sign
   std::string azimuthText;   ///< `azimuth` with one decimal and a degree sign
 
-  /// `hour` as a clock text: long "07:05", "07:05 AM"; short "07", "7 am". The hour after midnight is
-  /// written 0 (00:05 AM), by intent.
+  /// `hour` as a clock text: long "07:05", "07:05 AM"; short "07", "7 am".
+  /// Kept: the hour after midnight is written 0 (00:05 AM).
   std::string formattedTimeText(bool use24Hour, bool shortForm) const;
 };
 

@@ -35,14 +35,16 @@ class RiseAndSetCalc {
   // Time and angles (TimeAndAngles.cpp)
 
   /// Modified Julian Date of a Gregorian date (month 1..12) at a whole hour of universal time.
-  /// 2000-01-01 12h is 51544.5. Days up to 1582 October 4 are no true Julian-calendar count, by intent.
+  /// 2000-01-01 12h is 51544.5.
+  /// Kept: days up to 1582 October 4 are no true Julian-calendar count.
   static double _mjd(std::int64_t day, std::int64_t month, std::int64_t year, std::int64_t hour);
 
   /// The time of day of a Modified Julian Date, written by `_hrsmin`.
   static std::string _caldat(double mjd);
 
-  /// Local mean sidereal time in hours, as an angle: Greenwich's in [0, 24) plus longitude/15, not reduced
-  /// again. Meeus, formula 12.4; universal time stands for both of its time scales.
+  /// Local mean sidereal time in hours, as an angle. Meeus, formula 12.4; universal time stands for both of
+  /// its time scales.
+  /// Kept: it is Greenwich's in [0, 24) plus longitude/15, not reduced again.
   static double _lmst(double mjd, double longitude);
 
   /// What `x` has above the next whole number below it, [0, 1); a negative x nearer to 0 than a double can
@@ -60,19 +62,21 @@ class RiseAndSetCalc {
   static double _round(double value, std::int64_t noOfDecimals);
 
   /// A time of day in hours as a clock text, to the nearest minute: "17:05" where the settings' time format
-  /// is 1, else "05:05 PM". By intent the hour after midnight is "00:05 AM", and 23.9999 is "24:00" or
-  /// "12:00 PM".
+  /// is 1, else "05:05 PM".
+  /// Kept: the hour after midnight is "00:05 AM", and 23.9999 is "24:00" or "12:00 PM".
   static std::string _hrsmin(double hours);
 
-  /// The days of a common year before the month (1..12), 0 for a month outside. No leap day in any year.
+  /// The days of a common year before the month (1..12), 0 for a month outside.
+  /// Kept: there is no leap day in any year.
   static std::int64_t GetDayCountForMonth(std::int64_t month);
 
   /// An angle in radians reduced to [0, 2π) if it is above −2π; a negative one too small to tell from 0 gives
-  /// 2π. By intent others stay negative: as they are above −4π, from there down moved away from zero. Whole
-  /// turns are counted up to 2³² − 1.
+  /// 2π. Whole turns are counted up to 2³² − 1.
+  /// Kept: angles from −2π down stay negative: unchanged above −4π, from there down moved away from zero.
   static double FNRange(double radians);
 
-  /// The four-quadrant arctangent in radians, [0, 2π); for x = 0 it is ±π/2 with the sign of y, by intent.
+  /// The four-quadrant arctangent in radians, [0, 2π).
+  /// Kept: for x = 0 it is ±π/2 with the sign of y.
   static double FNatn2(double y, double x);
 
   /// The arcsine in radians, −π/2..π/2; NaN outside −1..1.
@@ -106,7 +110,7 @@ class RiseAndSetCalc {
   /// `secondsFromGMT`: the offset in force on that day; it is also the zone of a place without a `timezone`.
   /// `twilight`: 0 civil (Sun at −6°), 1 nautical (−12°), 2 astronomical (−18°); must be one of these, of
   /// others the nearest is taken.
-  /// The Sun's set is the one that follows its rise, the Moon's the first of the day, by intent.
+  /// Kept: the Sun's set is the one that follows its rise, the Moon's the first of the day.
   static RiseSetData Compute(Instant date, const GeoLocationData& location, std::int64_t secondsFromGMT,
                              int twilight);
 
@@ -130,7 +134,7 @@ class RiseAndSetCalc {
   static double FNsun(double daysFromJ2000);
 
   /// The Sun at `hour` (may exceed 24) of a universal date, 1901 to 2099. Longitude and latitude in radians.
-  /// The record's `hour` is hour + `timezoneInterval`, plus 24 once if that is below zero.
+  /// Kept: the record's `hour` is hour + `timezoneInterval`, plus 24 once if that is below zero.
   static PositionData CalculateSunPosition(double longitude, double latitude, std::int64_t year,
                                            std::int64_t month, std::int64_t day, double hour,
                                            std::int64_t timezoneInterval);
@@ -143,8 +147,9 @@ class RiseAndSetCalc {
                                             double timezoneInterval);
 
   /// The Sun at the instant, to the minute. `secondsFromGMT`: the offset in force. The record's `hour` is the
-  /// whole hour of universal time. Within the offset of a clock change the Sun is an hour off, by intent: the
-  /// instant moved by the offset is read on the place's clocks.
+  /// whole hour of universal time.
+  /// Kept: within the offset of a clock change the Sun is an hour off, since the instant moved by the offset
+  /// is read on the place's clocks.
   static PositionData ComputeSunPosition(Instant date, const GeoLocationData& location,
                                          std::int64_t secondsFromGMT);
 
@@ -165,18 +170,18 @@ class RiseAndSetCalc {
                                                                  const GeoLocationData& location,
                                                                  std::int64_t secondsFromGMT);
 
-  /// The Sun at 24 hours from the whole universal hour of the instant on. By intent the records' `hour` has
-  /// no clock meaning: the hour of universal time plus the offset in seconds. A sample's time is its index.
+  /// The Sun at 24 hours from the whole universal hour of the instant on. A sample's time is its index.
+  /// Kept: the records' `hour` has no clock meaning: the hour of universal time plus the offset in seconds.
   static std::vector<PositionData> Get24HourSunPositionsForDate(Instant date, const GeoLocationData& location,
                                                                 std::int64_t secondsFromGMT);
 
   /// The moments in the 24 hours from the instant on at which the Sun reaches `elevation` (degrees), in time
-  /// order. Hourly samples within 0.05° of it count; between samples it is refined only in hours in which
-  /// the Sun crosses the horizon, by intent: made for elevations near 0. Ends with the second refined event.
-  /// A refined record's `altitude` is exactly `elevation`; its texts are those of the altitude computed.
-  /// `includeIntermediatealues` (the spelling is kept) adds the hourly samples after the first event. The
-  /// records' `hour` is that of universal time plus the whole hours of the offset, plus 24 once if that is
-  /// below zero.
+  /// order. Hourly samples within 0.05° of it count. A refined record's `altitude` is exactly `elevation`;
+  /// its texts are those of the altitude computed. `includeIntermediatealues` adds the hourly samples after
+  /// the first event. Kept: between samples the moment is refined only in hours in which the Sun crosses the
+  /// horizon, since this is made for elevations near 0; it ends with the second refined event; the records'
+  /// `hour` is that of universal time plus the whole hours of the offset, plus 24 once if that is below zero;
+  /// the spelling of the last argument.
   static std::vector<PositionData> EventsMatchingSunElevation(double elevation, Instant date,
                                                               const GeoLocationData& location,
                                                               std::int64_t secondsFromGMT,

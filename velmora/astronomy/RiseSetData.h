@@ -21,8 +21,8 @@ struct RiseSetData {
   std::string twilightBeginText;
   std::string twilightEndText;
   std::int64_t sunRiseMinutesFromMidnight = 0;  ///< after local midnight; −1 for none
-  /// −1 for none. A set of the next day has 1440 more than its clock time where that lies before the rise's;
-  /// a later one, and one without a rise, has not, by intent.
+  /// −1 for none. A set of the next day has 1440 more than its clock time where that lies before the rise's.
+  /// Kept: a later one, and one without a rise, has not.
   std::int64_t sunSetMinutesFromMidnight = 0;
   std::int64_t moonRiseMinutesFromMidnight = 0;  ///< −1 for none
   std::int64_t moonSetMinutesFromMidnight = 0;   ///< −1 for none; above 1440 for a set of the next day

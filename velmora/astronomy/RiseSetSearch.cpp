@@ -72,8 +72,8 @@ void keepSet(Events& events, double time) {
   events.hasSet = true;
 }
 
-/// Two crossings within one step are stored but not flagged, by intent: a grazing pass counts only through a
-/// later single crossing.
+/// Kept: two crossings within one step are stored but not flagged, so that a grazing pass counts only through
+/// a later single crossing.
 void storePair(Events& events, int hour, const Crossings& found) {
   events.rise = hour + (found.extremumBelow ? found.second : found.first);
   events.set = hour + (found.extremumBelow ? found.first : found.second);
@@ -119,8 +119,9 @@ void writeTexts(const Events& events, std::string& riseText, std::string& setTex
   setText = events.hasSet ? eventText(onItsDay(events.set), isNextDay(events.set)) : missingText;
 }
 
-/// A sunset before its sunrise on the clock is one of the next day. By intent the clock decides here, so that
-/// a set of the next day at a later time than the rise counts as one of the same day.
+/// A sunset before its sunrise on the clock is one of the next day.
+/// Kept: the clock decides here, so that a set of the next day at a later time than the rise counts as one of
+/// the same day.
 void writeSunMinutes(RiseSetData& record, const Events& sunEvents) {
   const double rise = sunEvents.hasRise ? minutesFromMidnight(sunEvents.rise) : noEvent;
   double set = sunEvents.hasSet ? minutesFromMidnight(onItsDay(sunEvents.set)) : noEvent;

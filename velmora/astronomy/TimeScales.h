@@ -22,7 +22,7 @@ constexpr Number centuriesSinceJ2000(const Number& mjd) {
 double greenwichMeanSiderealDegrees(double mjd);
 
 /// The instant moved so that clocks of a zone with that offset show the universal date and time of `date`.
-/// Where clocks change between the two instants the reading is off by the change, by intent.
+/// Kept: where clocks change between the two instants the reading is off by the change.
 constexpr Instant movedToUniversalReading(Instant date, std::int64_t secondsFromGMT) {
   return date - Seconds(static_cast<double>(secondsFromGMT));
 }

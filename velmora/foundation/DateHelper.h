@@ -15,8 +15,8 @@ class DateHelper {
   /// Whether the tables cover the date: its year is 2000 to 2040.
   static bool IsDateValid(std::optional<Instant> date);
 
-  /// Whether day and month of both dates are the same. The year plays no part: 5 March 2020 and 5 March 2021
-  /// are equal, by intent.
+  /// Whether day and month of both dates are the same.
+  /// Kept: the year plays no part; 5 March 2020 and 5 March 2021 are equal.
   static bool AreEqual(std::optional<Instant> date1, std::optional<Instant> date2);
 
   /// The start of the date's day plus that many seconds of elapsed time.
@@ -40,11 +40,13 @@ class DateHelper {
   /// "17:05" or "05:05 PM".
   static std::optional<std::string> GetTimeFormattedString(std::optional<Instant> date, bool use24Hour);
 
-  /// "Thu Jun 20, 2024  17:05" or "Thu Jun 20, 2024  05:05 PM", with two blanks.
+  /// "Thu Jun 20, 2024  17:05" or "Thu Jun 20, 2024  05:05 PM".
+  /// Kept: two blanks before the time, here and in the short form.
   static std::optional<std::string> GetDateAndTimeFormattedString(std::optional<Instant> date,
                                                                   bool use24Hour);
 
-  /// "Jun 20, 2024  05:05 PM", in the 12-hour form whatever the flag says: intended, unlike the long form.
+  /// "Jun 20, 2024  05:05 PM".
+  /// Kept: in the 12-hour form whatever the flag says, unlike the long form.
   static std::optional<std::string> GetDateAndTimeFormattedShortString(std::optional<Instant> date,
                                                                        bool use24Hour);
 };

@@ -84,15 +84,15 @@ void GeoLocationData::setNamedZone(const std::string& identifier, std::int64_t g
   }
 }
 
-// The zone is left as it was, by intent: nothing consults it while the custom flag is set.
+// Kept: the zone is left as it was.
 void GeoLocationData::setFixedOffset(std::int64_t gmtOffset) {
   customSecondsFromGMT = gmtOffset;
   timezoneId.reset();
   timezoneText = fixedOffsetText(gmtOffset);
 }
 
-// A record set without a zone and without the custom flag keeps its offset in `customSecondsFromGMT` and is
-// read back through `secondsFromGMT`, by intent.
+// Kept: a record set without a zone and without the custom flag keeps its offset in `customSecondsFromGMT`
+// and is read back through `secondsFromGMT`.
 std::int64_t GeoLocationData::GetTimezoneIntervalFromGMT(Instant date) const {
   if (useCustomTimezone) return customSecondsFromGMT;
   if (!timezone) return secondsFromGMT;

@@ -45,9 +45,9 @@ class GeoLocationData {
   void UpdateLocation(double newLatitude, double newLongitude);
 
   /// Sets the whole record. A zone identifier that is present, not empty and not overridden by
-  /// `isCustomTimezone` makes a named zone, with `gmtOffset` (seconds) kept in `secondsFromGMT`; everything
-  /// else makes a fixed offset, with `gmtOffset` kept in `customSecondsFromGMT`. An identifier that names no
-  /// zone stays as the text, without a zone; "n/a" stands where the zone database could not be read.
+  /// `isCustomTimezone` makes a named zone, with `gmtOffset` (seconds) stored in `secondsFromGMT`; everything
+  /// else makes a fixed offset, with `gmtOffset` stored in `customSecondsFromGMT`. An identifier that names
+  /// no zone stays as the text, without a zone; "n/a" stands where the zone database could not be read.
   void SetLocation(double newLatitude, double newLongitude, std::optional<std::string> locationName,
                    const std::optional<std::string>& timezoneName, std::int64_t gmtOffset,
                    bool isCustomTimezone);
@@ -61,7 +61,8 @@ class GeoLocationData {
   std::int64_t GetTimezoneIntervalFromGMT(Instant date) const;
 
   /// Offset from GMT in seconds of the named zone at 09:00 of the instant's day in the given calendar, away
-  /// from the small hours in which clocks change; 0 without a named zone, whatever the fixed offset is.
+  /// from the small hours in which clocks change.
+  /// Kept: a fixed offset plays no part; without a named zone it is 0.
   std::int64_t gmtIntervalForDate(Instant date, const Calendar& calendar) const;
 
  private:

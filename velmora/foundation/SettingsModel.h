@@ -19,7 +19,7 @@ class SettingsModel {
   SettingsModel(const SettingsModel&) = delete;
   SettingsModel& operator=(const SettingsModel&) = delete;
 
-  /// Kept for the host application.
+  /// For the host application: the library reads none of these.
   std::int64_t mapMode() const { return _mapMode; }
   void setMapMode(std::int64_t value) { _mapMode = value; }
   std::int64_t mapProvider() const { return _mapProvider; }

@@ -17,13 +17,15 @@ class VelmoraCalendar {
   /// A new formatter in the current locale and the process's default zone, without a pattern.
   static DateFormatter calendarDateFormatter();
 
-  /// The short weekday names, Sunday first, in the locale of the first call; kept for the process.
+  /// The short weekday names, Sunday first.
+  /// Kept: they are those of the locale of the first call in the process.
   static const std::vector<std::string>& shortWeekdayStrings();
 
-  /// The short month names, January first, in the locale of the first call; kept for the process.
+  /// The short month names, January first.
+  /// Kept: they are those of the locale of the first call in the process.
   static const std::vector<std::string>& shortMonthStrings();
 
-  /// Forgets the kept names: for tests, and for a host between requests in different languages.
+  /// Forgets these names: for tests, and for a host between requests in different languages.
   static void resetSymbols();
 };
 

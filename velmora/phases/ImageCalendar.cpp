@@ -114,7 +114,8 @@ void addLastDay(const PictureDay& next, std::int64_t length, FixedDays& fixed) {
 }
 
 /// Fills the days from `a` to `b`. A picture that one of them lacks is made up from the other's, for these
-/// days alone and without being brought into the range of pictures, by intent.
+/// days alone.
+/// Kept: it is not brought into the range of pictures.
 void fillBetween(std::int64_t a, std::int64_t b, std::int64_t length, const FixedDays& fixed,
                  ImageCalendar& calendar) {
   const std::optional<std::int32_t> knownA = fixed.picture(a);
@@ -137,7 +138,7 @@ MoonPhaseCalc::ImageCalendar MoonPhaseCalc::GetImageCalendar(const YearTable& ta
                                                              const GeoLocationData& location,
                                                              bool use24HourTimeFormat) {
   MonthQuery query(date, location, use24HourTimeFormat);
-  // Unlike the phase calendar, no neighbouring year is opened for January and December, by intent.
+  // Kept: unlike the phase calendar, no neighbouring year is opened for January and December.
   const PictureDay previous =
       month > kJanuary ? lastOf(query.events(table, year, month - 1)) : kNoPreviousEvent;
   const PictureDay next = month < kDecember ? firstOf(query.events(table, year, month + 1)) : kNoNextEvent;

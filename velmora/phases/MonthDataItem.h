@@ -13,9 +13,11 @@ struct MonthDataItem {
   /// The fields in order; `fullFactor` follows from the phase.
   MonthDataItem(std::int64_t phase, std::int64_t day, std::string time, Instant localDate);
 
-  std::int64_t phase;      ///< 0 to 3, or −1 for an unknown code
-  std::int64_t day;        ///< of the month, in the place's zone
-  std::string time;        ///< display time; shifted twice unless the default zone is UTC, by intent
+  std::int64_t phase;  ///< 0 to 3, or −1 for an unknown code
+  std::int64_t day;    ///< of the month, in the place's zone
+  /// Display time.
+  /// Kept: shifted twice by the place's offset unless the default zone is UTC.
+  std::string time;
   Instant localDate;       ///< the true instant, not shifted
   const float fullFactor;  ///< lit fraction of the disc: 1, 0.5 or 0; 0 for an unknown code
 

@@ -45,8 +45,9 @@ class MoonPhaseCalc {
   /// from the lines of month `monthOfData` of the year `yearOfData` and of the months before and after it,
   /// for which the neighbouring year's table is read where the library has one.
   ///
-  /// In this order: the previous month's events, the month's own, the next month's; for January those of the
-  /// previous December come last. Leaves `calendar` in the location's zone. `secondsFromGMT` has no effect.
+  /// Kept: the order, which is the previous month's events, the month's own, the next month's, and for
+  /// January those of the previous December last; `calendar` is left in the location's zone; `secondsFromGMT`
+  /// has no effect.
   static MonthEvents GetMoonPhaseDataForMonth(const YearTable& table, std::int64_t yearOfData,
                                               std::int64_t monthOfData, Calendar& calendar,
                                               std::int64_t secondsFromGMT, std::int64_t currentYear,
@@ -54,8 +55,9 @@ class MoonPhaseCalc {
                                               bool use24HourTimeFormat);
 
   /// Appends to `processedData` those events of one month's lines whose date in the location's zone lies in
-  /// month `currentMonth` of `currentYear`; lines that cannot be read are passed over. Leaves `calendar` in
-  /// the location's zone. `secondsFromGMT`, `outputFormatter` and `utc` have no effect.
+  /// month `currentMonth` of `currentYear`; lines that cannot be read are passed over.
+  /// Kept: `calendar` is left in the location's zone; `secondsFromGMT`, `outputFormatter` and `utc` have no
+  /// effect.
   static void InternalProcessData(const std::vector<std::string>& lines, std::int64_t yearOfData,
                                   std::int64_t monthOfData, Calendar& calendar, std::int64_t secondsFromGMT,
                                   std::int64_t currentYear, std::int64_t currentMonth,
@@ -66,17 +68,19 @@ class MoonPhaseCalc {
   // Calendars of a month
 
   /// The phase, lit fraction and age of each day, 1 to the month's length. `table` is the year's; `date` only
-  /// tells the location's offset from GMT. By intent: between two principal phases the lit fraction is linear
-  /// in whole days; a day without an event before it, where the tables begin, follows a full moon on day 0;
-  /// after a month without a new moon the age starts at that month's length + 3. (PhaseCalendar.cpp)
+  /// tells the location's offset from GMT. (PhaseCalendar.cpp)
+  /// Kept: between two principal phases the lit fraction is linear in whole days; a day without an event
+  /// before it, where the tables begin, follows a full moon on day 0; after a month without a new moon the
+  /// age starts at that month's length + 3.
   static PhaseCalendar GetPhaseCalendar(const YearTable& table, std::int64_t month, std::int64_t year,
                                         Instant date, const GeoLocationData& location,
                                         bool use24HourTimeFormat);
 
   /// The number of the picture that shows each day, 1 to the month's length: 0 new moon, 15 first quarter, 27
-  /// full moon, 40 last quarter, linear between them up to 55. The first of January and the last of December
-  /// take theirs from the event of their own month that is nearest, which may lie above 55, by intent.
-  /// Arguments as above. Empty for a month without events. (ImageCalendar.cpp)
+  /// full moon, 40 last quarter, linear between them up to 55. Arguments as above. Empty for a month without
+  /// events. (ImageCalendar.cpp)
+  /// Kept: the first of January and the last of December take theirs from the event of their own month that
+  /// is nearest, which may lie above 55.
   static ImageCalendar GetImageCalendar(const YearTable& table, std::int64_t month, std::int64_t year,
                                         Instant date, const GeoLocationData& location,
                                         bool use24HourTimeFormat);

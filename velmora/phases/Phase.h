@@ -4,8 +4,9 @@
 
 namespace velmora {
 
-/// The library's numbers of the Moon's phases. The four principal phases are events at an instant and stand
-/// in this order by intent; the other four are the phases of the days between them.
+/// The library's numbers of the Moon's phases. The four principal phases are events at an instant; the other
+/// four are the phases of the days between them.
+/// Kept: the order of the principal phases.
 enum Phase : std::int64_t {
   kUnknownPhase = -1,
   kFullMoon = 0,

@@ -10,8 +10,8 @@ using MonthEvents = MoonPhaseCalc::MonthEvents;
 
 constexpr std::int64_t kNoDay = -1;
 
-/// A principal phase beside a day. Where the tables end there is none: it then counts as a full moon on day
-/// 0, by intent.
+/// A principal phase beside a day.
+/// Kept: where the tables end there is none; it then counts as a full moon on day 0.
 struct EventDay {
   std::int64_t day = 0;
   std::int64_t phase = kFullMoon;
@@ -58,8 +58,8 @@ EventDay eventAfter(std::int64_t day, const MonthEvents& events, EventDay ofNext
   return earliest ? EventDay{earliest->day, earliest->phase} : ofNextMonth;
 }
 
-/// The Moon's age on the first of the month, from the previous month's last new moon. Without one the rule
-/// applies as if it had fallen on day −1, by intent.
+/// The Moon's age on the first of the month, from the previous month's last new moon.
+/// Kept: without one the rule applies as if it had fallen on day −1.
 std::int64_t ageOnTheFirst(const MonthEvents& previousEvents, std::int64_t previousLength) {
   std::int64_t newMoonDay = kNoDay;
   for (const auto& event : previousEvents) {

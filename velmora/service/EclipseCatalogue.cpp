@@ -13,7 +13,8 @@ namespace {
 
 using Titles = std::map<std::string_view, std::string>;
 
-/// The localised title of each code. "Penumbra" stands without its adjective ending by intent: it is the key.
+/// The localised title of each code.
+/// Kept: "Penumbra" without its adjective ending, the key of the translations.
 Titles titlesByCode() {
   Titles titles = {
       {"TLE", "Total Lunar Eclipse"},  {"PLE", "Partial Lunar Eclipse"}, {"NLE", "Penumbra Lunar Eclipse"},

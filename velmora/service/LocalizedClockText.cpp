@@ -15,8 +15,8 @@ std::optional<std::int64_t> twoDigits(std::string_view text) {
   return (text[0] - '0') * 10 + (text[1] - '0');
 }
 
-/// Takes the mark "**" off a text of at least three characters, and the blank in front of it. Only the last
-/// character is looked at, by intent.
+/// Takes the mark "**" off a text of at least three characters, and the blank in front of it.
+/// Kept: only the last character is looked at.
 bool takeMark(std::string_view& text) {
   if (text.size() < 3 || text.back() != '*') return false;
   text.remove_suffix(2);

@@ -24,7 +24,8 @@ namespace velmora {
 
 struct TableEvent;
 
-/// Posted on the default notification centre after the selected date moved. The spelling is the interface's.
+/// Posted on the default notification centre after the selected date moved.
+/// Kept: the spelling "Calender" of both names.
 extern const char kCalenderDateChangedNotification[];
 /// Posted on the default notification centre after the selected place changed.
 extern const char kCalenderLocationChangedNotification[];
@@ -79,11 +80,12 @@ class MoonPhaseData {
   /// selected.
   void changeSelectedDay(std::int64_t day, std::int64_t month, std::int64_t year);
 
-  /// Selects the place and posts "CalenderLocationChanged". The month's event list is kept while the month
-  /// stays the same, by intent; the month's dictionaries are built anew on demand.
+  /// Selects the place and posts "CalenderLocationChanged". The month's dictionaries are built anew on
+  /// demand. Kept: the month's event list stays that of the place before while the month stays the same.
   void SetSelectedLocation(std::shared_ptr<GeoLocationData> location);
 
-  /// Selects both, the date unchecked, and posts "CalenderLocationChanged" alone.
+  /// Selects both.
+  /// Kept: the date is not checked, and "CalenderLocationChanged" alone is posted.
   void SetSelectedLocation(std::shared_ptr<GeoLocationData> location, std::optional<Instant> date);
 
   /// Forgets the month's dictionaries when the date lies in another month than the selected one.
@@ -97,8 +99,8 @@ class MoonPhaseData {
   /// Reads a year's table without keeping it; none when there is no such table.
   std::shared_ptr<const YearTable> getDataForYear(std::int64_t year) const;
 
-  /// Builds `currentMonthData` anew and moves the calendar to the place's zone; does nothing while no table
-  /// is loaded.
+  /// Builds `currentMonthData` anew and moves the calendar to the place's zone.
+  /// Kept: does nothing while no table is loaded, so that a year without one leaves the former list.
   void calculateMoonPhases();
 
   // The selected month (SelectedMonth.cpp)
@@ -127,11 +129,12 @@ class MoonPhaseData {
   std::shared_ptr<const ImageCalendar> currentMonthImageDictionary();
   std::shared_ptr<const PhaseCalendar> currentMonthPhaseDictionary();
 
-  /// The phases of the date's month, from the table of the selected year whatever the date's year is, by
-  /// intent. Never kept; none without a table.
+  /// The phases of the date's month, made at each call; none without a table.
+  /// Kept: the table is that of the selected year, whatever the date's year is.
   std::shared_ptr<const PhaseCalendar> monthPhaseDictionaryForDate(Instant date) const;
 
-  /// The principal event of the selected day; none on most days. Reads the shared instance, by intent.
+  /// The principal event of the selected day; none on most days.
+  /// Kept: reads the shared instance.
   std::shared_ptr<MonthDataItem> monthDataItemForCurrentDay() const;
 
   /// The English name of a phase number 0..7; none for any other.
@@ -140,15 +143,16 @@ class MoonPhaseData {
   /// Whether the selected place lies south of the equator, which itself counts as northern.
   bool isSouthernHemisphere() const;
 
-  /// A constant, by intent: 0.2. The lit fraction of a day is in `currentMonthPhaseDictionary`.
+  /// The lit fraction of a day is in `currentMonthPhaseDictionary`.
+  /// Kept: this is the constant 0.2.
   float phaseFullFactorForCurrentDay() const;
 
   /// The picture shown while there is no other; none when it is missing, and then tried again.
   std::shared_ptr<const Image> phaseImagePlaceholder();
   const std::shared_ptr<const Image>& placeHolderImage() const { return _placeHolderImage; }
 
-  /// The selected day's phase picture, mirrored south of the equator; none when it is missing. Day and
-  /// picture number are the shared instance's, the hemisphere is this one's, by intent.
+  /// The selected day's phase picture, mirrored south of the equator; none when it is missing.
+  /// Kept: day and picture number are the shared instance's, the hemisphere is this one's.
   std::shared_ptr<const Image> phaseImageForCurrentDate() const;
 
   // Eclipses (Eclipses.cpp)
@@ -167,37 +171,44 @@ class MoonPhaseData {
   // Searches for phases (PhaseQueries.cpp)
 
   /// The next new or full moon from the selected day on, in this month and the next, with `moonAge` set to
-  /// the days until it in the shared item itself; none if there is none.
+  /// the days until it; none if there is none.
+  /// Kept: "today" is the selected day; `moonAge` is set in the month's shared item itself.
   std::shared_ptr<RiseSetPhaseItem> nextEventSinceToday();
 
   /// The first new or full moon of the dictionary from that day on; none if there is none.
   std::shared_ptr<RiseSetPhaseItem> nextEventSince(std::int64_t day, const RiseSetItems& withEvents) const;
 
-  /// The first event of the phase (0..3) later than now, in the selected month and the next alone; none if
-  /// there is none. Instants compare as the year's items give them, shifted by the place's offset.
+  /// The first event of the phase (0..3) later than now; none if there is none.
+  /// Kept: the selected month and the next alone are searched; instants compare as the year's items give
+  /// them, shifted by the place's offset.
   std::shared_ptr<RiseSetPhaseItem> nextEventSinceTodayWithPhase(std::int64_t phase) const;
 
-  /// The events of the phase later than `from` and not later than `to`, month by month, as the year's items
-  /// give their instants (shifted by the place's offset). The walk ends at the first later item.
+  /// The events of the phase later than `from` and not later than `to`, month by month.
+  /// Kept: instants compare as the year's items give them, shifted by the place's offset; the walk ends at
+  /// the first item later than `to`.
   std::vector<std::shared_ptr<RiseSetPhaseItem>> matchingEventsWithPhase(std::int64_t phase,
                                                                          std::optional<Instant> from,
                                                                          std::optional<Instant> to) const;
 
   /// The phase of the selected day's event if it has one, else the intermediate phase (4..7) after the
-  /// month's latest event not later than the instant, else −1. Reads the shared instance, by intent.
+  /// month's latest event not later than the instant, else −1.
+  /// Kept: reads the shared instance; the selected day decides before the instant.
   std::int64_t phaseEventForDate(Instant date) const;
 
   // Rise, set and phase together (RiseSetItems.cpp)
 
-  /// One item a day of the selected month, kept until the month or the place changes; none without a table.
+  /// One item a day of the selected month, the same until the month or the place changes; none without a
+  /// table.
   std::shared_ptr<const RiseSetItems> GetRiseSetPhaseItemsForCurrentMonth();
 
-  /// The same of the month after it, never kept; none after December 2040 and without that
-  /// month's table.
+  /// The same of the month after it, made at each call; none after December 2040 and without that month's
+  /// table.
+  /// Kept: every item is made for 03:00 of its day, and `timeText` is that instant on the device's clock.
   std::shared_ptr<const RiseSetItems> GetRiseSetPhaseItemsForNextMonth() const;
 
-  /// The principal events of a year, never kept; empty without a table. An item's `localDate` is its instant
-  /// shifted by the place's offset, by intent, unlike a month's event.
+  /// The principal events of a year, made at each call; empty without a table.
+  /// Kept: an item's `localDate` is its instant shifted by the place's offset, unlike a month's event, and
+  /// the rise and set are those searched for from there.
   YearItems GetRiseSetPhaseItemsForYear(std::int64_t year) const;
 
   /// The selected day's item; none if there is none.
@@ -210,9 +221,9 @@ class MoonPhaseData {
   /// Ends with the calendar, whose last day is 31 December 32767.
   std::vector<RiseSetData> getRiseSetDataFrom(Instant from, Instant to) const;
 
-  /// Rewrites the item's four rise and set texts in the user's short time style; the Moon's mark for the next
-  /// day stays, glued to the time as "**". Texts that are no 12-hour clock time stay as they are, the Sun's
-  /// with a mark among them, by intent. The zone plays no part.
+  /// Rewrites the item's four rise and set texts in the user's short time style. Texts that are no 12-hour
+  /// clock time stay as they are, the Sun's with a mark among them.
+  /// Kept: the Moon's mark for the next day is glued to the time as "**"; the zone plays no part.
   void localizeDateTimeStringsForRiseSetPhaseItem(RiseSetPhaseItem* item,
                                                   const std::optional<TimeZone>& withTimezone) const;
 
@@ -223,8 +234,8 @@ class MoonPhaseData {
   std::optional<PositionData> GetSunPositionDataForDate(std::optional<Instant> date) const;
 
   /// Where the body stands that many minutes after midnight of the day, by the clock; fractions are cut. For
-  /// the Moon 24 hours or more count from the following day's midnight, whole days beyond it dropped, by
-  /// intent; for the Sun they give none.
+  /// the Sun 24 hours or more give none.
+  /// Kept: for the Moon they count from the following day's midnight, whole days beyond it dropped.
   std::optional<PositionData> GetMoonPositionDataForDate(std::optional<Instant> date,
                                                          double withTimeInterval) const;
   std::optional<PositionData> GetSunPositionDataForDate(std::optional<Instant> date,

@@ -65,7 +65,7 @@ std::shared_ptr<RiseSetPhaseItem> MoonPhaseData::nextEventSince(std::int64_t day
   return found == withEvents.end() ? nullptr : found->second;
 }
 
-// "Today" is the selected day, not the device's date, by intent.
+// Kept: "today" is the selected day, not the device's date.
 std::shared_ptr<RiseSetPhaseItem> MoonPhaseData::nextEventSinceToday() {
   if (const auto items = GetRiseSetPhaseItemsForCurrentMonth()) {
     if (const auto next = nextEventSince(_currentDay, *items)) {

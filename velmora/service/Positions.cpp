@@ -40,7 +40,7 @@ std::optional<PositionData> MoonPhaseData::GetSunPositionDataForDate(std::option
   return RiseAndSetCalc::ComputeSunPosition(*date, *_currentLocation, *offset);
 }
 
-// However many whole days the minutes span, the day moves once, by intent.
+// Kept: however many whole days the minutes span, the day moves once.
 std::optional<PositionData> MoonPhaseData::GetMoonPositionDataForDate(std::optional<Instant> date,
                                                                       double withTimeInterval) const {
   if (!date) return std::nullopt;
@@ -64,7 +64,7 @@ std::optional<std::vector<PositionData>> MoonPhaseData::Get24HourSunPositionsFor
   return RiseAndSetCalc::Get24HourSunPositionsForDate(*date, *_currentLocation, *offset);
 }
 
-// The Moon's series takes the offset of the day's morning, the Sun's that of the instant, by intent.
+// Kept: the Moon's series takes the offset of the day's morning, the Sun's that of the instant.
 std::optional<std::vector<PositionData>> MoonPhaseData::Get24HourMoonPositionsForDate(
     std::optional<Instant> date) const {
   if (!offsetOfPlace(date)) return std::nullopt;

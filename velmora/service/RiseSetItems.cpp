@@ -61,8 +61,8 @@ std::shared_ptr<const MoonPhaseData::RiseSetItems> MoonPhaseData::GetRiseSetPhas
   return _currentRiseSetPhaseItemDictionary;
 }
 
-// Two intended differences from the current month: every day is described for 03:00, also one with an event,
-// and that instant's text is the device's clock, not the place's.
+// Kept: unlike in the current month, every day is described for 03:00, also one with an event, and that
+// instant's text is the device's clock, not the place's.
 std::shared_ptr<const MoonPhaseData::RiseSetItems> MoonPhaseData::GetRiseSetPhaseItemsForNextMonth() const {
   if (!_rawDataDictionary) return nullptr;
   const bool inNextYear = _currentMonth == december;
@@ -128,7 +128,7 @@ std::shared_ptr<RiseSetPhaseItem> MoonPhaseData::riseSetItem(const PhaseItem& da
   return item;
 }
 
-// The instant shifted by the place's offset is kept in the item and handed to the search, by intent: the item
+// Kept: the instant shifted by the place's offset is stored in the item and handed to the search. The item
 // then stands for the event's reading on the place's clock.
 std::shared_ptr<RiseSetPhaseItem> MoonPhaseData::eventItem(const TableEvent& event,
                                                            const Calendar& localCalendar) const {

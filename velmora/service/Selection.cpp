@@ -82,11 +82,11 @@ void MoonPhaseData::updateCacheForDate(std::optional<Instant> date) {
 void MoonPhaseData::loadDataForYear(std::int64_t year) { _rawDataDictionary = getDataForYear(year); }
 
 std::shared_ptr<const YearTable> MoonPhaseData::getDataForYear(std::int64_t year) const {
-  return tableOfYear(static_cast<std::int32_t>(year));  // the low 32 bits name a table, by intent
+  return tableOfYear(static_cast<std::int32_t>(year));  // Kept: the low 32 bits name a table.
 }
 
-// The offset of the month's first midnight goes with the whole month; a change of the clocks within it does
-// not matter to the query.
+// Kept: the offset of the month's first midnight goes with the whole month; a change of the clocks within it
+// does not matter to the query.
 void MoonPhaseData::calculateMoonPhases() {
   if (!_rawDataDictionary) return;
   const Instant firstOfMonth = _calendar.date({.year = _currentYear, .month = _currentMonth});

@@ -30,8 +30,9 @@ class ArcTextView : public View {
   bool isFlipped() const { return _isFlipped; }
   void setArcTheta(double theta, bool shouldFlipText);
 
-  /// Asks to be drawn again. While `isFlipped` is set it reverses the order of the text's characters each
-  /// time it is called, by intent: two calls give back the order that was.
+  /// Asks to be drawn again.
+  /// Kept: while `isFlipped` is set it reverses the order of the text's characters each time it is called;
+  /// two calls give back the order that was.
   void update();
 
   /// The point on a circle around the origin, the angle in radians.

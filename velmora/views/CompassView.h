@@ -33,13 +33,12 @@ class CompassView : public View, public CircleGeometry {
   const std::shared_ptr<ShapeLayer>& pathLayer() const { return _pathLayer; }
 
   /// Builds ring, ticks and letters; does nothing while they stand.
-  ///
-  /// The ring's layer is given the view's frame, not its bounds, by intent: a view that does not lie at its
-  /// superview's origin has its ring shifted by as much.
+  /// Kept: the ring's layer is given the view's frame, not its bounds, so that a view that does not lie at
+  /// its superview's origin has its ring shifted by as much.
   void updateLayer();
 
-  /// Builds them anew, as after a change of size, radius or colour. The letters of before stay underneath, by
-  /// intent.
+  /// Builds them anew, as after a change of size, radius or colour.
+  /// Kept: the letters of before stay underneath.
   void resetAndUpdateLayer();
 
  private:

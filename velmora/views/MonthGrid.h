@@ -26,8 +26,8 @@ struct MonthGrid {
   std::int64_t firstDayOfWeek = 0;       ///< the column of day 1, 0 to 6
   std::int64_t numberOfDaysInMonth = 0;  ///< 0 for no month
 
-  /// The month view's grid in a view of that size. The left margin is not taken off the width, so that the
-  /// grid is that much wider than its place: by intent.
+  /// The month view's grid in a view of that size.
+  /// Kept: the left margin is not taken off the width, so that the grid is that much wider than its place.
   static MonthGrid inView(Size view, std::int64_t firstDayOfWeek, std::int64_t numberOfDaysInMonth);
 
   /// The column, 0 to 6, of a weekday (1 = Sunday) in weeks that start on the day with that index
@@ -44,8 +44,8 @@ struct MonthGrid {
   Rect cell(std::int64_t day) const;
 
   /// The cell at the point, counted row by row from 1, blank ones included. Points in the margins count to
-  /// the nearest cells; those right of the last column to the first cell of the next row, by intent. None
-  /// where there is no room for cells, and a billion cells away.
+  /// the nearest cells. None where there is no room for cells, and a billion cells away.
+  /// Kept: points right of the last column count to the first cell of the next row.
   std::optional<std::int64_t> cellAt(Point point) const;
 
   /// The day in the cell; none in a blank one.

@@ -43,8 +43,8 @@ struct PictureGrid {
   }
 };
 
-/// The column, 0 to 6, of the month's first day: of its midnight in the process's zone, by intent, as the
-/// selected place's calendar sees it. None before a month is selected.
+/// The column, 0 to 6, of the month's first day. None before a month is selected.
+/// Kept: of its midnight in the process's zone, as the selected place's calendar sees it.
 std::optional<std::int64_t> columnOfFirstDay(const MoonPhaseData& service) {
   DateFormatter reader;
   reader.setDateFormat("yyyy-MM-dd");
@@ -56,7 +56,7 @@ std::optional<std::int64_t> columnOfFirstDay(const MoonPhaseData& service) {
   return service.calendar().components(*first).weekday - 1;
 }
 
-// The number stays at the left of its label, by intent, and midway between top and bottom.
+// Kept: the number stays at the left of its label. It is midway between top and bottom.
 void drawDayNumber(Canvas& canvas, std::int64_t day, Rect label, const Color& color) {
   const TextLayout number(AttributedText(
       integerText(day),

@@ -82,8 +82,8 @@ void MoonPhaseYearView::touchesEnded(const Touch& touch) {
   setNeedsDisplay();
 }
 
-// The gap above the first row is not taken off: rows are touched that much higher than they are drawn, by
-// intent.
+// Kept: the gap above the first row is not taken off, so that rows are touched that much higher than they are
+// drawn.
 MoonPhaseYearView::Cell MoonPhaseYearView::cellUnder(const Touch& touch) const {
   const Point point = UIControls::pointForCurrentLayoutDirection(touch.locationIn(*this), bounds());
   return {wholeCells(point.x - grid().leftMargin, grid().cellWidth),

@@ -19,8 +19,8 @@ namespace velmora {
 /// are those of the shared default theme, except for the dark part of crescents.
 ///
 /// The host calls `calendarDateChanged` and `calendarLocationChanged` when the service posts so; until the
-/// first of these there is nothing to draw. `weekStartDay` moves the weekdays' names and not the moons, by
-/// intent.
+/// first of these there is nothing to draw.
+/// Kept: `weekStartDay` moves the weekdays' names and not the moons.
 ///
 /// Source files: MoonPhaseYearView.cpp (selection and touches), YearDrawing.cpp.
 class MoonPhaseYearView : public iPhoneCalendarView {
@@ -32,7 +32,8 @@ class MoonPhaseYearView : public iPhoneCalendarView {
   const std::shared_ptr<const YearItems>& phaseDictionary() const { return _phaseDictionary; }
   void setPhaseDictionary(std::shared_ptr<const YearItems> items) { _phaseDictionary = std::move(items); }
 
-  /// The phase that is shown: 0 full moon, 3 new moon; texts call every other value a new moon, too.
+  /// The phase that is shown: 0 full moon, 3 new moon.
+  /// Kept: texts call every other value than 0 a new moon.
   std::int64_t filteredPhase() const { return _filteredPhase; }
   void setFilteredPhase(std::int64_t phase) { _filteredPhase = phase; }
 

@@ -9,8 +9,8 @@
 
 namespace velmora {
 
-/// A chart of the Moon's way over the sky on five days: a ring and five arcs in it, each beginning 20 degrees
-/// after the one outside it and labelled with its day. Days and arcs are a fixed sample, by intent.
+/// A chart of the Moon's path over the sky on five days: a ring and five arcs in it, each beginning 20
+/// degrees after the one outside it and labelled with its day. Kept: days and arcs are a fixed sample.
 class MoonPositionView : public View {
  public:
   /// One label a day.
@@ -22,8 +22,9 @@ class MoonPositionView : public View {
   /// The labels, the outermost arc's first.
   const TextViews& textViews() const { return _textViews; }
 
-  /// Draws ring and arcs and sets the labels on their circles. From the second drawing on the labels' texts
-  /// run the other way, since an ArcTextView that is flipped already reverses its text once more, by intent.
+  /// Draws ring and arcs and sets the labels on their circles.
+  /// Kept: from the second drawing on the labels' texts run the other way, since an ArcTextView that is
+  /// flipped already reverses its text once more.
   void drawRect(Canvas& canvas, Rect rect) override;
 
  private:

@@ -34,7 +34,7 @@ class MoonRiseSetMonthView : public View {
   std::int64_t alternateCalendarType() const { return _alternateCalendarType; }
   void setAlternateCalendarType(std::int64_t type) { _alternateCalendarType = type; }
 
-  /// Kept for the host application: the rows draw with the shared calendar theme, or their own.
+  /// For the host application: the rows draw with the shared calendar theme, or their own.
   const std::shared_ptr<VelmoraTheme>& colorTheme() const { return _colorTheme; }
   void setColorTheme(std::shared_ptr<VelmoraTheme> theme) { _colorTheme = std::move(theme); }
 

@@ -26,8 +26,9 @@ Rect half(const PhaseDisc& disc, Side side) {
   return {side == Side::right ? disc.x + radius : disc.x, disc.y, radius, disc.diameter};
 }
 
-/// What a crescent leaves dark. In the north the ellipse narrows along the dark edge; in the south it keeps
-/// its width and moves across the disc, so the two are no mirror images: this is by intent.
+/// What a crescent leaves dark.
+/// Kept: in the north the ellipse narrows along the dark edge; in the south it keeps its width and moves
+/// across the disc, so the two are no mirror images.
 Rect darkEllipse(const PhaseDisc& disc, std::int64_t phase, double fullFactor, bool isSouthernHemisphere) {
   const double lit = disc.diameter * fullFactor;
   Rect ellipse = disc.square();
@@ -59,7 +60,7 @@ void drawQuarter(Canvas& canvas, const PhaseDisc& disc, Side lit) {
   canvas.strokeEllipse(disc.square());
 }
 
-// Below half lit the ellipse's width is negative: the Moon is then lit as much as above half, by intent.
+// Kept: below half lit the ellipse's width is negative; the Moon is then lit as much as above half.
 void drawGibbous(Canvas& canvas, const PhaseDisc& disc, double fullFactor, Side lit) {
   const double beyondHalf = disc.diameter * (fullFactor - 0.5);
   const double middle = disc.x + disc.diameter * 0.5;

@@ -14,8 +14,8 @@ struct PhaseDisc {
   double y = 0;  ///< of the upper edge
   double diameter = 0;
 
-  /// MoonPhaseIconView: as high as the rectangle without a point above and below, one point right of the
-  /// middle, by intent.
+  /// MoonPhaseIconView: as high as the rectangle without a point above and below.
+  /// Kept: one point right of the middle.
   static PhaseDisc inIcon(Rect rect);
   /// iPhoneCalendarView and MoonPhaseYearView: as wide as the cell without the padding, at its top.
   static PhaseDisc inCalendarCell(Rect rect, double padding);

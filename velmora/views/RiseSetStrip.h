@@ -12,7 +12,8 @@ struct MoonHours {
   std::int64_t from;   ///< the rise; the day's start without one
   std::int64_t until;  ///< the set; before `from` where the Moon is up at midnight
 
-  /// Of a day's rise and set, −1 for none. A day with neither counts as wholly moonlit, by intent.
+  /// Of a day's rise and set, −1 for none.
+  /// Kept: a day with neither counts as wholly moonlit.
   static MoonHours between(std::int64_t rise, std::int64_t set);
 
   /// Whether the Moon is up at the day's start, sets and rises again: two bars, not one.
@@ -36,8 +37,8 @@ class RiseSetStrip {
 
   /// The one bar of a Moon that rises before it sets.
   Rect moonBar(MoonHours hours) const;
-  /// The two bars of a Moon that is up at midnight. Without a set the first is the minute before midnight, a
-  /// sliver outside the strip, by intent, and the second lasts to the day's end.
+  /// The two bars of a Moon that is up at midnight. The second lasts to the day's end.
+  /// Kept: without a set the first is the minute before midnight, a sliver outside the strip.
   Rect moonBarUntilSet(MoonHours hours) const;
   Rect moonBarFromRise(MoonHours hours) const;
   Rect dayBar(std::int64_t sunrise, std::int64_t dayLength) const;

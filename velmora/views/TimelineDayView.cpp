@@ -101,8 +101,8 @@ void TimelineDayView::drawRect(Canvas& canvas, Rect) {
                      .labelTop = top - firstLabel.height() - kLabelGap});
 }
 
-// The title's rectangle is that of the first drawing in the process, by intent: later views of another width
-// and titles in another language get the same.
+// Kept: the title's rectangle is that of the first drawing in the process; later views of another width and
+// titles in another language get the same.
 void TimelineDayView::drawTitle(Canvas& canvas) const {
   static OncePerProcess<Rect> rect;
   const TextLayout title(

@@ -18,8 +18,8 @@ class TimelineDayView : public View {
   bool isOpaque() const override { return false; }
 
   /// The texts of the hours 0, 4, 8, 12, 16, 20 and 24, the last being the next day's midnight: plain hours
-  /// where the locale counts to 24, else with the half of the day. Locale and the zone of the service's place
-  /// are those of the first call.
+  /// where the locale counts to 24, else with the half of the day.
+  /// Kept: locale and the zone of the service's place are those of the first call.
   static const std::vector<std::string>& timelineLabels();
 
   /// Of the hours' labels; they are smaller on narrow screens and larger on tablets.

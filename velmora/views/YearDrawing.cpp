@@ -164,7 +164,7 @@ void MoonPhaseYearView::drawEvent(Canvas& canvas, const std::shared_ptr<RiseSetP
   _yearOfLastEvent = item->year;
 }
 
-// The left margin counts into the frame's width, by intent.
+// Kept: the left margin counts into the frame's width.
 void MoonPhaseYearView::drawOuterFrame(Canvas& canvas) {
   useBorderLine(canvas);
   const double width = sideMargin + columns * grid().cellWidth - frameNarrowing;
@@ -180,7 +180,7 @@ void MoonPhaseYearView::drawHeader(Canvas& canvas) {
   }
 }
 
-// The elevation is that at the item's own instant, shifted by the place's offset as it is, by intent.
+// Kept: the elevation is that at the item's own instant, which is shifted by the place's offset.
 void MoonPhaseYearView::drawSelection(Canvas& canvas, const RiseSetPhaseItem& item) {
   if (!_decimalFormatter) {
     _decimalFormatter.emplace();

@@ -54,7 +54,8 @@ class iPhoneCalendarView : public View {
   /// The theme to draw with: the view's own, which becomes the shared calendar theme where there is none.
   const std::shared_ptr<VelmoraTheme>& calendarTheme();
 
-  /// Whether no rings are drawn around the discs of days with an eclipse. The spelling is the interface's.
+  /// Whether no rings are drawn around the discs of days with an eclipse.
+  /// Kept: the spelling.
   bool hideEclipeInfo() const { return _hideEclipeInfo; }
   void setHideEclipeInfo(bool isHidden) { _hideEclipeInfo = isHidden; }
 
@@ -92,7 +93,7 @@ class iPhoneCalendarView : public View {
   void touchesMoved(const Touch& touch) override;
   void touchesEnded(const Touch& touch) override;
 
-  /// No, whatever is set: a screen reader stops at the days.
+  /// Kept: no, whatever is set, so that a screen reader stops at the days.
   bool isAccessibilityElement() const override { return false; }
   AccessibilityContainerType accessibilityContainerType() const override {
     return AccessibilityContainerType::semanticGroup;
@@ -101,7 +102,8 @@ class iPhoneCalendarView : public View {
   std::vector<AccessibilityElement> accessibilityElements() override;
   /// Makes `axElements`: one element a day of the month last drawn, in day order.
   void setupAccessibility();
-  /// Selects the day that the action of a day's element carries: the day before the element's, by intent.
+  /// Selects the day that the action of a day's element carries.
+  /// Kept: it is the day before the element's.
   void accessibilityCellSelected(const AccessibilityCustomAction& action);
 
  protected:
