@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include <velmora/platform/resources/Log.h>
+#include <velmora/platform/system/Log.h>
 #include <velmora/service/EclipseCatalogue.h>
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

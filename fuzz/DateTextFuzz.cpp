@@ -10,7 +10,7 @@
 #include <sstream>
 #include <string>
 
-#include <velmora/platform/resources/FileReading.h>
+#include <velmora/platform/system/FileReading.h>
 #include <velmora/platform/time/AlternateCalendar.h>
 #include <velmora/platform/time/Calendar.h>
 #include <velmora/platform/time/DateFormatter.h>

@@ -5,8 +5,8 @@
 #include <cstdlib>
 #include <string_view>
 
-#include <velmora/platform/resources/FileReading.h>
 #include <velmora/platform/resources/PropertyList.h>
+#include <velmora/platform/system/FileReading.h>
 
 namespace {
 

@@ -8,7 +8,7 @@
 #include <app/Errors.h>
 #include <app/RequestScope.h>
 #include <app/request/JsonRequest.h>
-#include <velmora/platform/resources/HeldSignals.h>
+#include <velmora/platform/system/HeldSignals.h>
 
 namespace velmora::app {
 namespace {

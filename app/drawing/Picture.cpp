@@ -14,7 +14,7 @@
 #include <app/drawing/ViewMaking.h>
 #include <velmora/foundation/SettingsModel.h>
 #include <velmora/platform/graphics/cairo/CairoCanvas.h>
-#include <velmora/platform/resources/Log.h>
+#include <velmora/platform/system/Log.h>
 #include <velmora/platform/ui/Device.h>
 #include <velmora/service/MoonPhaseData.h>
 #include <velmora/views/OncePerProcess.h>

@@ -4,7 +4,7 @@
 
 #include <app/drawing/DrawableView.h>
 #include <velmora/foundation/SettingsModel.h>
-#include <velmora/platform/resources/Log.h>
+#include <velmora/platform/system/Log.h>
 #include <velmora/platform/time/Locale.h>
 #include <velmora/platform/ui/Device.h>
 #include <velmora/views/VelmoraTheme.h>

@@ -21,7 +21,8 @@ constexpr int mostLines = 400;
 constexpr const char* hiddenNamespace = R"(namespace [[gnu::visibility("hidden")]])";
 
 /// From the bottom up.
-constexpr std::array layers = {"velmora/platform/time",
+constexpr std::array layers = {"velmora/platform/system",
+                               "velmora/platform/time",
                                "velmora/platform/resources",
                                "velmora/platform/events",
                                "velmora/foundation",

@@ -7,8 +7,8 @@
 #include <velmora/phases/MoonPhaseCalc.h>
 #include <velmora/platform/resources/Bundle.h>
 #include <velmora/platform/resources/Image.h>
-#include <velmora/platform/resources/Log.h>
 #include <velmora/platform/resources/PropertyList.h>
+#include <velmora/platform/system/Log.h>
 #include <velmora/service/EclipseCatalogue.h>
 #include <velmora/service/MoonPhaseData.h>
 

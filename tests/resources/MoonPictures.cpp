@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include <tests/support/SourceDirectory.h>
-#include <velmora/platform/resources/FileReading.h>
+#include <velmora/platform/system/FileReading.h>
 
 namespace velmora::shipped {
 

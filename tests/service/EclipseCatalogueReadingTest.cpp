@@ -1,5 +1,5 @@
 #include <tests/service/ServiceTest.h>
-#include <velmora/platform/resources/Log.h>
+#include <velmora/platform/system/Log.h>
 
 namespace velmora {
 namespace {

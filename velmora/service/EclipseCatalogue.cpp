@@ -5,7 +5,7 @@
 #include <string>
 
 #include <velmora/platform/resources/Bundle.h>
-#include <velmora/platform/resources/Log.h>
+#include <velmora/platform/system/Log.h>
 #include <velmora/platform/time/DateFormatter.h>
 
 namespace velmora {

@@ -1,5 +1,5 @@
 #include <velmora/platform/resources/Bundle.h>
-#include <velmora/platform/resources/FileReading.h>
+#include <velmora/platform/system/FileReading.h>
 #include <velmora/service/EclipseCatalogue.h>
 #include <velmora/service/MoonPhaseData.h>
 

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include <velmora/platform/resources/FileReading.h>
+#include <velmora/platform/system/FileReading.h>
 
 namespace velmora {
 namespace {

@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <tests/platform/resources/TemporaryFolder.h>
-#include <velmora/platform/resources/FileReading.h>
+#include <velmora/platform/system/FileReading.h>
 
 namespace velmora {
 namespace {

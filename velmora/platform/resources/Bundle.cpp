@@ -4,7 +4,7 @@
 #include <utility>
 
 #include <velmora/platform/resources/BundleContents.h>
-#include <velmora/platform/resources/FileReading.h>
+#include <velmora/platform/system/FileReading.h>
 
 namespace velmora {
 

@@ -1,6 +1,6 @@
 #include <velmora/platform/resources/PropertyList.h>
 
-#include <velmora/platform/resources/FileReading.h>
+#include <velmora/platform/system/FileReading.h>
 
 namespace velmora {
 

@@ -7,13 +7,13 @@
 #include <ostream>
 #include <utility>
 
-#include <velmora/platform/graphics/ReplacedFile.h>
 #include <velmora/platform/graphics/cairo/CairoDrawing.h>
 #include <velmora/platform/graphics/cairo/CairoEncoder.h>
 #include <velmora/platform/graphics/cairo/CairoImage.h>
 #include <velmora/platform/graphics/cairo/CairoPath.h>
 #include <velmora/platform/graphics/cairo/CairoText.h>
 #include <velmora/platform/graphics/cairo/PangoTextEngine.h>
+#include <velmora/platform/system/ReplacedFile.h>
 
 namespace velmora {
 namespace {

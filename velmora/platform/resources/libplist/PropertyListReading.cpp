@@ -4,9 +4,9 @@
 #include <cstdlib>
 #include <memory>
 
-#include <velmora/platform/resources/FileReading.h>
 #include <velmora/platform/resources/PropertyList.h>
 #include <velmora/platform/resources/libplist/ListLimits.h>
+#include <velmora/platform/system/FileReading.h>
 
 namespace velmora {
 namespace {

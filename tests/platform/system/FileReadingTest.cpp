@@ -1,4 +1,4 @@
-#include <velmora/platform/resources/FileReading.h>
+#include <velmora/platform/system/FileReading.h>
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include <velmora/platform/resources/Log.h>
+#include <velmora/platform/system/Log.h>
 
 #include <iostream>
 #include <mutex>

@@ -1,4 +1,4 @@
-#include <velmora/platform/graphics/ReplacedFile.h>
+#include <velmora/platform/system/ReplacedFile.h>
 
 #include <cerrno>
 #include <fstream>
@@ -6,9 +6,9 @@
 #include <sstream>
 #include <system_error>
 
-#include <velmora/platform/resources/HeldSignals.h>
+#include <velmora/platform/system/HeldSignals.h>
 
-namespace [[gnu::visibility("hidden")]] velmora {
+namespace velmora {
 namespace {
 
 namespace fs = std::filesystem;

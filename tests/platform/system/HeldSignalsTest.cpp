@@ -1,4 +1,4 @@
-#include <velmora/platform/resources/HeldSignals.h>
+#include <velmora/platform/system/HeldSignals.h>
 
 #include <gtest/gtest.h>
 
