@@ -23,6 +23,10 @@ TEST(Architecture, EveryFolderIncludesOnlyFoldersBelowIt) {
   EXPECT_EQ(upwardIncludes(productTree()), Breaches{});
 }
 
+TEST(Architecture, TheFixedCalendarAndTheAlmanacKeepApart) {
+  EXPECT_EQ(almanacInFixedFolders(productTree()), Breaches{});
+}
+
 TEST(Architecture, OnlyAdaptersReachThirdPartyHeaders) {
   EXPECT_EQ(thirdPartyOutsideAdapters(productTree()), Breaches{});
 }
@@ -59,6 +63,16 @@ TEST(ArchitectureRules, AnUpwardIncludeIsABreach) {
       {"velmora/views/C.cpp", sourceFile("#include <velmora/service/B.h>\n#include <app/D.h>\n")}};
   EXPECT_EQ(upwardIncludes(tree), (Breaches{"velmora/astronomy/A.cpp includes velmora/service/B.h",
                                             "velmora/views/C.cpp includes app/D.h"}));
+}
+
+TEST(ArchitectureRules, TheFixedCalendarAndTheAlmanacMeetInTheServiceOnly) {
+  const SourceTree tree = {
+      {"velmora/almanac/A.cpp", sourceFile("#include <velmora/foundation/B.h>\n")},
+      {"velmora/ephemeris/C.cpp", sourceFile("#include <velmora/platform/time/Instant.h>\n")},
+      {"velmora/phases/D.cpp", sourceFile("#include <velmora/ephemeris/E.h>\n")},
+      {"velmora/service/F.cpp", sourceFile("#include <velmora/almanac/G.h>\n")}};
+  EXPECT_EQ(upwardIncludes(tree), (Breaches{"velmora/almanac/A.cpp includes velmora/foundation/B.h"}));
+  EXPECT_EQ(almanacInFixedFolders(tree), (Breaches{"velmora/phases/D.cpp includes velmora/ephemeris/E.h"}));
 }
 
 TEST(ArchitectureRules, AThirdPartyHeaderIsABreachEvenThroughAnAdapter) {

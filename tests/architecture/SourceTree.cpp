@@ -23,6 +23,8 @@ constexpr const char* hiddenNamespace = R"(namespace [[gnu::visibility("hidden")
 /// From the bottom up.
 constexpr std::array layers = {"velmora/platform/system",
                                "velmora/platform/time",
+                               "velmora/ephemeris",
+                               "velmora/almanac",
                                "velmora/platform/resources",
                                "velmora/platform/events",
                                "velmora/foundation",
@@ -34,6 +36,10 @@ constexpr std::array layers = {"velmora/platform/system",
                                "velmora/views",
                                "app",
                                "tests"};
+
+/// The folders of the calendar's fixed arithmetic, which the almanac knows nothing of, nor they of it.
+constexpr std::array fixedFolders = {"velmora/foundation/", "velmora/astronomy/", "velmora/phases/"};
+constexpr std::array almanacFolders = {"velmora/ephemeris/", "velmora/almanac/"};
 
 const std::set<std::string> adapters = {"cairo", "cctz", "icu", "libplist", "png", "posix"};
 const std::set<std::string> librariesOfProgram = {"CLI/CLI.hpp", "dlfcn.h", "nlohmann/json.hpp", "unistd.h"};
@@ -50,10 +56,14 @@ bool isAdapter(const std::string& path) {
   return adapters.count(std::filesystem::path(path).parent_path().filename().string()) != 0;
 }
 
-bool isOfProject(const std::string& include) {
-  constexpr std::array folders = {"velmora/", "app/", "tests/", "examples/"};
+template <class Folders>
+bool liesIn(const Folders& folders, const std::string& path) {
   return std::any_of(folders.begin(), folders.end(),
-                     [&](const char* folder) { return include.starts_with(folder); });
+                     [&](const char* folder) { return path.starts_with(folder); });
+}
+
+bool isOfProject(const std::string& include) {
+  return liesIn(std::array{"velmora/", "app/", "tests/", "examples/"}, include);
 }
 
 /// Headers of the C++ library have neither folder nor ending.
@@ -125,6 +135,17 @@ std::vector<std::string> upwardIncludes(const SourceTree& tree) {
     for (const std::string& include : file.includes) {
       const auto included = layerOf(include);
       if (own && included && *included > *own) breaches.push_back(path + " includes " + include);
+    }
+  }
+  return breaches;
+}
+
+std::vector<std::string> almanacInFixedFolders(const SourceTree& tree) {
+  std::vector<std::string> breaches;
+  for (const auto& [path, file] : tree) {
+    if (!liesIn(fixedFolders, path)) continue;
+    for (const std::string& include : file.includes) {
+      if (liesIn(almanacFolders, include)) breaches.push_back(path + " includes " + include);
     }
   }
   return breaches;

@@ -27,6 +27,10 @@ SourceTree readSourceTree(const std::vector<std::string>& folders);
 /// A folder includes only folders below it.
 std::vector<std::string> upwardIncludes(const SourceTree& tree);
 
+/// The calendar's fixed arithmetic never includes the almanac, which is as true as it can be; the layers
+/// forbid the other way round.
+std::vector<std::string> almanacInFixedFolders(const SourceTree& tree);
+
 /// Only an adapter reaches a third-party header, be it through headers of the project. The host program may
 /// include what it is made with besides: the command line's and JSON's libraries, and of the system the
 /// terminal and the loading of a library.

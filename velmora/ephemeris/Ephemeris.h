@@ -13,9 +13,11 @@ namespace velmora::ephemeris {
 /// The bodies that the ephemeris knows.
 enum class Body { sun, moon };
 
-/// A vector of the equator of date, kilometres: x to the equinox, z to the celestial north pole.
+/// A vector of the true equator of date.
 struct Vector {
-  double x = 0.0, y = 0.0, z = 0.0;
+  double x = 0.0;  ///< km, to the equinox
+  double y = 0.0;  ///< km, to right ascension 6 h
+  double z = 0.0;  ///< km, to the celestial north pole
   friend bool operator==(const Vector&, const Vector&) = default;
 };
 
@@ -59,8 +61,8 @@ class Paths {
   /// ascension. The instant must lie in the interval.
   Vector vector(Body body, Instant instant) const;
 
-  Instant from() const;
-  Instant to() const;
+  Instant from() const;  ///< the first instant of the interval
+  Instant to() const;    ///< the last one
 };
 
 /// Greenwich mean sidereal time in radians, [0, 2π), by the Earth's rotation of the instant (IAU 2006).
@@ -68,7 +70,9 @@ double meanSiderealTime(Instant instant);
 
 /// Nutation in longitude and obliquity, and the true obliquity of the ecliptic, radians.
 struct Nutation {
-  double longitude = 0.0, obliquity = 0.0, trueObliquity = 0.0;
+  double longitude = 0.0;      ///< nutation in longitude
+  double obliquity = 0.0;      ///< nutation in obliquity
+  double trueObliquity = 0.0;  ///< mean obliquity of date and its nutation
 };
 Nutation nutation(Instant instant);
 

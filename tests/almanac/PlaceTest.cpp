@@ -1,0 +1,36 @@
+#include <velmora/almanac/Place.h>
+
+#include <limits>
+
+#include <gtest/gtest.h>
+
+namespace velmora::almanac {
+namespace {
+
+constexpr double nan = std::numeric_limits<double>::quiet_NaN();
+constexpr double infinity = std::numeric_limits<double>::infinity();
+
+TEST(AlmanacPlace, IsValidUpToThePolesAndTheDateLine) {
+  EXPECT_TRUE(isValid({}));
+  EXPECT_TRUE(isValid({.latitude = 90, .longitude = 180}));
+  EXPECT_TRUE(isValid({.latitude = -90, .longitude = -180, .height = 2835}));
+}
+
+TEST(AlmanacPlace, IsNotValidOutsideTheEarthOrBelowItsHorizon) {
+  EXPECT_FALSE(isValid({.latitude = 90.001}));
+  EXPECT_FALSE(isValid({.latitude = -90.001}));
+  EXPECT_FALSE(isValid({.longitude = 180.001}));
+  EXPECT_FALSE(isValid({.longitude = -180.001}));
+  EXPECT_FALSE(isValid({.height = -0.001}));
+}
+
+TEST(AlmanacPlace, IsNotValidWithoutFiniteNumbers) {
+  for (const double number : {nan, infinity, -infinity}) {
+    EXPECT_FALSE(isValid({.latitude = number}));
+    EXPECT_FALSE(isValid({.longitude = number}));
+    EXPECT_FALSE(isValid({.height = number}));
+  }
+}
+
+}  // namespace
+}  // namespace velmora::almanac
