@@ -1,9 +1,13 @@
 #pragma once
 
 #include <chrono>
+#include <cstddef>
+#include <functional>
 #include <optional>
+#include <span>
 #include <vector>
 
+#include <velmora/almanac/Executor.h>
 #include <velmora/almanac/Place.h>
 #include <velmora/ephemeris/Ephemeris.h>
 #include <velmora/platform/time/Instant.h>
@@ -32,7 +36,7 @@ struct Event {
   Body body = Body::sun;
   EventKind kind = EventKind::rise;
   double azimuth = 0.0;   ///< degrees [0, 360), north is zero and east is +90°
-  double altitude = 0.0;  ///< apparent (refracted) altitude of the centre, degrees
+  double altitude = 0.0;  ///< apparent (refracted) altitude of the centre, degrees; as `Position`'s
 
   friend bool operator==(const Event&, const Event&) = default;
 };
@@ -52,8 +56,8 @@ struct Day {
   friend bool operator==(const Day&, const Day&) = default;
 };
 
-/// Which events to find besides rise and set of both bodies; those left out cost nothing. Without
-/// `astronomicalTwilight` a day's darkness is still right.
+/// Which events to find besides rise and set of both bodies; those left out cost little. A day's darkness is
+/// right without twilight, too.
 struct EventChoice {
   bool twilight = true;  ///< the three of them
   bool transits = true;
@@ -61,7 +65,7 @@ struct EventChoice {
   friend bool operator==(const EventChoice&, const EventChoice&) = default;
 };
 
-/// The events of [start, end), of any length up to 200 years; none for a place or an interval that is not
+/// The events of [start, end), of any length up to 201 years; none for a place or an interval that is not
 /// valid or not covered.
 std::optional<Day> day(const Place& place, Instant start, Instant end, const EventChoice& choice = {},
                        const Convention& convention = {});
@@ -77,16 +81,29 @@ std::vector<Day> days(const Place& place, const TimeZone& zone, std::chrono::yea
                       std::chrono::year_month_day last, const EventChoice& choice = {},
                       const Convention& convention = {});
 
-/// The events of [start, end) at many places: the paths of the bodies are prepared once. `paths` must cover
-/// the interval.
+/// The same over paths that were prepared before, for many questions about one stretch of time; none where
+/// they do not cover the interval.
 std::optional<Day> day(const ephemeris::Paths& paths, const Place& place, Instant start, Instant end,
                        const EventChoice& choice = {}, const Convention& convention = {});
 
-/// The first and the last instant of a civil day in the zone, as [start, end); none for a skipped day.
+/// Takes the day of the place of that number; the reference holds until it returns.
+using DayVisitor = std::function<void(std::size_t place, const Day& day)>;
+
+/// The events of [start, end) at many places, a map of the world for instance, on the threads of `run`, which
+/// call `use` for one place after the other in no certain order. Places that are not valid are left out.
+/// Whether the interval and the convention are valid and covered; if not, there is nothing.
+bool forEachPlace(std::span<const Place> places, Instant start, Instant end, const DayVisitor& use,
+                  const Executor& run = {}, const EventChoice& choice = {},
+                  const Convention& convention = {});
+
+/// The half-open [start, end).
 struct Interval {
   Instant start{}, end{};
   friend bool operator==(const Interval&, const Interval&) = default;
 };
+
+/// The civil day in the zone: from the first instant at which its clocks show the date, until they show the
+/// next. None for a day that they skip whole.
 std::optional<Interval> civilDay(const TimeZone& zone, std::chrono::year_month_day date);
 
 /// When the centre of a body passes an altitude.
@@ -101,7 +118,7 @@ struct Crossing {
 /// for what is not valid or not covered.
 std::vector<Crossing> crossings(const Place& place, Body body, double altitude, Instant from, Instant to);
 
-/// The first such event after the instant within a year; none if there is none.
+/// The first such event after the instant, within 366 days and the years covered; none if there is none.
 std::optional<Event> next(const Place& place, Body body, EventKind kind, Instant after,
                           const Convention& convention = {});
 

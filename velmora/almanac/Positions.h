@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <span>
 
 #include <velmora/almanac/Place.h>
 #include <velmora/ephemeris/Ephemeris.h>
@@ -28,18 +29,21 @@ struct Position {
 
 /// Where the body stands at the instant, seen from the place; none for what is not valid or not covered.
 std::optional<Position> position(const Place& place, Body body, Instant at);
+/// The same of many instants, quicker for each; NaN in every field where there is none. `out` has the size of
+/// `instants`.
+void positions(const Place& place, Body body, std::span<const Instant> instants, std::span<Position> out);
 
-/// Refraction in degrees of a true altitude (degrees) at 1010 hPa and 10 °C; 0 below −1°. Sæmundsson, Sky and
-/// Telescope 72 (1986), as in Meeus, "Astronomical Algorithms", formula 16.4.
+/// Refraction in degrees of a true altitude (degrees) at 1010 hPa and 10 °C; 0 at −1° and below. Sæmundsson,
+/// Sky and Telescope 72 (1986), as in Meeus, "Astronomical Algorithms", formula 16.4.
 double refraction(double trueAltitude);
 
 /// How the Moon is lit. Angles in degrees.
 struct Illumination {
-  double fraction = 0.0;     ///< lit part of the disc, 0..1
-  bool isWaxing = false;     ///< the Moon's longitude is less than 180° ahead of the Sun's
-  double elongation = 0.0;   ///< of the Moon's longitude from the Sun's, [0, 360): 0 new, 90 first quarter
-  double phaseAngle = 0.0;   ///< Sun - Moon - observer, 0..180
-  double brightLimbAngle = 0.0;   ///< position angle of the middle of the lit limb, from north to east, [0, 360)
+  double fraction = 0.0;    ///< lit part of the disc, 0..1
+  bool isWaxing = false;    ///< the Moon's longitude is less than 180° ahead of the Sun's
+  double elongation = 0.0;  ///< of the Moon's longitude from the Sun's, [0, 360): 0 new, 90 first quarter
+  double phaseAngle = 0.0;  ///< Sun - Moon - observer, 0..180
+  double brightLimbAngle = 0.0;   ///< of the lit limb's middle, from the sky's north by its east, [0, 360)
   double parallacticAngle = 0.0;  ///< from the north of the sky to the zenith at the Moon, (−180, 180]
   double tilt = 0.0;  ///< of the lit limb from straight up as seen from the place, counterclockwise [0, 360)
 
