@@ -2,7 +2,9 @@ set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
-set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+if(VELMORA_PLATFORM STREQUAL native)
+  set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+endif()
 if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
   set(CMAKE_BUILD_TYPE Release)
 endif()
@@ -19,7 +21,8 @@ add_library(velmora_compiler_settings INTERFACE)
 target_compile_options(velmora_compiler_settings INTERFACE
   -ffp-contract=off -fno-math-errno
   -Wall -Wextra -Wpedantic -Wconversion -Wshadow
-  $<$<CONFIG:Release>:-fno-semantic-interposition>  # the library calls its own functions, whoever links it
+  # The library calls its own functions, whoever links it.
+  $<$<AND:$<CONFIG:Release>,$<STREQUAL:${VELMORA_PLATFORM},native>>:-fno-semantic-interposition>
   # At -O3 g++ 12 sees copies of impossible lengths where a text is joined to a literal (GCC bug 105651).
   $<$<AND:$<CONFIG:Release>,$<CXX_COMPILER_ID:GNU>,$<VERSION_LESS:$<CXX_COMPILER_VERSION>,13>>:-Wno-restrict>)
 if(VELMORA_WARNINGS_AS_ERRORS)

@@ -1,3 +1,15 @@
+# What lies under the library: the libraries of a system, or what a browser gives, compiled by emscripten.
+if(EMSCRIPTEN)
+  set(platform browser)
+else()
+  set(platform native)
+endif()
+set(VELMORA_PLATFORM ${platform} CACHE STRING "The adapters to build: native or browser")
+set_property(CACHE VELMORA_PLATFORM PROPERTY STRINGS native browser)
+if(NOT VELMORA_PLATFORM STREQUAL platform)
+  message(FATAL_ERROR "VELMORA_PLATFORM is ${VELMORA_PLATFORM}: this compiler builds for ${platform}")
+endif()
+
 option(VELMORA_BUILD_APP "Build the host program" ${PROJECT_IS_TOP_LEVEL})
 option(VELMORA_BUILD_TESTS "Build the tests" ${PROJECT_IS_TOP_LEVEL})
 option(VELMORA_BUILD_EXAMPLES "Build the examples; with the tests they are run" ${VELMORA_BUILD_TESTS})

@@ -1,7 +1,7 @@
-#include <app/commands/Commands.h>
+#include <app/commands/Phases.h>
 
-#include <app/answers/PhaseListing.h>
-#include <app/text/Errors.h>
+#include <app/Errors.h>
+#include <app/PhaseListing.h>
 #include <app/text/PhaseText.h>
 
 namespace velmora::app {
@@ -30,6 +30,15 @@ std::string text(const Query& query) {
 
 }  // namespace
 
-const Answer phasesAnswer{json, text};
+const Command& phasesCommand() {
+  static const Command command{
+      "phases",
+      "new moons, quarters and full moons of a range of days",
+      optionList({placeOptions(), {"from", "to", "phase"}, outputOptions(), generalOptions()}),
+      "",
+      json,
+      text};
+  return command;
+}
 
 }  // namespace velmora::app

@@ -1,9 +1,9 @@
-#include <app/commands/Commands.h>
+#include <app/commands/RiseSet.h>
 
-#include <app/answers/Days.h>
-#include <app/answers/RiseSetDay.h>
+#include <app/Days.h>
+#include <app/RiseSetDay.h>
+#include <app/request/ValueTexts.h>
 #include <app/text/TextTable.h>
-#include <app/text/ValueTexts.h>
 
 namespace velmora::app {
 namespace {
@@ -77,6 +77,15 @@ std::string text(const Query& query) {
 
 }  // namespace
 
-const Answer riseSetAnswer{json, text};
+const Command& riseSetCommand() {
+  static const Command command{
+      "riseset",
+      "rise, set and twilight of a day or of each day of a range",
+      optionList({placeOptions(), {"date", "from", "to", "twilight"}, outputOptions(), generalOptions()}),
+      "",
+      json,
+      text};
+  return command;
+}
 
 }  // namespace velmora::app

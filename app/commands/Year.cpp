@@ -1,9 +1,9 @@
-#include <app/commands/Commands.h>
+#include <app/commands/Year.h>
 
-#include <app/answers/PhaseListing.h>
+#include <app/PhaseListing.h>
+#include <app/request/ValueTexts.h>
 #include <app/text/EnglishDate.h>
 #include <app/text/PhaseText.h>
-#include <app/text/ValueTexts.h>
 #include <velmora/foundation/VelmoraCalendar.h>
 
 namespace velmora::app {
@@ -64,6 +64,14 @@ std::string text(const Query& query) {
 
 }  // namespace
 
-const Answer yearAnswer{json, text};
+const Command& yearCommand() {
+  static const Command command{"year",
+                               "new moons, quarters and full moons of a year",
+                               optionList({{"year"}, placeOptions(), outputOptions(), generalOptions()}),
+                               "year",
+                               json,
+                               text};
+  return command;
+}
 
 }  // namespace velmora::app

@@ -2,7 +2,7 @@
 
 #include <dlfcn.h>
 
-#include <app/text/Errors.h>
+#include <app/Errors.h>
 
 namespace velmora::app {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include <app/answers/Query.h>
+#include <app/commands/Command.h>
 #include <velmora/platform/ui/View.h>
 
 namespace velmora::app {

@@ -7,15 +7,19 @@
 #include <string_view>
 #include <vector>
 
-#include <app/place/Place.h>
-#include <app/request/DrawingRequest.h>
-#include <app/text/CivilTime.h>
+#include <app/drawing/DrawingRequest.h>
 #include <velmora/platform/time/Instant.h>
 #include <velmora/platform/time/Locale.h>
+#include <velmora/platform/time/TimeZone.h>
 
 namespace velmora::app {
 
 struct Command;
+
+/// A day on the calendar, of no zone.
+using CivilDate = std::chrono::year_month_day;
+/// A reading of a clock, in minutes after 00:00.
+using ClockTime = std::chrono::minutes;
 
 enum class Body { moon, sun };
 /// In the order of the rise/set search's twilight index.
@@ -28,7 +32,12 @@ struct Request {
   const Command* command = nullptr;
   std::vector<std::string_view> given;  ///< the names of the options that were given
 
-  PlaceChoice place;
+  std::optional<double> latitude;   ///< degrees, north positive
+  std::optional<double> longitude;  ///< degrees, east positive
+  std::optional<TimeZone> zone;
+  std::optional<std::int64_t> gmtOffset;  ///< seconds, east positive
+  std::optional<std::string> city;
+  std::optional<std::string> name;
 
   std::optional<CivilDate> date;
   std::optional<ClockTime> time;

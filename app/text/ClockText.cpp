@@ -2,7 +2,7 @@
 
 #include <charconv>
 
-#include <app/text/ValueTexts.h>
+#include <app/request/ValueTexts.h>
 #include <velmora/platform/time/NumberText.h>
 
 namespace velmora::app {

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include <app/text/CivilTime.h>
+#include <app/request/Request.h>
 
 namespace velmora::app {
 

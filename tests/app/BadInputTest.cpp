@@ -1,4 +1,4 @@
-#include <app/text/Errors.h>
+#include <app/Errors.h>
 
 #include "AppTest.h"
 

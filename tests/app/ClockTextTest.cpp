@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <app/text/ValueTexts.h>
+#include <app/request/ValueTexts.h>
 
 namespace velmora::app {
 namespace {

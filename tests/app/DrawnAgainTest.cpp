@@ -1,6 +1,6 @@
 #include <thread>
 
-#include <app/request/DrawableView.h>
+#include <app/drawing/DrawableView.h>
 
 #include "PictureTesting.h"
 

@@ -1,4 +1,4 @@
-#include <app/answers/Illumination.h>
+#include <app/Illumination.h>
 
 #include <cmath>
 #include <fstream>

@@ -1,4 +1,4 @@
-#include <app/answers/RequestScope.h>
+#include <app/RequestScope.h>
 
 #include <velmora/foundation/SettingsModel.h>
 #include <velmora/service/MoonPhaseData.h>

@@ -1,4 +1,4 @@
-#include <app/text/ValueTexts.h>
+#include <app/request/ValueTexts.h>
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,5 @@
 #include <velmora/platform/resources/Bundle.h>
 
-#include <system_error>
 #include <utility>
 
 #include <velmora/platform/resources/BundleContents.h>
@@ -21,8 +20,7 @@ const std::filesystem::path& Bundle::directory() const { return _contents->direc
 std::optional<std::filesystem::path> Bundle::pathForResource(const std::string& name, const std::string& type,
                                                              const std::string& folder) const {
   std::filesystem::path path = directory() / folder / (name + "." + type);
-  std::error_code error;
-  if (!std::filesystem::is_regular_file(path, error)) return std::nullopt;
+  if (!isFile(path)) return std::nullopt;
   return path;
 }
 

@@ -1,7 +1,8 @@
 #include <velmora/platform/resources/ResourceLocation.h>
 
 #include <cstdlib>
-#include <system_error>
+
+#include <velmora/platform/system/FileReading.h>
 
 namespace [[gnu::visibility("hidden")]] velmora {
 namespace {
@@ -16,8 +17,7 @@ std::filesystem::path installedDirectory(const std::filesystem::path& installed)
     for (int depth = 0; depth < kMaximumDepthUnderPrefix; ++depth) {
       directory = directory.parent_path();
       const std::filesystem::path candidate = directory / installed;
-      std::error_code error;
-      if (std::filesystem::is_directory(candidate, error)) return candidate;
+      if (isFolder(candidate)) return candidate;
       if (expected.empty()) expected = candidate;
     }
   }

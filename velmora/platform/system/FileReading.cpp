@@ -1,8 +1,6 @@
 #include <velmora/platform/system/FileReading.h>
 
 #include <cstdint>
-#include <fstream>
-#include <system_error>
 
 namespace [[gnu::visibility("hidden")]] velmora {
 namespace {
@@ -27,17 +25,6 @@ bool isScalarValue(std::uint32_t codePoint) {
 }
 
 }  // namespace
-
-std::optional<std::string> readFile(const std::filesystem::path& path, std::size_t maximumSize) {
-  std::error_code error;
-  if (!std::filesystem::is_regular_file(path, error)) return std::nullopt;
-  const auto size = std::filesystem::file_size(path, error);
-  if (error || size > maximumSize) return std::nullopt;
-  std::ifstream file(path, std::ios::binary);
-  std::string bytes(static_cast<std::size_t>(size), '\0');
-  if (!file.read(bytes.data(), static_cast<std::streamsize>(size))) return std::nullopt;
-  return bytes;
-}
 
 std::optional<std::string> readTextFile(const std::filesystem::path& path, std::size_t maximumSize) {
   std::optional<std::string> bytes = readFile(path, maximumSize);

@@ -11,6 +11,10 @@ namespace [[gnu::visibility("hidden")]] velmora {
 /// The largest resource that is read, in bytes: far above any that ships, so that a wrong file costs little.
 inline constexpr std::size_t kMaximumResourceSize = std::size_t{16} << 20;
 
+/// Whether a regular file, or a folder, lies at the path.
+bool isFile(const std::filesystem::path& path);
+bool isFolder(const std::filesystem::path& path);
+
 /// The bytes of a regular file; none if it is missing, unreadable, a folder or a device, or larger than that
 /// many bytes.
 std::optional<std::string> readFile(const std::filesystem::path& path,

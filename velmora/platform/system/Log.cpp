@@ -1,6 +1,6 @@
 #include <velmora/platform/system/Log.h>
 
-#include <iostream>
+#include <cstdio>
 #include <mutex>
 #include <utility>
 
@@ -25,7 +25,8 @@ void Log::write(std::string_view text) {
   if (current) {
     current(text);
   } else {
-    std::cerr << text << '\n';
+    const std::string line = std::string(text) + '\n';
+    std::fwrite(line.data(), 1, line.size(), stderr);
   }
 }
 

@@ -3,25 +3,22 @@
 #include <array>
 #include <cmath>
 #include <cstdint>
-#include <iomanip>
-#include <locale>
-#include <sstream>
+#include <cstdio>
+#include <string_view>
 
 namespace velmora {
 namespace {
 
-std::ostringstream fixedPointStream() {
-  std::ostringstream stream;
-  stream.imbue(std::locale::classic());
-  stream << std::fixed;
-  return stream;
-}
-
-std::string decimalTextByStream(double number, int fractionDigits) {
-  thread_local std::ostringstream stream = fixedPointStream();  // costs more to make than to use
-  stream.str("");
-  stream << std::setprecision(fractionDigits) << number;
-  return stream.str();
+/// As the C library prints it, with a point in place of the mark of the C locale.
+std::string printedText(double number, int fractionDigits) {
+  constexpr const char* format = "%.*f";
+  std::string text(static_cast<std::size_t>(std::snprintf(nullptr, 0, format, fractionDigits, number)), '\0');
+  std::snprintf(text.data(), text.size() + 1, format, fractionDigits, number);
+  if (!std::isfinite(number)) return text;
+  constexpr std::string_view digits = "0123456789";
+  const std::size_t mark = text.find_first_not_of(digits, std::signbit(number) ? 1 : 0);
+  if (mark == text.npos) return text;
+  return text.replace(mark, text.find_first_of(digits, mark) - mark, ".");
 }
 
 /// The whole number nearest to number · scale; of two as near the even one. Decided on the exact product: its
@@ -43,9 +40,9 @@ constexpr double largestScaled = 9e15;  // below 2⁵³
 std::string decimalText(double number, int fractionDigits) {
   if (std::isnan(number)) return "nan";
   const auto digits = static_cast<std::size_t>(fractionDigits);
-  if (digits >= powersOfTen.size()) return decimalTextByStream(number, fractionDigits);
+  if (digits >= powersOfTen.size()) return printedText(number, fractionDigits);
   const double scale = powersOfTen[digits];
-  if (!(std::abs(number) * scale < largestScaled)) return decimalTextByStream(number, fractionDigits);
+  if (!(std::abs(number) * scale < largestScaled)) return printedText(number, fractionDigits);
 
   std::int64_t rest = nearestWholeProduct(std::abs(number), scale);
   std::array<char, 24> text;  // written from its end

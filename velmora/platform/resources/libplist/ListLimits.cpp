@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace [[gnu::visibility("hidden")]] velmora {
@@ -71,12 +72,13 @@ class BinaryList {
 
   static bool isSize(std::size_t size) { return size >= 1 && size <= 8; }
 
-  /// The big-endian number at that place, if it lies within the list.
-  std::optional<std::uint64_t> number(std::size_t offset, std::size_t size) const {
+  /// The big-endian number at that place, if it lies within the list and is a size that memory can have.
+  std::optional<std::size_t> number(std::size_t offset, std::size_t size) const {
     if (offset > _bytes.size() || _bytes.size() - offset < size) return std::nullopt;
     std::uint64_t value = 0;
     for (const char byte : _bytes.substr(offset, size)) value = value << 8 | static_cast<std::uint8_t>(byte);
-    return value;
+    if (!std::in_range<std::size_t>(value)) return std::nullopt;
+    return static_cast<std::size_t>(value);
   }
 
   std::optional<Head> head(std::size_t object) const {

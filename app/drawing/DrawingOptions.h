@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string_view>
+#include <vector>
+
+#include <app/request/Options.h>
+
+namespace velmora::app {
+
+/// The options of pictures, part of `allOptions`.
+std::vector<Option> drawingOptions();
+
+/// The names of those that every picture takes.
+const std::vector<std::string_view>& pictureOptions();
+
+/// The names of those that only some views take.
+const std::vector<std::string_view>& viewOptions();
+
+}  // namespace velmora::app

@@ -1,0 +1,29 @@
+#include <fstream>
+#include <system_error>
+
+#include <velmora/platform/system/FileReading.h>
+
+namespace [[gnu::visibility("hidden")]] velmora {
+
+bool isFile(const std::filesystem::path& path) {
+  std::error_code error;
+  return std::filesystem::is_regular_file(path, error);
+}
+
+bool isFolder(const std::filesystem::path& path) {
+  std::error_code error;
+  return std::filesystem::is_directory(path, error);
+}
+
+std::optional<std::string> readFile(const std::filesystem::path& path, std::size_t maximumSize) {
+  if (!isFile(path)) return std::nullopt;
+  std::error_code error;
+  const auto size = std::filesystem::file_size(path, error);
+  if (error || size > maximumSize) return std::nullopt;
+  std::ifstream file(path, std::ios::binary);
+  std::string bytes(static_cast<std::size_t>(size), '\0');
+  if (!file.read(bytes.data(), static_cast<std::streamsize>(size))) return std::nullopt;
+  return bytes;
+}
+
+}  // namespace velmora

@@ -1,0 +1,65 @@
+// Locales by the engine's own Intl. An identifier that no engine can read is the root locale.
+mergeInto(LibraryManager.library, {
+  // Objects that are costly to make, kept under a key; starts anew when it is full.
+  $velmoraKept: '=new Map()',
+  $velmoraKeep__deps: ['$velmoraKept'],
+  $velmoraKeep: function(key, make) {
+    if (!velmoraKept.has(key)) {
+      if (velmoraKept.size >= 512) velmoraKept.clear();
+      velmoraKept.set(key, make());
+    }
+    return velmoraKept.get(key);
+  },
+
+  // The canonical locale of an identifier ("zh_Hans_CN@calendar=chinese"), whether the engine has data for it or
+  // not; null for the root locale.
+  $velmoraLocale: function(identifier) {
+    try {
+      return new Intl.Locale(identifier.split(/[.@]/)[0].replace(/_/g, '-'));
+    } catch (error) {
+      return null;
+    }
+  },
+
+  // The tag of a locale that the engine has data for. What it does not know, it would take for the locale of
+  // the device; English written the international way stands for the root locale.
+  $velmoraTag__deps: ['$velmoraKeep', '$velmoraLocale'],
+  $velmoraTag: function(identifier) {
+    return velmoraKeep('tag ' + identifier, function() {
+      var locale = velmoraLocale(identifier);
+      var isKnown = locale && Intl.DateTimeFormat.supportedLocalesOf([locale.baseName]).length > 0;
+      return isKnown ? locale.baseName : 'en-u-hc-h23';
+    });
+  },
+
+  // The options that override a locale's clock habit: 12, 24 or 0 for none.
+  $velmoraHourOptions: function(hourCycle) {
+    return hourCycle == 0 ? {} : {hourCycle: hourCycle == 24 ? 'h23' : 'h12'};
+  },
+
+  // Language, script and region with blanks between, empty where there is none.
+  velmora_locale_parts__deps: ['$velmoraLocale'],
+  velmora_locale_parts: function(identifier) {
+    var locale = velmoraLocale(UTF8ToString(identifier));
+    if (!locale) return allocateUTF8('  ');
+    return allocateUTF8([locale.language, locale.script, locale.region].map(function(part) {
+      return part || '';
+    }).join(' '));
+  },
+
+  velmora_is_right_to_left__deps: ['$velmoraLocale'],
+  velmora_is_right_to_left: function(identifier) {
+    var locale = velmoraLocale(UTF8ToString(identifier));
+    var script = locale ? locale.maximize().script : '';
+    return 'Adlm Arab Aran Hebr Mand Mend Nkoo Rohg Samr Syrc Thaa Yezi'.split(' ').includes(script) ? 1 : 0;
+  },
+
+  velmora_counts_to_24__deps: ['$velmoraKeep', '$velmoraTag'],
+  velmora_counts_to_24: function(identifier) {
+    var tag = velmoraTag(UTF8ToString(identifier));
+    var cycle = velmoraKeep('cycle ' + tag, function() {
+      return new Intl.DateTimeFormat(tag, {hour: 'numeric'}).resolvedOptions().hourCycle;
+    });
+    return cycle == 'h23' || cycle == 'h24' ? 1 : 0;
+  },
+});
