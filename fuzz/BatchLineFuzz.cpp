@@ -6,16 +6,16 @@
 #include <string>
 #include <string_view>
 
-#include <app/Json.h>
-#include <app/commands/Batch.h>
-#include <app/commands/Draw.h>
+#include <app/program/Batch.h>
+#include <app/request/Command.h>
 #include <app/request/JsonRequest.h>
+#include <app/text/Json.h>
 
 // Such a line is read, but the file that it names is not written.
 static bool asksForPicture(std::string_view line) {
   using namespace velmora::app;
   try {
-    return requestFromJson(jsonFromLine(line)).command == &drawCommand();
+    return requestFromJson(jsonFromLine(line)).command->name == "draw";
   } catch (const std::exception&) {
     return false;
   }

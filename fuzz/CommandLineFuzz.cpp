@@ -8,15 +8,15 @@
 #include <string>
 #include <vector>
 
-#include <app/Run.h>
-#include <app/commands/Draw.h>
+#include <app/program/Run.h>
+#include <app/request/Command.h>
 #include <app/request/CommandLine.h>
 
 // Such arguments are read, but the file that they name is not written.
 static bool asksForPicture(const std::vector<std::string>& arguments) {
   using namespace velmora::app;
   try {
-    return requestFromArguments(arguments).command == &drawCommand();
+    return requestFromArguments(arguments).command->name == "draw";
   } catch (const std::exception&) {
     return false;
   }

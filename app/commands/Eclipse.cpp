@@ -1,8 +1,8 @@
-#include <app/commands/Eclipse.h>
+#include <app/commands/Commands.h>
 
-#include <app/Days.h>
-#include <app/Eclipses.h>
-#include <app/PhaseYear.h>
+#include <app/answers/Days.h>
+#include <app/answers/Eclipses.h>
+#include <app/answers/PhaseYear.h>
 #include <app/text/ClockText.h>
 #include <app/text/EnglishDate.h>
 
@@ -26,14 +26,6 @@ std::string text(const Query& query) {
 
 }  // namespace
 
-const Command& eclipseCommand() {
-  static const Command command{"eclipse",
-                               "the eclipse that is visible on a day",
-                               optionList({placeOptions(), {"date"}, outputOptions(), generalOptions()}),
-                               "",
-                               json,
-                               text};
-  return command;
-}
+const Answer eclipseAnswer{json, text};
 
 }  // namespace velmora::app

@@ -1,7 +1,7 @@
-#include <app/commands/Eclipses.h>
+#include <app/commands/Commands.h>
 
-#include <app/Eclipses.h>
-#include <app/PhaseYear.h>
+#include <app/answers/Eclipses.h>
+#include <app/answers/PhaseYear.h>
 #include <app/text/ClockText.h>
 #include <app/text/EnglishDate.h>
 #include <app/text/TextTable.h>
@@ -34,14 +34,6 @@ std::string text(const Query& query) {
 
 }  // namespace
 
-const Command& eclipsesCommand() {
-  static const Command command{"eclipses",
-                               "all eclipses of a year, and which of them are visible",
-                               optionList({{"year"}, placeOptions(), outputOptions(), generalOptions()}),
-                               "year",
-                               json,
-                               text};
-  return command;
-}
+const Answer eclipsesAnswer{json, text};
 
 }  // namespace velmora::app

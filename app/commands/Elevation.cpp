@@ -1,11 +1,11 @@
-#include <app/commands/Elevation.h>
+#include <app/commands/Commands.h>
 
 #include <algorithm>
 #include <cmath>
 
-#include <app/Days.h>
-#include <app/Errors.h>
-#include <app/Positions.h>
+#include <app/answers/Days.h>
+#include <app/answers/Positions.h>
+#include <app/text/Errors.h>
 #include <velmora/astronomy/RiseAndSetCalc.h>
 #include <velmora/platform/time/NumberText.h>
 
@@ -96,18 +96,6 @@ std::string text(const Query& query) {
 
 }  // namespace
 
-const Command& elevationCommand() {
-  static const Command command{"elevation",
-                               "when the Moon or the Sun crosses an elevation near the horizon",
-                               optionList({{"degrees", "body", "intermediate"},
-                                           placeOptions(),
-                                           {"date", "time"},
-                                           outputOptions(),
-                                           generalOptions()}),
-                               "degrees",
-                               json,
-                               text};
-  return command;
-}
+const Answer elevationAnswer{json, text};
 
 }  // namespace velmora::app

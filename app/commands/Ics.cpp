@@ -1,12 +1,12 @@
-#include <app/commands/Ics.h>
+#include <app/commands/Commands.h>
 
 #include <algorithm>
 #include <array>
 
-#include <app/Days.h>
-#include <app/Eclipses.h>
-#include <app/Errors.h>
-#include <app/PhaseYear.h>
+#include <app/answers/Days.h>
+#include <app/answers/Eclipses.h>
+#include <app/answers/PhaseYear.h>
+#include <app/text/Errors.h>
 #include <app/text/ICalendar.h>
 #include <app/text/PhaseText.h>
 #include <velmora/phases/Phase.h>
@@ -50,14 +50,6 @@ Json json(const Query& query) { return {{"calendar", text(query)}}; }
 
 }  // namespace
 
-const Command& icsCommand() {
-  static const Command command{"ics",
-                               "a calendar file (iCalendar) of phases and visible eclipses",
-                               optionList({placeOptions(), {"from", "to", "json"}, generalOptions()}),
-                               "",
-                               json,
-                               text};
-  return command;
-}
+const Answer icsAnswer{json, text};
 
 }  // namespace velmora::app

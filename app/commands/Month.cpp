@@ -1,13 +1,13 @@
-#include <app/commands/Month.h>
+#include <app/commands/Commands.h>
 
 #include <cmath>
 
-#include <app/Days.h>
-#include <app/Illumination.h>
-#include <app/PhaseListing.h>
-#include <app/request/ValueTexts.h>
+#include <app/answers/Days.h>
+#include <app/answers/Illumination.h>
+#include <app/answers/PhaseListing.h>
 #include <app/text/EnglishDate.h>
 #include <app/text/PhaseText.h>
+#include <app/text/ValueTexts.h>
 
 namespace velmora::app {
 namespace {
@@ -103,14 +103,6 @@ std::string text(const Query& query) {
 
 }  // namespace
 
-const Command& monthCommand() {
-  static const Command command{"month",
-                               "the Moon's phase on each day of a month",
-                               optionList({{"month"}, placeOptions(), outputOptions(), generalOptions()}),
-                               "month",
-                               json,
-                               text};
-  return command;
-}
+const Answer monthAnswer{json, text};
 
 }  // namespace velmora::app

@@ -1,9 +1,9 @@
-#include <app/commands/Next.h>
+#include <app/commands/Commands.h>
 
 #include <algorithm>
 
-#include <app/Days.h>
-#include <app/PhaseListing.h>
+#include <app/answers/Days.h>
+#include <app/answers/PhaseListing.h>
 #include <app/text/PhaseText.h>
 #include <velmora/platform/time/Clock.h>
 
@@ -46,14 +46,6 @@ std::string text(const Query& query) {
 
 }  // namespace
 
-const Command& nextCommand() {
-  static const Command command{"next",
-                               "the next new moon, first quarter, full moon and last quarter",
-                               optionList({placeOptions(), outputOptions(), generalOptions()}),
-                               "",
-                               json,
-                               text};
-  return command;
-}
+const Answer nextAnswer{json, text};
 
 }  // namespace velmora::app

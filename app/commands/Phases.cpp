@@ -1,7 +1,7 @@
-#include <app/commands/Phases.h>
+#include <app/commands/Commands.h>
 
-#include <app/Errors.h>
-#include <app/PhaseListing.h>
+#include <app/answers/PhaseListing.h>
+#include <app/text/Errors.h>
 #include <app/text/PhaseText.h>
 
 namespace velmora::app {
@@ -30,15 +30,6 @@ std::string text(const Query& query) {
 
 }  // namespace
 
-const Command& phasesCommand() {
-  static const Command command{
-      "phases",
-      "new moons, quarters and full moons of a range of days",
-      optionList({placeOptions(), {"from", "to", "phase"}, outputOptions(), generalOptions()}),
-      "",
-      json,
-      text};
-  return command;
-}
+const Answer phasesAnswer{json, text};
 
 }  // namespace velmora::app

@@ -1,7 +1,7 @@
-#include <app/commands/Position.h>
+#include <app/commands/Commands.h>
 
-#include <app/Days.h>
-#include <app/Positions.h>
+#include <app/answers/Days.h>
+#include <app/answers/Positions.h>
 
 namespace velmora::app {
 namespace {
@@ -23,15 +23,6 @@ std::string text(const Query& query) {
 
 }  // namespace
 
-const Command& positionCommand() {
-  static const Command command{
-      "position",
-      "where the Moon or the Sun stands, now or at a date and time",
-      optionList({placeOptions(), {"date", "time", "body"}, outputOptions(), generalOptions()}),
-      "",
-      json,
-      text};
-  return command;
-}
+const Answer positionAnswer{json, text};
 
 }  // namespace velmora::app

@@ -1,9 +1,9 @@
-#include <app/commands/RiseSet.h>
+#include <app/commands/Commands.h>
 
-#include <app/Days.h>
-#include <app/RiseSetDay.h>
-#include <app/request/ValueTexts.h>
+#include <app/answers/Days.h>
+#include <app/answers/RiseSetDay.h>
 #include <app/text/TextTable.h>
+#include <app/text/ValueTexts.h>
 
 namespace velmora::app {
 namespace {
@@ -77,15 +77,6 @@ std::string text(const Query& query) {
 
 }  // namespace
 
-const Command& riseSetCommand() {
-  static const Command command{
-      "riseset",
-      "rise, set and twilight of a day or of each day of a range",
-      optionList({placeOptions(), {"date", "from", "to", "twilight"}, outputOptions(), generalOptions()}),
-      "",
-      json,
-      text};
-  return command;
-}
+const Answer riseSetAnswer{json, text};
 
 }  // namespace velmora::app

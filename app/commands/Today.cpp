@@ -1,11 +1,11 @@
-#include <app/commands/Today.h>
+#include <app/commands/Commands.h>
 
-#include <app/Days.h>
-#include <app/MoonGlance.h>
-#include <app/Positions.h>
-#include <app/RiseSetDay.h>
-#include <app/request/ValueTexts.h>
+#include <app/answers/Days.h>
+#include <app/answers/MoonGlance.h>
+#include <app/answers/Positions.h>
+#include <app/answers/RiseSetDay.h>
 #include <app/text/TextTable.h>
+#include <app/text/ValueTexts.h>
 #include <velmora/platform/time/DateFormatter.h>
 
 namespace velmora::app {
@@ -84,15 +84,6 @@ std::string text(const Query& query) {
 
 }  // namespace
 
-const Command& todayCommand() {
-  static const Command command{
-      "today",
-      "the day at a glance: phase, rise and set, twilight, positions",
-      optionList({placeOptions(), {"date", "time", "twilight"}, outputOptions(), generalOptions()}),
-      "",
-      json,
-      text};
-  return command;
-}
+const Answer todayAnswer{json, text};
 
 }  // namespace velmora::app

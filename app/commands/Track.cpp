@@ -1,7 +1,7 @@
-#include <app/commands/Track.h>
+#include <app/commands/Commands.h>
 
-#include <app/Days.h>
-#include <app/Positions.h>
+#include <app/answers/Days.h>
+#include <app/answers/Positions.h>
 #include <velmora/astronomy/RiseAndSetCalc.h>
 
 namespace velmora::app {
@@ -56,15 +56,6 @@ std::string text(const Query& query) {
 
 }  // namespace
 
-const Command& trackCommand() {
-  static const Command command{
-      "track",
-      "the path of the Moon through a day, or of the Sun through 24 hours",
-      optionList({placeOptions(), {"date", "time", "body"}, outputOptions(), generalOptions()}),
-      "",
-      json,
-      text};
-  return command;
-}
+const Answer trackAnswer{json, text};
 
 }  // namespace velmora::app

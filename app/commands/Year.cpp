@@ -1,9 +1,9 @@
-#include <app/commands/Year.h>
+#include <app/commands/Commands.h>
 
-#include <app/PhaseListing.h>
-#include <app/request/ValueTexts.h>
+#include <app/answers/PhaseListing.h>
 #include <app/text/EnglishDate.h>
 #include <app/text/PhaseText.h>
+#include <app/text/ValueTexts.h>
 #include <velmora/foundation/VelmoraCalendar.h>
 
 namespace velmora::app {
@@ -64,14 +64,6 @@ std::string text(const Query& query) {
 
 }  // namespace
 
-const Command& yearCommand() {
-  static const Command command{"year",
-                               "new moons, quarters and full moons of a year",
-                               optionList({{"year"}, placeOptions(), outputOptions(), generalOptions()}),
-                               "year",
-                               json,
-                               text};
-  return command;
-}
+const Answer yearAnswer{json, text};
 
 }  // namespace velmora::app

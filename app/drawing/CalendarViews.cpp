@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include <app/Errors.h>
-#include <app/ShippedData.h>
+#include <app/answers/ShippedData.h>
 #include <app/drawing/Hosting.h>
+#include <app/text/Errors.h>
 #include <velmora/phases/Phase.h>
 #include <velmora/service/MoonPhaseData.h>
 #include <velmora/views/MoonPhaseIconView.h>

@@ -1,10 +1,6 @@
 #pragma once
 
-#include <optional>
-#include <string_view>
-
 #include <app/drawing/Picture.h>
-#include <velmora/platform/graphics/Color.h>
 
 namespace velmora::app {
 
@@ -12,7 +8,6 @@ namespace velmora::app {
 /// load than most answers take to compute.
 struct Drawing {
   Picture (*picture)(const Query&);  ///< `drawPicture`
-  std::optional<Color> (*colorFromText)(std::string_view);
 };
 
 /// Loads that part when first asked for. Throws Failure if it cannot be loaded.

@@ -1,3 +1,3 @@
 #include <app/drawing/Drawing.h>
 
-const velmora::app::Drawing velmoraDrawing = {velmora::app::drawPicture, velmora::Color::fromText};
+const velmora::app::Drawing velmoraDrawing = {velmora::app::drawPicture};

@@ -2,7 +2,7 @@
 
 #include <dlfcn.h>
 
-#include <app/Errors.h>
+#include <app/text/Errors.h>
 
 namespace velmora::app {
 namespace {

@@ -4,14 +4,14 @@
 #include <cctype>
 #include <filesystem>
 
-#include <app/Days.h>
-#include <app/Errors.h>
-#include <app/PhaseYear.h>
-#include <app/ShippedData.h>
-#include <app/drawing/DrawingOptions.h>
+#include <app/answers/Days.h>
+#include <app/answers/PhaseYear.h>
+#include <app/answers/ShippedData.h>
 #include <app/drawing/Hosting.h>
 #include <app/drawing/Title.h>
 #include <app/drawing/ViewMaking.h>
+#include <app/request/DrawingOptions.h>
+#include <app/text/Errors.h>
 #include <velmora/foundation/SettingsModel.h>
 #include <velmora/platform/graphics/cairo/CairoCanvas.h>
 #include <velmora/platform/system/Log.h>
@@ -72,6 +72,20 @@ PictureFormat formatOf(const std::string& file) {
   if (isPlain && ending == ".pdf") return PictureFormat::pdf;
   throw BadInput("output " + quote(file) +
                  " has no known format; accepted: a file that ends in .png, .svg or .pdf");
+}
+
+/// A shell takes what begins with "#" for a comment, so that it may be left out.
+Color backgroundOf(const DrawingRequest& drawing) {
+  if (!drawing.background) return VelmoraTheme::calendarTheme()->backgroundColor;
+  const std::string& text = *drawing.background;
+  if (text == "none") return Color::clear();
+  if (text == "black") return Color::black();
+  if (text == "white") return Color::white();
+  const auto color = Color::fromText(text.starts_with('#') ? text : "#" + text);
+  if (!color)
+    throw BadInput("background " + quote(text) +
+                   " is not a colour; accepted: " + std::string(acceptedColors));
+  return *color;
 }
 
 /// Of the year and of its neighbours, whose last and first phases reach into it.
@@ -145,13 +159,13 @@ Picture drawPicture(const Query& query) {
   const DrawableView& view = viewOf(query.request);
   const std::string& file = fileOf(drawing);
   const PictureFormat format = formatOf(file);
+  const Color background = backgroundOf(drawing);
   select(query, view);
 
   const ScopedTablet tablet(drawing.isTablet);
   const Layout layout = layoutOf(query, view);
   const ScopedDevice device({layout.size.width, drawing.scale, forcedDirection(drawing)});
-  CairoCanvas canvas(format, layout.size, drawing.scale,
-                     drawing.background.value_or(VelmoraTheme::calendarTheme()->backgroundColor));
+  CairoCanvas canvas(format, layout.size, drawing.scale, background);
   checkSize(canvas);
   draw(canvas, layout, view, query);
   warnOfUncovered(canvas);

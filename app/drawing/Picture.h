@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include <app/commands/Command.h>
-#include <app/drawing/DrawableView.h>
+#include <app/answers/Query.h>
+#include <app/request/DrawableView.h>
 #include <velmora/platform/graphics/Geometry.h>
 
 namespace velmora::app {

@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include <app/commands/Command.h>
+#include <app/answers/Query.h>
 #include <velmora/platform/ui/View.h>
 
 namespace velmora::app {

@@ -9,9 +9,9 @@
 #include <sstream>
 #include <system_error>
 
-#include <app/Errors.h>
-#include <app/request/ValueTexts.h>
+#include <app/text/Errors.h>
 #include <app/text/Spelling.h>
+#include <app/text/ValueTexts.h>
 
 namespace velmora::app {
 namespace {

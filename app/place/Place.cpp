@@ -1,7 +1,7 @@
 #include <app/place/Place.h>
 
-#include <app/Errors.h>
 #include <app/place/CityTable.h>
+#include <app/text/Errors.h>
 
 namespace velmora::app {
 namespace {
@@ -25,24 +25,24 @@ TimeZone zoneNamed(const std::string& identifier) {
   return *zone;
 }
 
-Spot spotOf(const Request& request) {
-  if (request.latitude) {
-    return {*request.latitude, *request.longitude, std::nullopt, TimeZone::defaultZone()};
+Spot spotOf(const PlaceChoice& choice) {
+  if (choice.latitude) {
+    return {*choice.latitude, *choice.longitude, std::nullopt, TimeZone::defaultZone()};
   }
-  if (request.city) {
-    const City& city = cityNamed(*request.city);
+  if (choice.city) {
+    const City& city = cityNamed(*choice.city);
     return {city.latitude, city.longitude, city.name, zoneNamed(city.zone)};
   }
   const GeoLocationData& home = *GeoLocationData::DefaultLocation();
   return {home.latitude, home.longitude, home.name, zoneNamed(home.timezoneId.value_or("GMT"))};
 }
 
-void checkTogether(const Request& request) {
-  if (request.latitude.has_value() != request.longitude.has_value())
+void checkTogether(const PlaceChoice& choice) {
+  if (choice.latitude.has_value() != choice.longitude.has_value())
     throw BadInput("lat and lon come together: give both, or a city");
-  if (request.latitude && request.city)
+  if (choice.latitude && choice.city)
     throw BadInput("a city and lat, lon exclude each other: give one of the two");
-  if (request.zone && request.gmtOffset)
+  if (choice.zone && choice.gmtOffset)
     throw BadInput("tz and gmt-offset exclude each other: give one of the two");
 }
 
@@ -52,16 +52,16 @@ std::string Place::heading() const {
   return (location.name ? *location.name + "\n" : "") + location.locationText + ", " + zone.name() + "\n";
 }
 
-Place placeOf(const Request& request) {
-  checkTogether(request);
-  Spot spot = spotOf(request);
-  if (request.name) spot.name = request.name;
-  if (request.zone) spot.zone = *request.zone;
-  if (request.gmtOffset) spot.zone = TimeZone::fixed(*request.gmtOffset);
+Place placeOf(const PlaceChoice& choice) {
+  checkTogether(choice);
+  Spot spot = spotOf(choice);
+  if (choice.name) spot.name = choice.name;
+  if (choice.zone) spot.zone = *choice.zone;
+  if (choice.gmtOffset) spot.zone = TimeZone::fixed(*choice.gmtOffset);
 
   Place place{GeoLocationData(), spot.zone};
   place.location.SetLocation(spot.latitude, spot.longitude, spot.name, spot.zone.name(),
-                             request.gmtOffset.value_or(0), false);
+                             choice.gmtOffset.value_or(0), false);
   return place;
 }
 

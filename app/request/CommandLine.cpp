@@ -5,9 +5,9 @@
 
 #include <CLI/CLI.hpp>
 
-#include <app/Errors.h>
-#include <app/commands/Command.h>
+#include <app/request/Command.h>
 #include <app/request/Options.h>
+#include <app/text/Errors.h>
 #include <app/text/Spelling.h>
 
 namespace velmora::app {
@@ -16,7 +16,7 @@ namespace {
 bool isPositional(const Option& option) {
   const auto& commands = allCommands();
   return std::any_of(commands.begin(), commands.end(),
-                     [&](const Command* command) { return command->positional == option.name; });
+                     [&](const Command& command) { return command.positional == option.name; });
 }
 
 void declare(CLI::App& parser, const Option& option) {
@@ -38,9 +38,9 @@ void declareAll(CLI::App& parser) {
   for (const Option& option : allOptions()) {
     if (!isPositional(option)) declare(parser, option);
   }
-  for (const Command* command : allCommands()) {
-    CLI::App& subcommand = *parser.add_subcommand(std::string(command->name));
-    for (const std::string_view name : command->options) declare(subcommand, *findOption(name));
+  for (const Command& command : allCommands()) {
+    CLI::App& subcommand = *parser.add_subcommand(std::string(command.name));
+    for (const std::string_view name : command.options) declare(subcommand, *findOption(name));
   }
 }
 
@@ -63,7 +63,7 @@ bool looksLikeAnOption(const std::string& argument) {
     throw BadInput(std::string(command.name) + " does not take " + quote(extra) +
                    "; what it takes: velmora " + std::string(command.name) + " --help");
   std::string names;
-  for (const Command* known : allCommands()) names += (names.empty() ? "" : ", ") + std::string(known->name);
+  for (const Command& known : allCommands()) names += (names.empty() ? "" : ", ") + std::string(known.name);
   throw BadInput(quote(extra) + " is not a command; accepted: " + names + "; more: velmora --help");
 }
 
@@ -127,7 +127,7 @@ Request requestFromArguments(const std::vector<std::string>& arguments) {
     parser.parse(parserArguments(arguments));
     const auto named = parser.get_subcommands();
     Request request;
-    request.command = named.empty() ? allCommands().front() : findCommand(named.front()->get_name());
+    request.command = named.empty() ? &allCommands().front() : findCommand(named.front()->get_name());
     const auto extras = leftovers(parser);
     // An unknown option goes first: the word behind it may have been taken for something else.
     const auto unknown = std::find_if(extras.begin(), extras.end(), looksLikeAnOption);

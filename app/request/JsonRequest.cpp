@@ -2,9 +2,9 @@
 
 #include <set>
 
-#include <app/Errors.h>
-#include <app/commands/Command.h>
+#include <app/request/Command.h>
 #include <app/request/Options.h>
+#include <app/text/Errors.h>
 #include <app/text/Spelling.h>
 
 namespace velmora::app {
@@ -35,8 +35,8 @@ class Watch {
 
 std::string commandNames() {
   std::string names;
-  for (const Command* command : allCommands()) {
-    if (command->json) names += (names.empty() ? "" : ", ") + std::string(command->name);
+  for (const Command& command : allCommands()) {
+    if (command.isForBatch) names += (names.empty() ? "" : ", ") + std::string(command.name);
   }
   return names;
 }
@@ -46,7 +46,7 @@ const Command& commandOf(const Json& object) {
   if (op == object.end()) throw BadInput("op is missing; accepted: " + commandNames());
   if (!op->is_string()) throw BadInput("op is not a text; accepted: " + commandNames());
   const Command* command = findCommand(op->get_ref<const std::string&>());
-  if (!command || !command->json)
+  if (!command || !command->isForBatch)
     throw BadInput("op " + quote(op->get_ref<const std::string&>()) +
                    " is not known; accepted: " + commandNames());
   return *command;

@@ -2,8 +2,8 @@
 
 #include <string_view>
 
-#include <app/Json.h>
 #include <app/request/Request.h>
+#include <app/text/Json.h>
 
 namespace velmora::app {
 

@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <cmath>
 
-#include <app/drawing/DrawingOptions.h>
 #include <app/place/CityTable.h>
-#include <app/request/ValueTexts.h>
+#include <app/request/DrawingOptions.h>
 #include <app/text/Utf8.h>
+#include <app/text/ValueTexts.h>
 #include <velmora/phases/Phase.h>
 
 namespace velmora::app {
@@ -132,18 +132,18 @@ std::vector<Option> makeOptions() {
   constexpr bool onlyOnCommandLine = true;
   return {
       {"city", "NAME", "a city of the system's time zone table, spelled freely", "",
-       Text([](R& r, S& v) { r.city = v; })},
+       Text([](R& r, S& v) { r.place.city = v; })},
       {"lat", "DEGREES", "latitude, north positive", "-90 to 90 degrees",
-       Number([](R& r, double v) { r.latitude = within(v, 90); })},
+       Number([](R& r, double v) { r.place.latitude = within(v, 90); })},
       {"lon", "DEGREES", "longitude, east positive", "-180 to 180 degrees",
-       Number([](R& r, double v) { r.longitude = within(v, 180); })},
+       Number([](R& r, double v) { r.place.longitude = within(v, 180); })},
       {"tz", "ZONE", "time zone of the place", "an identifier such as Europe/Helsinki, UTC or GMT+05:30",
-       Text([](R& r, S& v) { r.zone = zone(v); })},
+       Text([](R& r, S& v) { r.place.zone = zone(v); })},
       {"gmt-offset", "SECONDS", "fixed offset from GMT in place of a time zone",
        "whole seconds from -64800 to 64800 (18 hours), east positive",
-       Number([](R& r, double v) { r.gmtOffset = wholeNumber(within(v, farthestGmtOffset)); })},
+       Number([](R& r, double v) { r.place.gmtOffset = wholeNumber(within(v, farthestGmtOffset)); })},
       {"name", "TEXT", "what to call the place", "one line of text in UTF-8",
-       Text([](R& r, S& v) { r.name = nameText(v); })},
+       Text([](R& r, S& v) { r.place.name = nameText(v); })},
       {"date", "YYYY-MM-DD", "the day (default: today)", dateForm,
        Text([](R& r, S& v) { r.date = date(v); })},
       {"time", "HH:MM", "the time of day at the place", "HH:MM from 00:00 to 23:59",

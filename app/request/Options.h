@@ -6,9 +6,9 @@
 #include <variant>
 #include <vector>
 
-#include <app/Errors.h>
-#include <app/Json.h>
 #include <app/request/Request.h>
+#include <app/text/Errors.h>
+#include <app/text/Json.h>
 
 namespace velmora::app {
 

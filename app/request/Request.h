@@ -7,19 +7,15 @@
 #include <string_view>
 #include <vector>
 
-#include <app/drawing/DrawingRequest.h>
+#include <app/place/Place.h>
+#include <app/request/DrawingRequest.h>
+#include <app/text/CivilTime.h>
 #include <velmora/platform/time/Instant.h>
 #include <velmora/platform/time/Locale.h>
-#include <velmora/platform/time/TimeZone.h>
 
 namespace velmora::app {
 
 struct Command;
-
-/// A day on the calendar, of no zone.
-using CivilDate = std::chrono::year_month_day;
-/// A reading of a clock, in minutes after 00:00.
-using ClockTime = std::chrono::minutes;
 
 enum class Body { moon, sun };
 /// In the order of the rise/set search's twilight index.
@@ -32,12 +28,7 @@ struct Request {
   const Command* command = nullptr;
   std::vector<std::string_view> given;  ///< the names of the options that were given
 
-  std::optional<double> latitude;   ///< degrees, north positive
-  std::optional<double> longitude;  ///< degrees, east positive
-  std::optional<TimeZone> zone;
-  std::optional<std::int64_t> gmtOffset;  ///< seconds, east positive
-  std::optional<std::string> city;
-  std::optional<std::string> name;
+  PlaceChoice place;
 
   std::optional<CivilDate> date;
   std::optional<ClockTime> time;

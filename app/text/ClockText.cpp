@@ -2,7 +2,7 @@
 
 #include <charconv>
 
-#include <app/request/ValueTexts.h>
+#include <app/text/ValueTexts.h>
 #include <velmora/platform/time/NumberText.h>
 
 namespace velmora::app {

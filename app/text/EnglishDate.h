@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include <app/request/Request.h>
+#include <app/text/CivilTime.h>
 
 namespace velmora::app {
 

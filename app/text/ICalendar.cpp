@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include <app/request/ValueTexts.h>
 #include <app/text/Utf8.h>
+#include <app/text/ValueTexts.h>
 #include <velmora/Version.h>
 
 namespace velmora::app {

@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
-#include <app/Json.h>
-#include <app/Run.h>
-#include <app/request/ValueTexts.h>
+#include <app/program/Run.h>
+#include <app/text/Json.h>
+#include <app/text/ValueTexts.h>
 #include <velmora/platform/time/Clock.h>
 #include <velmora/platform/time/Locale.h>
 #include <velmora/platform/time/TimeZone.h>

@@ -1,4 +1,4 @@
-#include <app/Errors.h>
+#include <app/text/Errors.h>
 
 #include "AppTest.h"
 

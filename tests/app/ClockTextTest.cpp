@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <app/request/ValueTexts.h>
+#include <app/text/ValueTexts.h>
 
 namespace velmora::app {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <csignal>
 
-#include <app/drawing/DrawableView.h>
+#include <app/request/DrawableView.h>
 #include <velmora/foundation/SettingsModel.h>
 #include <velmora/platform/system/Log.h>
 #include <velmora/platform/time/Locale.h>

@@ -1,6 +1,6 @@
 #include <thread>
 
-#include <app/drawing/DrawableView.h>
+#include <app/request/DrawableView.h>
 
 #include "PictureTesting.h"
 

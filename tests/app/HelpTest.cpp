@@ -1,4 +1,4 @@
-#include <app/commands/Command.h>
+#include <app/request/Command.h>
 #include <app/request/Options.h>
 #include <velmora/Version.h>
 
@@ -11,31 +11,31 @@ using HelpTest = AppTest;
 
 TEST_F(HelpTest, NamesEveryCommand) {
   const std::string help = answer({"--help"});
-  for (const Command* command : allCommands())
-    EXPECT_NE(help.find("\n  " + std::string(command->name) + " "), std::string::npos) << command->name;
+  for (const Command& command : allCommands())
+    EXPECT_NE(help.find("\n  " + std::string(command.name) + " "), std::string::npos) << command.name;
 }
 
 TEST_F(HelpTest, OfACommandNamesEachOfItsOptionsAndNoOther) {
-  for (const Command* command : allCommands()) {
-    const std::string help = answer({std::string(command->name), "--help"});
+  for (const Command& command : allCommands()) {
+    const std::string help = answer({std::string(command.name), "--help"});
     for (const Option& option : allOptions()) {
       const bool isListed = help.find("\n  --" + std::string(option.name) + " ") != std::string::npos;
-      EXPECT_EQ(isListed, command->takes(option.name) && option.name != command->positional)
-          << command->name << " " << option.name;
+      EXPECT_EQ(isListed, command.takes(option.name) && option.name != command.positional)
+          << command.name << " " << option.name;
     }
   }
 }
 
 TEST_F(HelpTest, FitsThePage) {
-  for (const Command* command : allCommands()) {
-    for (const std::string& line : linesOf(answer({std::string(command->name), "--help"})))
+  for (const Command& command : allCommands()) {
+    for (const std::string& line : linesOf(answer({std::string(command.name), "--help"})))
       EXPECT_LE(charactersOf(line), 80U) << line;
   }
 }
 
 TEST_F(HelpTest, EveryOptionOfACommandExists) {
-  for (const Command* command : allCommands()) {
-    for (const auto name : command->options) EXPECT_NE(findOption(name), nullptr) << name;
+  for (const Command& command : allCommands()) {
+    for (const auto name : command.options) EXPECT_NE(findOption(name), nullptr) << name;
   }
 }
 

@@ -1,4 +1,4 @@
-#include <app/Illumination.h>
+#include <app/answers/Illumination.h>
 
 #include <cmath>
 #include <fstream>

@@ -2,7 +2,7 @@
 #include <regex>
 #include <set>
 
-#include <app/commands/Command.h>
+#include <app/request/Command.h>
 #include <app/text/PhaseText.h>
 
 #include "PictureTesting.h"
@@ -107,9 +107,9 @@ class JsonPageTest : public PictureTest {
 TEST_F(JsonPageTest, EveryCommandThatAnswersInJsonHasAHeadingAndIsAskedHere) {
   std::set<std::string> asked;
   for (const std::string& request : requests()) asked.insert(Json::parse(request)["op"]);
-  for (const Command* command : allCommands()) {
-    if (!command->json) continue;
-    const std::string name(command->name);
+  for (const Command& command : allCommands()) {
+    if (!command.isForBatch) continue;
+    const std::string name(command.name);
     EXPECT_TRUE(asked.count(name)) << name;
     EXPECT_TRUE(std::regex_search(page(), std::regex("\n### [^\n]*`" + name + "`"))) << name;
   }

@@ -1,6 +1,6 @@
 #include <app/place/Place.h>
 
-#include <app/Errors.h>
+#include <app/text/Errors.h>
 #include <velmora/platform/time/TimeZone.h>
 
 #include "AppTest.h"
@@ -59,9 +59,9 @@ TEST_F(PlaceTest, AnOffsetIsTheZoneNamedAfterIt) {
 }
 
 TEST_F(PlaceTest, TheLocationIsARecordWithANamedZone) {
-  Request request;
-  request.gmtOffset = 19800;
-  const Place place = placeOf(request);
+  PlaceChoice choice;
+  choice.gmtOffset = 19800;
+  const Place place = placeOf(choice);
   EXPECT_FALSE(place.location.useCustomTimezone);
   EXPECT_EQ(place.location.timezoneId, "GMT+05:30");
   EXPECT_EQ(place.location.GetTimezoneIntervalFromGMT(instant("2024-06-20T00:00:00Z")), 19800);
@@ -74,13 +74,13 @@ TEST_F(PlaceTest, TheDefaultPlaceItselfIsNeverChanged) {
 }
 
 TEST_F(PlaceTest, TheHeadingNamesPlaceCoordinatesAndZone) {
-  Request request;
-  request.city = "helsinki";
-  EXPECT_EQ(placeOf(request).heading(), "Helsinki\n60.1667° N, 24.9667° E, Europe/Helsinki\n");
-  request = Request();
-  request.latitude = -33.9;
-  request.longitude = -70.5;
-  EXPECT_EQ(placeOf(request).heading(), "33.9000° S, 70.5000° W, UTC\n");
+  PlaceChoice choice;
+  choice.city = "helsinki";
+  EXPECT_EQ(placeOf(choice).heading(), "Helsinki\n60.1667° N, 24.9667° E, Europe/Helsinki\n");
+  choice = PlaceChoice();
+  choice.latitude = -33.9;
+  choice.longitude = -70.5;
+  EXPECT_EQ(placeOf(choice).heading(), "33.9000° S, 70.5000° W, UTC\n");
 }
 
 }  // namespace

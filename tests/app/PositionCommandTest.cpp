@@ -1,6 +1,6 @@
 #include <velmora/astronomy/RiseAndSetCalc.h>
 
-#include <app/Positions.h>
+#include <app/answers/Positions.h>
 
 #include "AppTest.h"
 

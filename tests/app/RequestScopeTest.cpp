@@ -1,4 +1,4 @@
-#include <app/RequestScope.h>
+#include <app/answers/RequestScope.h>
 
 #include <velmora/foundation/SettingsModel.h>
 #include <velmora/service/MoonPhaseData.h>

@@ -1,8 +1,8 @@
 #include <velmora/astronomy/RiseAndSetCalc.h>
 #include <velmora/platform/time/Calendar.h>
 
-#include <app/RequestScope.h>
-#include <app/RiseSetDay.h>
+#include <app/answers/RequestScope.h>
+#include <app/answers/RiseSetDay.h>
 
 #include "AppTest.h"
 

@@ -1,4 +1,4 @@
-#include <app/Illumination.h>
+#include <app/answers/Illumination.h>
 #include <app/text/DisplayWidth.h>
 #include <velmora/platform/resources/Bundle.h>
 

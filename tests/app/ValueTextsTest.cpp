@@ -1,4 +1,4 @@
-#include <app/request/ValueTexts.h>
+#include <app/text/ValueTexts.h>
 
 #include <gtest/gtest.h>
 

@@ -27,6 +27,8 @@ TEST(Architecture, TheFixedCalendarAndTheAlmanacKeepApart) {
   EXPECT_EQ(almanacInFixedFolders(productTree()), Breaches{});
 }
 
+TEST(Architecture, EveryFileOfTheProgramLiesOnAFloor) { EXPECT_EQ(outsideFloors(productTree()), Breaches{}); }
+
 TEST(Architecture, OnlyAdaptersReachThirdPartyHeaders) {
   EXPECT_EQ(thirdPartyOutsideAdapters(productTree()), Breaches{});
 }
@@ -60,9 +62,20 @@ TEST(ArchitectureRules, AnUpwardIncludeIsABreach) {
   const SourceTree tree = {
       {"velmora/astronomy/A.cpp",
        sourceFile("#include <velmora/service/B.h>\n#include <velmora/Version.h>\n")},
-      {"velmora/views/C.cpp", sourceFile("#include <velmora/service/B.h>\n#include <app/D.h>\n")}};
+      {"velmora/views/C.cpp", sourceFile("#include <velmora/service/B.h>\n#include <app/text/D.h>\n")}};
   EXPECT_EQ(upwardIncludes(tree), (Breaches{"velmora/astronomy/A.cpp includes velmora/service/B.h",
-                                            "velmora/views/C.cpp includes app/D.h"}));
+                                            "velmora/views/C.cpp includes app/text/D.h"}));
+}
+
+TEST(ArchitectureRules, AnUpwardIncludeBetweenTheProgramsFloorsIsABreach) {
+  const SourceTree tree = {{"app/place/A.h", sourceFile("#include <app/request/B.h>\n")},
+                           {"app/drawing/C.cpp", sourceFile("#include <app/answers/D.h>\n")}};
+  EXPECT_EQ(upwardIncludes(tree), (Breaches{"app/place/A.h includes app/request/B.h"}));
+}
+
+TEST(ArchitectureRules, AFileOfTheProgramOnNoFloorIsABreach) {
+  const SourceTree tree = {{"app/A.h", sourceFile("")}, {"app/text/B.h", sourceFile("")}};
+  EXPECT_EQ(outsideFloors(tree), Breaches{"app/A.h lies on no floor"});
 }
 
 TEST(ArchitectureRules, TheFixedCalendarAndTheAlmanacMeetInTheServiceOnly) {

@@ -34,7 +34,13 @@ constexpr std::array layers = {"velmora/platform/system",
                                "velmora/platform/graphics",
                                "velmora/platform/ui",
                                "velmora/views",
-                               "app",
+                               "app/text",
+                               "app/place",
+                               "app/request",
+                               "app/answers",
+                               "app/commands",
+                               "app/drawing",
+                               "app/program",
                                "tests"};
 
 /// The folders of the calendar's fixed arithmetic, which the almanac knows nothing of, nor they of it.
@@ -148,6 +154,15 @@ std::vector<std::string> almanacInFixedFolders(const SourceTree& tree) {
     for (const std::string& include : file.includes) {
       if (liesIn(almanacFolders, include)) breaches.push_back(path + " includes " + include);
     }
+  }
+  return breaches;
+}
+
+std::vector<std::string> outsideFloors(const SourceTree& tree) {
+  std::vector<std::string> breaches;
+  for (const auto& [path, file] : tree) {
+    const bool isOfProgram = path.starts_with("app/") && !path.ends_with("CMakeLists.txt");
+    if (isOfProgram && !layerOf(path)) breaches.push_back(path + " lies on no floor");
   }
   return breaches;
 }

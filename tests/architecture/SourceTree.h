@@ -31,6 +31,9 @@ std::vector<std::string> upwardIncludes(const SourceTree& tree);
 /// forbid the other way round.
 std::vector<std::string> almanacInFixedFolders(const SourceTree& tree);
 
+/// Every source of the host program lies in one of its folders, none beside them.
+std::vector<std::string> outsideFloors(const SourceTree& tree);
+
 /// Only an adapter reaches a third-party header, be it through headers of the project. The host program may
 /// include what it is made with besides: the command line's and JSON's libraries, and of the system the
 /// terminal and the loading of a library.

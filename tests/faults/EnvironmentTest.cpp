@@ -4,7 +4,7 @@
 
 #include <filesystem>
 
-#include <app/Errors.h>
+#include <app/text/Errors.h>
 #include <app/place/CityTable.h>
 
 #include "tests/app/AppTest.h"

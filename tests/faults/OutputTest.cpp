@@ -10,7 +10,7 @@
 #include <new>
 #include <system_error>
 
-#include <app/Errors.h>
+#include <app/text/Errors.h>
 
 #include "tests/app/AppTest.h"
 #include "tests/faults/Damage.h"

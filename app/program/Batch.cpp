@@ -1,0 +1,94 @@
+#include <app/program/Batch.h>
+
+#include <istream>
+#include <limits>
+#include <ostream>
+
+#include <app/answers/RequestScope.h>
+#include <app/program/Answer.h>
+#include <app/request/JsonRequest.h>
+#include <app/text/Errors.h>
+#include <velmora/platform/system/HeldSignals.h>
+
+namespace velmora::app {
+namespace {
+
+constexpr std::size_t longestLine = 64 * 1024, writtenAtOnce = 64 * 1024;  // bytes
+
+std::string errorLine(const Json& id, const std::string& message) {
+  Json answer;
+  answer["id"] = id;
+  answer["error"] = message;
+  return jsonLine(answer);
+}
+
+const std::string tooLong =
+    "the line is too long; accepted: at most " + std::to_string(longestLine - 1) + " bytes";
+
+bool isBlank(std::string_view line) { return line.find_first_not_of(" \t\r") == std::string_view::npos; }
+
+/// The next line, without its end; of one that is too long the part that fits, the rest skipped.
+struct Line {
+  std::string_view text;
+  bool isTooLong;
+};
+
+std::optional<Line> nextLine(std::istream& in, std::string& buffer) {
+  in.getline(buffer.data(), static_cast<std::streamsize>(buffer.size()));
+  auto count = static_cast<std::size_t>(in.gcount());
+  if (in.bad() || (in.eof() && count == 0)) return std::nullopt;
+  const bool isTooLong = in.fail();
+  if (isTooLong) {
+    in.clear();
+    in.ignore(std::numeric_limits<std::streamsize>::max(), '\n');
+  } else if (!in.eof()) {
+    --count;  // the line's end
+  }
+  return Line{std::string_view(buffer).substr(0, count), isTooLong};
+}
+
+/// The line of the answer; nothing for a blank line.
+std::string answerTo(const Line& line) {
+  if (line.isTooLong) return errorLine(nullptr, tooLong) + '\n';
+  return isBlank(line.text) ? "" : batchAnswer(line.text) + '\n';
+}
+
+/// Whole lines alone are written, and none is cut by a signal that ends the program.
+void writeLines(std::string& lines, std::ostream& out) {
+  const HeldSignals untilWritten;
+  out << lines << std::flush;
+  lines.clear();
+}
+
+}  // namespace
+
+std::string batchAnswer(std::string_view line) {
+  Json id;
+  try {
+    const Json object = jsonFromLine(line);
+    if (!object.is_object()) throw BadInput("the line is no JSON object; accepted: {\"op\": …, …}");
+    if (const auto given = object.find("id"); given != object.end()) id = *given;
+    Json answer;
+    answer["id"] = id;
+    answer["result"] = jsonAnswer(requestFromJson(object));
+    return jsonLine(answer);
+  } catch (const std::exception& error) {
+    return errorLine(id, messageOf(error));
+  }
+}
+
+void serveBatch(const Request& request, std::istream& in, std::ostream& out) {
+  const RequestScope scope(request);
+  std::string buffer(longestLine, '\0'), answers;
+  while (out) {
+    const bool isAwaited = in.rdbuf()->in_avail() <= 0;  // whoever asks on only when answered gets the answer
+    if (isAwaited || answers.size() >= writtenAtOnce) writeLines(answers, out);
+    const auto line = nextLine(in, buffer);
+    if (!line) break;
+    answers += answerTo(*line);
+  }
+  writeLines(answers, out);
+  if (in.bad()) throw Failure("standard input cannot be read");
+}
+
+}  // namespace velmora::app

@@ -1,0 +1,71 @@
+#include <app/request/DrawableView.h>
+
+#include <algorithm>
+#include <string>
+
+namespace velmora::app {
+namespace {
+
+constexpr std::string_view yearFields = "y", monthFields = "yMMMM", dayFields = "yMMMMd",
+                           momentFields = "yMMMMdjmm";
+
+}  // namespace
+
+const std::vector<DrawableView>& allViews() {
+  static const std::vector<DrawableView> views = {
+      {.name = "disc",
+       .summary = "the phase of the day",
+       .options = {"theme"},
+       .titleFields = dayFields,
+       .needsTables = true},
+      {.name = "month",
+       .summary = "the phases of the month, its eclipses in rings",
+       .options = {"theme", "calendar", "week-start", "hide-eclipses"},
+       .titleFields = monthFields,
+       .needsTables = true},
+      {.name = "year",
+       .summary = "the full moons of the year, its new moons by --phase new",
+       .options = {"phase"},
+       .titleFields = yearFields,
+       .needsTables = true},
+      {.name = "riseset",
+       .summary = "rise and set of Moon and Sun, a row a day",
+       .options = {"theme", "calendar"},
+       .titleFields = monthFields,
+       .needsTables = true},
+      {.name = "images",
+       .summary = "the month in pictures of the Moon",
+       .titleFields = monthFields,
+       .freeTop = 90,
+       .needsTables = true},
+      {.name = "compass",
+       .summary = "a compass and the Moon's way, the disc on it by its height",
+       .options = {"theme", "heading"},
+       .titleFields = momentFields},
+      {.name = "azel",
+       .summary = "the Moon's way and place, the zenith up",
+       .options = {"theme"},
+       .titleFields = momentFields},
+      {.name = "chart", .summary = "a fixed sample: the Moon's ways on five days"},
+      {.name = "timeline", .summary = "the hours of a day", .titleFields = dayFields},
+  };
+  return views;
+}
+
+const DrawableView* findView(std::string_view name) {
+  const auto& views = allViews();
+  const auto found =
+      std::find_if(views.begin(), views.end(), [&](const DrawableView& view) { return view.name == name; });
+  return found == views.end() ? nullptr : &*found;
+}
+
+std::string_view viewNames() {
+  static const std::string names = [] {
+    std::string list;
+    for (const DrawableView& view : allViews()) list += (list.empty() ? "" : ", ") + std::string(view.name);
+    return list;
+  }();
+  return names;
+}
+
+}  // namespace velmora::app

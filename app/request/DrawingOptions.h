@@ -1,0 +1,26 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <app/request/Options.h>
+
+namespace velmora::app {
+
+/// The options of pictures, part of `allOptions`.
+std::vector<Option> drawingOptions();
+
+/// The names of those that every picture takes.
+const std::vector<std::string_view>& pictureOptions();
+
+/// The names of those that only some views take.
+const std::vector<std::string_view>& viewOptions();
+
+/// What is accepted as a colour.
+constexpr std::string_view acceptedColors = "RRGGBB, RRGGBBAA, black, white or none";
+
+/// The views and which of them take which of those, for the help.
+std::string viewNotes();
+
+}  // namespace velmora::app

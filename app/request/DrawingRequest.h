@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include <velmora/platform/graphics/Geometry.h>
+#include <velmora/views/AlternateCalendarType.h>
+
+namespace velmora::app {
+
+struct DrawableView;
+
+enum class ThemeChoice { calendarTheme, defaultTheme };
+
+/// What a request for a picture says of it.
+struct DrawingRequest {
+  const DrawableView* view = nullptr;
+  std::optional<std::string> output;      ///< path of the file
+  std::optional<Size> size;               ///< of the whole picture, in points
+  double scale = 1;                       ///< pixels a point of a PNG
+  std::optional<std::string> background;  ///< a colour, read where it is drawn
+  bool hasTitle = true;
+  bool isRightToLeft = false;  ///< whatever the language is
+  bool isTablet = false;
+
+  ThemeChoice theme = ThemeChoice::calendarTheme;
+  AlternateCalendarType calendar = kNoAlternateCalendar;
+  std::int64_t weekStartDay = 0;  ///< 0 is Sunday
+  bool hidesEclipses = false;
+  double heading = 0;  ///< degrees, clockwise from north
+};
+
+}  // namespace velmora::app
