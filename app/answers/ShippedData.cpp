@@ -1,6 +1,7 @@
 #include <app/answers/ShippedData.h>
 
 #include <algorithm>
+#include <map>
 
 #include <app/text/Errors.h>
 #include <app/text/ValueTexts.h>
@@ -30,6 +31,12 @@ bool isWhole(const std::vector<std::string>& lines, std::int64_t year, std::int6
                       [](const auto& event) { return event->phase == kUnknownPhase; });
 }
 
+/// The tables that were found whole, by their years.
+std::map<std::chrono::year, std::shared_ptr<const YearTable>>& wholeTables() {
+  static std::map<std::chrono::year, std::shared_ptr<const YearTable>> tables;
+  return tables;
+}
+
 /// The first month without its phases; none if the table is whole.
 std::optional<std::int64_t> damagedMonth(const YearTable& table, std::int64_t year) {
   for (std::int64_t month = 1; month <= 12; ++month) {
@@ -46,9 +53,12 @@ std::shared_ptr<const YearTable> wholeTable(std::chrono::year year) {
   const std::string file = pathIn(Bundle::library(), "Data/" + number + ".plist");
   auto table = tableOfYear(static_cast<int>(year));
   if (!table) throw Failure("the phase table of " + number + " cannot be read from " + file);
+  auto& known = wholeTables()[year];
+  if (table == known) return table;
   if (const auto month = damagedMonth(*table, static_cast<int>(year)))
     throw Failure("the phase table of " + number + " is damaged in month " + std::to_string(*month) + ": " +
                   file);
+  known = table;
   return table;
 }
 

@@ -60,6 +60,32 @@ TEST(YearTables, WhatIsNoArrayOfTextsIsLeftOut) {
   EXPECT_EQ(*tableOfYear(2024), (YearTable{{"2", {"2 23:18 LQ"}}}));
 }
 
+TEST(YearTables, ATableIsReadOnceWhileItsFileStaysTheSame) {
+  const auto table = tableOfYear(2024);
+  EXPECT_EQ(tableOfYear(2024), table);
+  for (std::int64_t year = 2000; year <= 2010; ++year) EXPECT_TRUE(tableOfYear(year));
+  EXPECT_EQ(*tableOfYear(2024), *table);
+}
+
+TEST(YearTables, AFileThatHasChangedIsReadAgain) {
+  const TemporaryFolder folder;
+  const ScopedLibraryBundle bundle(folder.path());
+  const auto writtenAnHourAgo = [&](const char* line) {
+    const auto file = folder.write("Data/2024.plist", propertyListOf({{"1", {line}}}));
+    std::filesystem::last_write_time(file,
+                                     std::filesystem::file_time_type::clock::now() - std::chrono::hours(1));
+  };
+  writtenAnHourAgo("4 03:30 LQ");
+  EXPECT_EQ(tableOfYear(2024)->at("1").front(), "4 03:30 LQ");
+  EXPECT_EQ(tableOfYear(2024), tableOfYear(2024));
+  writtenAnHourAgo("5 03:30 LQ");
+  EXPECT_EQ(tableOfYear(2024)->at("1").front(), "5 03:30 LQ");
+  folder.write("Data/2024.plist", propertyListOf({{"1", {"6 03:30 LQ"}}}));
+  EXPECT_EQ(tableOfYear(2024)->at("1").front(), "6 03:30 LQ");
+  folder.write("Data/2024.plist", propertyListOf({{"1", {"7 03:30 LQ"}}}));
+  EXPECT_EQ(tableOfYear(2024)->at("1").front(), "7 03:30 LQ") << "twice within a tick of the file's time";
+}
+
 TEST(YearTables, MonthLengthsFollowTheGregorianRule) {
   const std::int64_t lengths[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
   for (std::int64_t month = 0; month < 12; ++month) {

@@ -1,6 +1,7 @@
 #include <array>
 #include <filesystem>
 
+#include <velmora/phases/KeptTables.h>
 #include <velmora/phases/MoonPhaseCalc.h>
 #include <velmora/platform/resources/Bundle.h>
 #include <velmora/platform/resources/PropertyList.h>
@@ -31,6 +32,12 @@ YearTable tableOf(const PropertyList::Dictionary& months) {
   return table;
 }
 
+std::shared_ptr<const YearTable> readTable(const std::filesystem::path& path) {
+  const auto list = PropertyList::fromFile(path);
+  if (!list || !list->dictionary()) return nullptr;
+  return std::make_shared<const YearTable>(tableOf(*list->dictionary()));
+}
+
 }  // namespace
 
 std::shared_ptr<const YearTable> tableOfYear(std::int64_t year) {
@@ -38,10 +45,10 @@ std::shared_ptr<const YearTable> tableOfYear(std::int64_t year) {
 }
 
 std::shared_ptr<const YearTable> MoonPhaseCalc::GetFileContents(const std::string& resourceName) {
+  static KeptTables kept;
   const auto path = Bundle::library().pathForResource(resourceName, "plist");
-  const auto list = path ? PropertyList::fromFile(*path) : std::nullopt;
-  if (!list || !list->dictionary()) return nullptr;
-  return std::make_shared<const YearTable>(tableOf(*list->dictionary()));
+  if (!path) return nullptr;
+  return kept.table(*path, [&] { return readTable(*path); });
 }
 
 std::int64_t MoonPhaseCalc::GetNumberOfDaysInMonth(std::int64_t month, std::int64_t year) {
