@@ -22,7 +22,7 @@ SourceFile sourceFile(const std::string& text);
 /// The files of C++, Python and CMake below the given folders of the project.
 SourceTree readSourceTree(const std::vector<std::string>& folders);
 
-// Each answers the breaches of a rule, one readable line each; none is well.
+// Each returns the breaches of a rule, one readable line each; none is well.
 
 /// A folder includes only folders below it.
 std::vector<std::string> upwardIncludes(const SourceTree& tree);

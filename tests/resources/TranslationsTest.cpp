@@ -38,6 +38,12 @@ const std::set<std::string> kEclipseTitles = {
 const std::set<std::string> kUpperCaseTexts = {"FULL MOON", "NEW MOON", "ELEVATION: %@", "TIME"};
 const std::set<std::string> kOtherViewTexts = {
     "at", "Full Moon - Year Calendar (%@)", "New Moon - Year Calendar (%@)", "Tap to select date", "Select"};
+const std::set<std::string> kSpokenTexts = {
+    "moonrise %@",    "moonset %@",       "sunrise %@",           "sunset %@",           "%@ the next day",
+    "Sun up all day", "Sun down all day", "Moon up all day",      "Moon down all day",   "Compass",
+    "Moon",           "%@ at the top",    "%@ above the horizon", "%@ below the horizon"};
+const std::set<std::string> kDirections = {"north", "northeast", "east", "southeast",
+                                           "south", "southwest", "west", "northwest"};
 
 std::set<std::string> united(std::initializer_list<std::set<std::string>> sets) {
   std::set<std::string> all;
@@ -46,7 +52,7 @@ std::set<std::string> united(std::initializer_list<std::set<std::string>> sets) 
 }
 
 const std::set<std::string> kLibraryKeys =
-    united({kPhaseNames, kEclipseTitles, kUpperCaseTexts, kOtherViewTexts});
+    united({kPhaseNames, kEclipseTitles, kUpperCaseTexts, kOtherViewTexts, kSpokenTexts, kDirections});
 
 /// The texts that a bundle ships in a language.
 Texts textsOf(const std::filesystem::path& bundle, const std::string& language) {
@@ -169,11 +175,11 @@ TEST(Translations, TurkishCapitalIKeepsItsDot) {
   EXPECT_EQ(textsOf(kHost, "tr")["First Quarter"], "İlk Dördün");
 }
 
-TEST(Translations, NoTwoPhasesAndNoTwoEclipsesShareAName) {
+TEST(Translations, NoTwoPhasesEclipsesSpokenTextsAndDirectionsAreTheSame) {
   for (const auto& [language, script] : kLanguages) {
     const Texts texts = textsOf(kLibrary, language);
     std::set<std::string> names;
-    for (const std::string& key : united({kPhaseNames, kEclipseTitles})) {
+    for (const std::string& key : united({kPhaseNames, kEclipseTitles, kSpokenTexts, kDirections})) {
       EXPECT_TRUE(names.insert(texts.at(key)).second) << language << ": " << texts.at(key);
     }
   }

@@ -113,9 +113,42 @@ TEST_F(MonthAccessibilityTest, AnActionOutlivesItsViewWithoutEffect) {
   EXPECT_EQ(service().currentDay(), 14);
 }
 
-TEST_F(MonthAccessibilityTest, BeforeTheFirstDrawingThereAreNoElements) {
-  EXPECT_TRUE(view->accessibilityElements().empty());
-  EXPECT_EQ(elements().size(), 28U);
+TEST_F(MonthAccessibilityTest, ElementsNeedAFrameButNoDrawing) {
+  const auto before = view->accessibilityElements();
+  const auto after = elements();
+  ASSERT_EQ(before.size(), 28U);
+  EXPECT_EQ(before.at(27).frame, after.at(27).frame);
+  EXPECT_EQ(before.at(27).label, after.at(27).label);
+}
+
+TEST_F(MonthAccessibilityTest, FebruaryAfterMarchHasItsOwnDaysBeforeItIsDrawn) {
+  select(utc(2024, 3, 31));
+  EXPECT_EQ(elements().size(), 31U);
+  service().changeSelectedDay(1, 2, 2024);
+  const auto february = view->accessibilityElements();
+  ASSERT_EQ(february.size(), 29U);
+  EXPECT_EQ(february.back().value, "February 29");
+  EXPECT_EQ(february.back().label, "Feb 29, 2024, Waning Gibbous");
+  draw();
+  EXPECT_EQ(view->accessibilityElements().at(0).frame, february.at(0).frame);
+  EXPECT_EQ(view->accessibilityElements().size(), 29U);
+}
+
+TEST_F(MonthAccessibilityTest, AnotherSizeAndAnotherWeekMoveTheFramesAtOnce) {
+  elements();
+  view->setFrame({0, 0, 389, 850});
+  EXPECT_EQ(view->accessibilityElements().at(0).frame, (Rect{6, 40, 45, 200}));
+  view->setWeekStartDay(6);
+  EXPECT_EQ(view->accessibilityElements().at(0).frame.x, 6 + 53);
+}
+
+TEST_F(MonthAccessibilityTest, ElementsDoNotMoveWhatTouchesGoBy) {
+  draw();
+  select(utc(2026, 4, 14));
+  view->accessibilityElements();
+  view->touchesBegan(Touch({6 + 20, 60}));
+  view->touchesEnded(Touch({6 + 20, 60}));
+  EXPECT_EQ(service().currentDay(), 1) << "the first stands there still, though April begins on a Wednesday";
 }
 
 TEST_F(MonthAccessibilityTest, WithoutASelectionThereAreNoElementsEvenIfDaysWereDrawn) {
@@ -124,11 +157,11 @@ TEST_F(MonthAccessibilityTest, WithoutASelectionThereAreNoElementsEvenIfDaysWere
   EXPECT_EQ(view->accessibilityElements().size(), 0U);
 }
 
-TEST_F(MonthAccessibilityTest, ElementsStayUntilTheHostEmptiesThem) {
-  elements();
+TEST_F(MonthAccessibilityTest, ElementsOfTheHostsOwnStayUntilItEmptiesThem) {
+  view->setAxElements({{.label = "the whole month"}});
   select(utc(2026, 4, 14));
-  EXPECT_EQ(elements().size(), 28U);
-  EXPECT_EQ(elements().at(0).value, "February 1");
+  ASSERT_EQ(elements().size(), 1U);
+  EXPECT_EQ(elements().at(0).label, "the whole month");
   view->setAxElements({});
   EXPECT_EQ(elements().size(), 30U);
   EXPECT_EQ(view->axElements().at(0).value, "April 1");

@@ -170,11 +170,27 @@ TEST_F(YearViewTest, SelectingANeighbouringYearsMoonLoadsThatYear) {
   EXPECT_EQ(announced, std::vector<std::string>{"Jan 1, 2029"});
 }
 
-TEST_F(YearViewTest, TheDaysOfAMonthAreNotOffered) {
-  show(utc(2026, 5, 15));
-  draw();
-  EXPECT_FALSE(year->isAccessibilityElement());
-  EXPECT_TRUE(year->accessibilityElements().empty());
+TEST_F(YearViewTest, EveryPropertyThatShowsAsksForDrawing) {
+  show(utc(2026, 5, 31));
+  render();
+  year->setFilteredPhase(kNewMoon);
+  EXPECT_TRUE(year->needsDisplay());
+  render();
+  year->setPhaseDictionary(std::make_shared<const YearItems>());
+  EXPECT_TRUE(year->needsDisplay());
+  render();
+  year->setSelectedYear(2027);
+  EXPECT_TRUE(year->needsDisplay()) << "the title says the year";
+  render();
+  year->changeSelectedItem(nullptr);
+  EXPECT_TRUE(year->needsDisplay());
+}
+
+TEST_F(YearViewTest, ADrawingAsksForNoOther) {
+  show(utc(2026, 5, 31));
+  render();
+  year->setFrame({0, 0, 500, 600});
+  render();
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include <velmora/views/iPhoneCalendarView.h>
 
+#include <functional>
 #include <optional>
 #include <utility>
 
@@ -284,10 +285,28 @@ TEST_F(MonthViewTest, BeforeTheFirstDrawingATouchPicksNothing) {
   EXPECT_TRUE(announced.empty());
 }
 
-TEST_F(MonthSelectionTest, AnotherAlternateCalendarAsksForDrawing) {
-  view->setAlternateCalendarType(kHebrewCalendar);
+TEST_F(MonthSelectionTest, EveryPropertyThatShowsAsksForDrawing) {
+  const std::function<void()> changes[] = {
+      [this] { view->setPadding(4); },
+      [this] { view->setWeekStartDay(1); },
+      [this] { view->setColorTheme(std::make_shared<VelmoraTheme>()); },
+      [this] { view->setHideEclipeInfo(true); },
+      [this] { view->setAlternateCalendarType(kHebrewCalendar); },
+  };
+  for (const auto& change : changes) {
+    change();
+    EXPECT_TRUE(view->needsDisplay());
+    render();
+  }
+  EXPECT_EQ(view->padding(), 4);
+  EXPECT_EQ(view->weekStartDay(), 1);
+  EXPECT_TRUE(view->hideEclipeInfo());
   EXPECT_EQ(view->alternateCalendarType(), 1);
-  EXPECT_TRUE(view->needsDisplay());
+}
+
+TEST_F(MonthSelectionTest, AnotherPlaceAsksForDrawing) {
+  service().SetSelectedLocation(placeAt(-33.9));
+  EXPECT_TRUE(view->needsDisplay()) << "the discs are mirrored";
 }
 
 }  // namespace

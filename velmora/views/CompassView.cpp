@@ -1,8 +1,11 @@
 #include <velmora/views/CompassView.h>
 
+#include <cmath>
 #include <numbers>
 
 #include <velmora/platform/ui/Device.h>
+#include <velmora/views/LocalizedText.h>
+#include <velmora/views/SpokenTexts.h>
 
 namespace velmora {
 namespace {
@@ -19,6 +22,14 @@ constexpr Color kLetterColor = Color::withWhite(0.8, 1);
 }  // namespace
 
 CompassView::CompassView() { setIsUserInteractionEnabled(false); }
+
+std::vector<AccessibilityElement> CompassView::accessibilityElements() {
+  const Point north = transform().apply({1, 0}) - transform().apply({0, 0});
+  const double clockwiseFromTop = std::atan2(north.x, -north.y) / radiansFromDegrees(1);
+  return {{.frame = bounds(),
+           .label = localizedText("Compass"),
+           .value = localizedText("%@ at the top", spokenBearing(-clockwiseFromTop))}};
+}
 
 void CompassView::updateLayer() {
   if (_pathLayer != nullptr) return;

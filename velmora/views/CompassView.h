@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <vector>
 
 #include <velmora/platform/ui/ShapeLayer.h>
 #include <velmora/platform/ui/TextLayer.h>
@@ -24,6 +25,9 @@ class CompassView : public View, public CircleGeometry {
   /// Of ring and ticks; clear unless set.
   const Color& strokeColor() const { return _strokeColor; }
   void setStrokeColor(const Color& color) { _strokeColor = color; }
+
+  /// One element, the compass: which bearing is at the top as the view is turned.
+  std::vector<AccessibilityElement> accessibilityElements() override;
 
   /// The layers as last built; none before the first `updateLayer`.
   const std::shared_ptr<TextLayer>& northLabel() const { return _northLabel; }

@@ -149,23 +149,20 @@ class MonthDays {
 void iPhoneCalendarView::drawRect(Canvas& canvas, Rect rect) {
   View::drawRect(canvas, rect);
   _selectedDate = MoonPhaseData::sharedInstance().currentDate();
-  layOutMonth();
+  _grid = gridOfSelectedMonth();
   drawHeader(canvas);
   MonthDays(*this, _grid, _numberFormatter, _altNumberFormatter, canvas).draw();
 }
 
 // Before a day is selected there is no month, and only the header is drawn.
-void iPhoneCalendarView::layOutMonth() {
+MonthGrid iPhoneCalendarView::gridOfSelectedMonth() const {
   const MoonPhaseData& service = MoonPhaseData::sharedInstance();
-  if (!service.currentDate()) {
-    _grid = MonthGrid::inView(bounds().size(), 0, 0);
-    return;
-  }
+  if (!service.currentDate()) return MonthGrid::inView(bounds().size(), 0, 0);
   const std::int64_t year = service.currentYear(), month = service.currentMonth();
   const Instant first = service.calendar().date({.year = year, .month = month, .day = 1});
   const std::int64_t weekday = service.calendar().components(first).weekday;
-  _grid = MonthGrid::inView(bounds().size(), MonthGrid::columnOfWeekday(weekday, _weekStartDay),
-                            MoonPhaseCalc::GetNumberOfDaysInMonth(month - 1, year));
+  return MonthGrid::inView(bounds().size(), MonthGrid::columnOfWeekday(weekday, _weekStartDay),
+                           MoonPhaseCalc::GetNumberOfDaysInMonth(month - 1, year));
 }
 
 void iPhoneCalendarView::drawHeader(Canvas& canvas) {

@@ -2,6 +2,9 @@
 
 #include <numbers>
 
+#include <velmora/views/LocalizedText.h>
+#include <velmora/views/SpokenTexts.h>
+
 namespace velmora {
 namespace {
 
@@ -80,6 +83,13 @@ void MoonAzimuthElevationView::setObjectAzimuth(float azimuth, float elevation) 
   _objectElevation = elevation;
   if (_objectLayer != nullptr) _objectLayer->setOpacity(elevation >= kFadedBelow ? 1 : kFadedOpacity);
   updateObjectPosition();
+}
+
+std::vector<AccessibilityElement> MoonAzimuthElevationView::accessibilityElements() {
+  if (_objectLayer == nullptr || _objectLayer->path().isEmpty()) return {};
+  return {{.frame = bounds(),
+           .label = localizedText("Moon"),
+           .value = spokenBearing(_objectAzimuth) + ", " + spokenHeight(_objectElevation)}};
 }
 
 void MoonAzimuthElevationView::updateObjectPosition() {

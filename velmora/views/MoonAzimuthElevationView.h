@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <vector>
 
 #include <velmora/platform/ui/ShapeLayer.h>
 #include <velmora/platform/ui/View.h>
@@ -8,7 +9,7 @@
 
 namespace velmora {
 
-/// The way of an object, the Moon, over the sky: a thick half circle between two points of a compass, and a
+/// The path of an object, the Moon, over the sky: a thick half circle between two points of a compass, and a
 /// small disc where the object stands on it by its azimuth and elevation.
 ///
 /// Set the frame, the colours and the radius with its two angles, call `updateLayer`, then
@@ -56,6 +57,9 @@ class MoonAzimuthElevationView : public View, public CircleGeometry {
 
   /// Moves the object's disc, azimuth and elevation in degrees. It is faded where the elevation is below −1.
   void setObjectAzimuth(float azimuth, float elevation);
+
+  /// One element, the Moon: its bearing and its height; none while its disc has no place.
+  std::vector<AccessibilityElement> accessibilityElements() override;
 
   /// Places the disc on its circle: at elevation + 90 degrees, for azimuths above 180, the western sky,
   /// mirrored to the other side.

@@ -10,6 +10,7 @@
 #include <velmora/platform/time/DateFormatter.h>
 #include <velmora/platform/time/NumberText.h>
 #include <velmora/service/MoonPhaseData.h>
+#include <velmora/views/SpokenTexts.h>
 #include <velmora/views/Today.h>
 
 namespace velmora {
@@ -66,21 +67,57 @@ void drawDayNumber(Canvas& canvas, std::int64_t day, Rect label, const Color& co
   number.drawInRect(canvas, label.inset(0, (labelSide - number.height()) * 0.5));
 }
 
+/// A day's picture, and where it lies in the view with the number under it.
+struct DayPicture {
+  std::int64_t day;
+  std::int32_t number;
+  Rect picture;
+  Rect label;
+
+  Rect withLabel() const { return {picture.x, picture.y, picture.width, label.maxY() - picture.y}; }
+};
+
+/// Those of the selected month; none where it has no pictures.
+std::vector<DayPicture> picturesIn(Size view) {
+  MoonPhaseData& service = MoonPhaseData::sharedInstance();
+  const auto numbers = service.currentMonthImageDictionary();
+  const auto firstColumn = columnOfFirstDay(service);
+  std::vector<DayPicture> pictures;
+  if (numbers == nullptr || !firstColumn) return pictures;
+  const PictureGrid grid(view);
+  for (const auto& [day, number] : *numbers) {
+    const Rect cell = grid.picture(*firstColumn + day - 1);
+    pictures.push_back({day, number, cell, grid.label(day, cell)});
+  }
+  return pictures;
+}
+
 }  // namespace
+
+MoonCalendarView::MoonCalendarView()
+    : _dateChanges(NotificationCenter::defaultCenter().subscribe(kCalenderDateChangedNotification,
+                                                                 [this] { setNeedsDisplay(); })),
+      _placeChanges(NotificationCenter::defaultCenter().subscribe(kCalenderLocationChangedNotification,
+                                                                  [this] { setNeedsDisplay(); })) {}
+
+std::vector<AccessibilityElement> MoonCalendarView::accessibilityElements() {
+  const SpokenDays days;
+  std::vector<AccessibilityElement> elements;
+  for (const DayPicture& picture : picturesIn(bounds().size())) {
+    elements.push_back({.frame = picture.withLabel(), .label = days.dateAndPhase(picture.day)});
+  }
+  return elements;
+}
 
 void MoonCalendarView::drawRect(Canvas& canvas, Rect rect) {
   View::drawRect(canvas, rect);
-  MoonPhaseData& service = MoonPhaseData::sharedInstance();
-  const auto pictures = service.currentMonthImageDictionary();
-  const auto firstColumn = columnOfFirstDay(service);
-  if (pictures == nullptr || !firstColumn) return;
-  const std::int64_t today = todayInSelectedMonth(service);
-  const PictureGrid grid(bounds().size());
+  const std::int64_t today = todayInSelectedMonth(MoonPhaseData::sharedInstance());
   const Bundle bundle = Bundle::library();
-  for (const auto& [day, number] : *pictures) {
-    const Rect cell = grid.picture(*firstColumn + day - 1);
-    if (const auto picture = bundle.image("IMG_" + integerText(number))) canvas.drawImage(*picture, cell);
-    drawDayNumber(canvas, day, grid.label(day, cell), day == today ? Color::yellow() : Color::white());
+  for (const DayPicture& day : picturesIn(bounds().size())) {
+    if (const auto picture = bundle.image("IMG_" + integerText(day.number))) {
+      canvas.drawImage(*picture, day.picture);
+    }
+    drawDayNumber(canvas, day.day, day.label, day.day == today ? Color::yellow() : Color::white());
   }
 }
 

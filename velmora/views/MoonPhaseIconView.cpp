@@ -4,12 +4,18 @@
 
 #include <velmora/phases/PhaseItem.h>
 #include <velmora/views/PhaseDisc.h>
+#include <velmora/views/SpokenTexts.h>
 
 namespace velmora {
 
 void MoonPhaseIconView::setPhaseItem(std::shared_ptr<const PhaseItem> item) {
   _phaseItem = std::move(item);
   setNeedsDisplay();
+}
+
+std::vector<AccessibilityElement> MoonPhaseIconView::accessibilityElements() {
+  if (_phaseItem == nullptr) return {};
+  return {{.frame = bounds(), .label = SpokenDays().dateAndPhase(*_phaseItem)}};
 }
 
 void MoonPhaseIconView::drawRect(Canvas& canvas, Rect rect) {

@@ -18,29 +18,40 @@ std::int64_t wholeCells(double length, double cellSize) {
 
 }  // namespace
 
+void MoonPhaseYearView::setPhaseDictionary(std::shared_ptr<const YearItems> items) {
+  _phaseDictionary = std::move(items);
+  setNeedsDisplay();
+}
+
+void MoonPhaseYearView::setFilteredPhase(std::int64_t phase) {
+  _filteredPhase = phase;
+  setNeedsDisplay();
+}
+
+void MoonPhaseYearView::setSelectedYear(std::int64_t year) {
+  _selectedYear = year;
+  setNeedsDisplay();
+}
+
 void MoonPhaseYearView::calendarDateChanged() {
   const std::int64_t year = MoonPhaseData::sharedInstance().currentYear();
-  if (year != _selectedYear) {
-    loadYear(year);
-    setNeedsDisplay();
-  }
+  if (year != _selectedYear) loadYear(year);
   loadSelectedPhaseItem();
 }
 
 void MoonPhaseYearView::calendarLocationChanged() {
   loadYear(MoonPhaseData::sharedInstance().currentYear());
   loadSelectedPhaseItem();
-  setNeedsDisplay();
 }
 
 void MoonPhaseYearView::loadYear(std::int64_t year) {
-  _phaseDictionary =
-      std::make_shared<const YearItems>(MoonPhaseData::sharedInstance().GetRiseSetPhaseItemsForYear(year));
+  setPhaseDictionary(
+      std::make_shared<const YearItems>(MoonPhaseData::sharedInstance().GetRiseSetPhaseItemsForYear(year)));
   _selectedYear = year;
 }
 
 void MoonPhaseYearView::loadSelectedPhaseItem() {
-  _selectedPhaseItem.reset();
+  clearSelection();
   const MoonPhaseData& service = MoonPhaseData::sharedInstance();
   if (!_phaseDictionary || !_phaseDictionary->contains(service.currentMonth())) return;
   for (const auto& item : _phaseDictionary->at(service.currentMonth())) {
@@ -56,13 +67,14 @@ void MoonPhaseYearView::clearSelection() {
   setNeedsDisplay();
 }
 
+// Whoever is told may let go of the view.
 void MoonPhaseYearView::changeSelectedItem(std::shared_ptr<RiseSetPhaseItem> item) {
-  _selectedPhaseItem = std::move(item);
-  if (!_selectedPhaseItem) return;
+  const auto self = weak_from_this().lock();
+  _selectedPhaseItem = item;
+  setNeedsDisplay();
+  if (!item) return;
   MoonPhaseData& service = MoonPhaseData::sharedInstance();
-  const RiseSetPhaseItem& selected = *_selectedPhaseItem;
-  const Instant date =
-      service.calendar().date({.year = selected.year, .month = selected.month, .day = selected.day});
+  const Instant date = service.calendar().date({.year = item->year, .month = item->month, .day = item->day});
   service.SetSelectedDate(date);
   setSelectedDate(date);
   announce(date);
@@ -79,7 +91,6 @@ void MoonPhaseYearView::touchesEnded(const Touch& touch) {
   if (touchCancelled() || cellUnder(touch) != _touchedCell) return;
   const auto found = _displayedEvents.find(_touchedCell);
   changeSelectedItem(found == _displayedEvents.end() ? nullptr : found->second);
-  setNeedsDisplay();
 }
 
 // Kept: the gap above the first row is not taken off, so that rows are touched that much higher than they are

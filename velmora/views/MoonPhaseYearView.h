@@ -6,6 +6,7 @@
 #include <memory>
 #include <optional>
 #include <utility>
+#include <vector>
 
 #include <velmora/platform/graphics/AttributedText.h>
 #include <velmora/platform/time/NumberFormatter.h>
@@ -22,7 +23,7 @@ namespace velmora {
 /// first of these there is nothing to draw.
 /// Kept: `weekStartDay` moves the weekdays' names and not the moons.
 ///
-/// Source files: MoonPhaseYearView.cpp (selection and touches), YearDrawing.cpp.
+/// Source files: MoonPhaseYearView.cpp (selection and touches), YearDrawing.cpp, YearAccessibility.cpp.
 class MoonPhaseYearView : public iPhoneCalendarView {
  public:
   /// As the service answers them.
@@ -30,23 +31,22 @@ class MoonPhaseYearView : public iPhoneCalendarView {
 
   /// The year's principal events by month, 1 to 12; none before they are loaded.
   const std::shared_ptr<const YearItems>& phaseDictionary() const { return _phaseDictionary; }
-  void setPhaseDictionary(std::shared_ptr<const YearItems> items) { _phaseDictionary = std::move(items); }
+  void setPhaseDictionary(std::shared_ptr<const YearItems> items);
 
   /// The phase that is shown: 0 full moon, 3 new moon.
   /// Kept: texts call every other value than 0 a new moon.
   std::int64_t filteredPhase() const { return _filteredPhase; }
-  void setFilteredPhase(std::int64_t phase) { _filteredPhase = phase; }
+  void setFilteredPhase(std::int64_t phase);
 
   /// The year that `phaseDictionary` was loaded for; 0 before.
   std::int64_t selectedYear() const { return _selectedYear; }
-  void setSelectedYear(std::int64_t year) { _selectedYear = year; }
+  void setSelectedYear(std::int64_t year);
 
   /// The selected event; none without one.
   const std::shared_ptr<RiseSetPhaseItem>& selectedPhaseItem() const { return _selectedPhaseItem; }
 
   /// Loads the service's year where it is another than `selectedYear`, and selects the event of the
-  /// service's day. The service's post alone does not lead here: it reaches the month view's operation of
-  /// this name, which asks for drawing.
+  /// service's day. The service's post alone does not lead here: the host passes it on.
   void calendarDateChanged();
   /// Loads the service's year for its place, and selects the event of the service's day.
   void calendarLocationChanged();
@@ -83,6 +83,10 @@ class MoonPhaseYearView : public iPhoneCalendarView {
   void touchesBegan(const Touch& touch) override;
   void touchesEnded(const Touch& touch) override;
 
+ protected:
+  /// One element an event of the shown phase, in order of time. Its action selects the event as a touch does.
+  std::vector<AccessibilityElement> currentElements() override;
+
  private:
   /// A column and a row, counted from 0.
   struct Cell {
@@ -90,12 +94,21 @@ class MoonPhaseYearView : public iPhoneCalendarView {
     friend auto operator<=>(const Cell&, const Cell&) = default;
   };
 
+  /// An event of the shown phase, and where it lies in the current direction of layout.
+  struct ShownEvent {
+    std::shared_ptr<RiseSetPhaseItem> item;
+    Cell cell;
+    Rect disc;
+    Rect label;  ///< of the date, under the disc
+  };
+
   void loadYear(std::int64_t year);
   Cell cellUnder(const Touch& touch) const;
 
-  void layOutYear();
+  MonthGrid gridOfYear() const;
+  std::vector<ShownEvent> shownEvents() const;
   void drawEvents(Canvas& canvas);
-  void drawEvent(Canvas& canvas, const std::shared_ptr<RiseSetPhaseItem>& item, Cell cell);
+  void drawEvent(Canvas& canvas, const ShownEvent& event);
   void drawOuterFrame(Canvas& canvas);
   void drawHeader(Canvas& canvas);
   void drawSelection(Canvas& canvas, const RiseSetPhaseItem& item);

@@ -11,6 +11,7 @@
 #include <velmora/views/OncePerProcess.h>
 #include <velmora/views/PhaseDisc.h>
 #include <velmora/views/RiseSetPainter.h>
+#include <velmora/views/SpokenTexts.h>
 #include <velmora/views/UIControls.h>
 
 namespace velmora {
@@ -76,6 +77,11 @@ bool MoonRiseSetDayView::isSouthernHemisphere() const {
 }
 
 void MoonRiseSetDayView::handleTouchEvent(const Touch&) { setNeedsDisplay(); }
+
+std::vector<AccessibilityElement> MoonRiseSetDayView::accessibilityElements() {
+  if (_phaseItem == nullptr) return {};
+  return {{.frame = bounds(), .label = SpokenDays().riseAndSet(*_phaseItem)}};
+}
 
 void MoonRiseSetDayView::drawRect(Canvas& canvas, Rect rect) {
   canvas.clearRect(rect);

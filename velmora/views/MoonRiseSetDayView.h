@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <vector>
 
 #include <velmora/platform/ui/View.h>
 #include <velmora/views/VelmoraTheme.h>
@@ -59,6 +60,10 @@ class MoonRiseSetDayView : public View {
 
   /// Of the rise and set times: on the left, cut at their rectangle, made once per process.
   static const TextAttributes& labelTextTextAttributes();
+
+  /// One element, the row: its day with the rises and sets as one sentence; none without a day. Whether a
+  /// body that neither rises nor sets is up is computed for the service's selected place.
+  std::vector<AccessibilityElement> accessibilityElements() override;
 
   void drawRect(Canvas& canvas, Rect rect) override;
 

@@ -3,10 +3,10 @@
 #include <cstddef>
 
 #include <velmora/foundation/SettingsModel.h>
-#include <velmora/platform/resources/Bundle.h>
 #include <velmora/platform/time/DateFormatter.h>
 #include <velmora/platform/ui/Device.h>
 #include <velmora/service/MoonPhaseData.h>
+#include <velmora/views/LocalizedText.h>
 #include <velmora/views/OncePerProcess.h>
 #include <velmora/views/UIControls.h>
 #include <velmora/views/VelmoraTheme.h>
@@ -105,8 +105,7 @@ void TimelineDayView::drawRect(Canvas& canvas, Rect) {
 // titles in another language get the same.
 void TimelineDayView::drawTitle(Canvas& canvas) const {
   static OncePerProcess<Rect> rect;
-  const TextLayout title(
-      AttributedText(Bundle::library().localizedString("TIME"), headerCenterTitleTextAttributes()));
+  const TextLayout title(AttributedText(localizedText("TIME"), headerCenterTitleTextAttributes()));
   title.drawInRect(canvas, rect.get([&] {
     return Rect{bounds().midX() - title.width() * 0.5, bounds().y, title.width(), title.height()};
   }));

@@ -1,13 +1,12 @@
 #include <cmath>
 #include <string>
-#include <string_view>
 
 #include <velmora/foundation/SettingsModel.h>
 #include <velmora/foundation/VelmoraCalendar.h>
 #include <velmora/phases/Phase.h>
 #include <velmora/platform/graphics/TextLayout.h>
-#include <velmora/platform/resources/Bundle.h>
 #include <velmora/platform/ui/Device.h>
+#include <velmora/views/LocalizedText.h>
 #include <velmora/views/MoonPhaseYearView.h>
 #include <velmora/views/OncePerProcess.h>
 #include <velmora/views/UIControls.h>
@@ -40,16 +39,6 @@ Font dateFont() {
 TextAttributes boldTitle(double tabletSize, double phoneSize) {
   return centred(Font::boldSystemFont(forDevice(tabletSize, phoneSize)),
                  VelmoraTheme::defaultTheme()->defaultTextColor);
-}
-
-std::string localized(const std::string& key) { return Bundle::library().localizedString(key); }
-
-/// The localised text with its placeholder filled.
-std::string localized(const std::string& key, const std::string& value) {
-  constexpr std::string_view placeholder = "%@";
-  std::string text = localized(key);
-  const std::size_t at = text.find(placeholder);
-  return at == std::string::npos ? text : text.replace(at, placeholder.size(), value);
 }
 
 void useBorderLine(Canvas& canvas) {
@@ -87,7 +76,8 @@ const TextAttributes& MoonPhaseYearView::headerTextAttributes() {
 
 void MoonPhaseYearView::drawRect(Canvas& canvas, Rect rect) {
   if (!_phaseDictionary) return;
-  layOutYear();
+  grid() = gridOfYear();
+  usePadding(grid().cellWidth * discPaddingShare);
   canvas.clearRect(rect);
   const double columnWidth = std::trunc((bounds().width - 2 * sideMargin) / columns);
   const Rect band = {sideMargin, heightForHeaderView(), bounds().width - 2 * sideMargin, topMargin};
@@ -98,14 +88,37 @@ void MoonPhaseYearView::drawRect(Canvas& canvas, Rect rect) {
   drawHeader(canvas);
 }
 
-void MoonPhaseYearView::layOutYear() {
+MonthGrid MoonPhaseYearView::gridOfYear() const {
   const double gridHeight = bounds().height - topMargin - bottomMargin - heightForHeaderView() - gapAboveRows;
-  grid().topMargin = topMargin;
-  grid().bottomMargin = bottomMargin;
-  grid().leftMargin = grid().rightMargin = sideMargin;
-  grid().cellWidth = (bounds().width - 2 * sideMargin) / columns;
-  grid().cellHeight = gridHeight / months;
-  setPadding(grid().cellWidth * discPaddingShare);
+  MonthGrid grid;
+  grid.topMargin = topMargin;
+  grid.bottomMargin = bottomMargin;
+  grid.leftMargin = grid.rightMargin = sideMargin;
+  grid.cellWidth = (bounds().width - 2 * sideMargin) / columns;
+  grid.cellHeight = gridHeight / months;
+  return grid;
+}
+
+std::vector<MoonPhaseYearView::ShownEvent> MoonPhaseYearView::shownEvents() const {
+  const MonthGrid grid = gridOfYear();
+  const double columnWidth = std::trunc(grid.cellWidth);
+  std::vector<ShownEvent> events;
+  if (!_phaseDictionary) return events;
+  for (const auto& [month, items] : *_phaseDictionary) {
+    if (month < 1 || month > months) continue;
+    for (const auto& item : items) {
+      if (item->phase != _filteredPhase) continue;
+      const Cell cell = {item->weekDay - 1, month - 1};
+      const Rect disc = {
+          sideMargin + static_cast<double>(cell.x) * columnWidth,
+          topMargin + heightForHeaderView() + gapAboveRows + static_cast<double>(cell.y) * grid.cellHeight,
+          grid.cellWidth, grid.cellHeight};
+      const Rect label = {disc.x, disc.maxY() - labelOverlap, columnWidth, forDevice(21, 16)};
+      events.push_back({item, cell, UIControls::rectForCurrentLayoutDirection(disc, bounds()),
+                        UIControls::rectForCurrentLayoutDirection(label, bounds())});
+    }
+  }
+  return events;
 }
 
 void MoonPhaseYearView::drawWeekdaysHeaders(Canvas& context, Rect inRect, double columnWidth) {
@@ -133,35 +146,25 @@ void MoonPhaseYearView::drawWeekdaysBorders(Canvas& context, Rect inRect, double
 void MoonPhaseYearView::drawEvents(Canvas& canvas) {
   _displayedEvents.clear();
   _yearOfLastEvent = _selectedYear;
-  for (const auto& [month, items] : *_phaseDictionary) {
-    if (month < 1 || month > months) continue;
-    for (const auto& item : items) {
-      if (item->phase == _filteredPhase) drawEvent(canvas, item, {item->weekDay - 1, month - 1});
-    }
+  for (const ShownEvent& event : shownEvents()) {
+    drawEvent(canvas, event);
+    _displayedEvents[event.cell] = event.item;
+    _yearOfLastEvent = event.item->year;
   }
 }
 
-void MoonPhaseYearView::drawEvent(Canvas& canvas, const std::shared_ptr<RiseSetPhaseItem>& item, Cell cell) {
-  const double columnWidth = std::trunc(grid().cellWidth);
-  const Rect disc = {
-      sideMargin + static_cast<double>(cell.x) * columnWidth,
-      topMargin + heightForHeaderView() + gapAboveRows + static_cast<double>(cell.y) * grid().cellHeight,
-      grid().cellWidth, grid().cellHeight};
-  const bool isSelected = item == _selectedPhaseItem;
+void MoonPhaseYearView::drawEvent(Canvas& canvas, const ShownEvent& event) {
+  const bool isSelected = event.item == _selectedPhaseItem;
   const VelmoraTheme& theme = *VelmoraTheme::defaultTheme();
   const Color& color = isSelected ? theme.selectedBackgroundColor : theme.defaultTextColor;
   canvas.setStrokeColor(color);
   canvas.setFillColor(color);
-  drawMoonPhaseInRect(UIControls::rectForCurrentLayoutDirection(disc, bounds()), *item, canvas);
+  drawMoonPhaseInRect(event.disc, *event.item, canvas);
 
-  const std::string& month = VelmoraCalendar::shortMonthStrings().at(static_cast<std::size_t>(cell.y));
-  const std::string date = month + " " + numberFormatter().stringFromNumber(item->day);
-  const Rect label = {disc.x, disc.maxY() - labelOverlap, columnWidth, forDevice(21, 16)};
+  const std::string& month = VelmoraCalendar::shortMonthStrings().at(static_cast<std::size_t>(event.cell.y));
+  const std::string date = month + " " + numberFormatter().stringFromNumber(event.item->day);
   TextLayout(AttributedText(date, isSelected ? selectedDateTextAttributes() : dateTextAttributes()))
-      .drawInRect(canvas, UIControls::rectForCurrentLayoutDirection(label, bounds()));
-
-  _displayedEvents[cell] = item;
-  _yearOfLastEvent = item->year;
+      .drawInRect(canvas, event.label);
 }
 
 // Kept: the left margin counts into the frame's width.
@@ -189,13 +192,13 @@ void MoonPhaseYearView::drawSelection(Canvas& canvas, const RiseSetPhaseItem& it
   }
   const auto position = MoonPhaseData::sharedInstance().GetMoonPositionDataForDate(item.localDate);
   const std::string elevation = _decimalFormatter->stringFromNumber(position ? position->altitude : 0.0);
-  const std::string phase = localized(_filteredPhase == kFullMoon ? "FULL MOON" : "NEW MOON");
+  const std::string phase = localizedText(_filteredPhase == kFullMoon ? "FULL MOON" : "NEW MOON");
 
   const auto top = [](const TextLayout& text) { return (heightForHeaderView() - text.height()) * 0.5; };
   const TextLayout left(
-      AttributedText(phase + " " + localized("at") + " " + item.timeText, headerTextAttributes()));
+      AttributedText(phase + " " + localizedText("at") + " " + item.timeText, headerTextAttributes()));
   left.drawAtPoint(canvas, {sideMargin, top(left)});
-  const TextLayout right(AttributedText(localized("ELEVATION: %@", elevation), headerTextAttributes()));
+  const TextLayout right(AttributedText(localizedText("ELEVATION: %@", elevation), headerTextAttributes()));
   right.drawAtPoint(canvas, {bounds().width - sideMargin - right.width(), top(right)});
 }
 
@@ -203,7 +206,7 @@ void MoonPhaseYearView::drawTitle(Canvas& canvas) {
   const std::string year = numberFormatter().stringFromNumber(_yearOfLastEvent);
   const bool isFull = _filteredPhase == kFullMoon;
   const TextLayout title(AttributedText(
-      localized(isFull ? "Full Moon - Year Calendar (%@)" : "New Moon - Year Calendar (%@)", year),
+      localizedText(isFull ? "Full Moon - Year Calendar (%@)" : "New Moon - Year Calendar (%@)", year),
       headerCenterTitleTextAttributes()));
   title.drawInRect(canvas,
                    {0, (heightForHeaderView() - title.height()) * 0.5, bounds().width, title.height()});

@@ -1,5 +1,7 @@
 #include <velmora/views/iPhoneCalendarView.h>
 
+#include <utility>
+
 #include <velmora/foundation/VelmoraCalendar.h>
 #include <velmora/platform/ui/Announcements.h>
 #include <velmora/service/MoonPhaseData.h>
@@ -10,13 +12,35 @@ namespace velmora {
 
 iPhoneCalendarView::iPhoneCalendarView()
     : _dateChanges(NotificationCenter::defaultCenter().subscribe(kCalenderDateChangedNotification,
-                                                                 [this] { calendarDateChanged(); })) {
+                                                                 [this] { followSelectedDate(); })),
+      _placeChanges(NotificationCenter::defaultCenter().subscribe(kCalenderLocationChangedNotification,
+                                                                  [this] { setNeedsDisplay(); })) {
   awakeFromNib();
 }
 
 void iPhoneCalendarView::awakeFromNib() {
   setAccessibilityTraits(AccessibilityTraits::allowsDirectInteraction);
   setIsAccessibilityElement(true);
+}
+
+void iPhoneCalendarView::setPadding(double padding) {
+  usePadding(padding);
+  setNeedsDisplay();
+}
+
+void iPhoneCalendarView::setWeekStartDay(std::int64_t index) {
+  _weekStartDay = index;
+  setNeedsDisplay();
+}
+
+void iPhoneCalendarView::setColorTheme(std::shared_ptr<VelmoraTheme> theme) {
+  _colorTheme = std::move(theme);
+  setNeedsDisplay();
+}
+
+void iPhoneCalendarView::setHideEclipeInfo(bool isHidden) {
+  _hideEclipeInfo = isHidden;
+  setNeedsDisplay();
 }
 
 void iPhoneCalendarView::setAlternateCalendarType(std::int64_t type) {
@@ -34,17 +58,19 @@ bool iPhoneCalendarView::isSouthernHemisphere() const {
   return MoonPhaseData::sharedInstance().isSouthernHemisphere();
 }
 
-void iPhoneCalendarView::calendarDateChanged() {
+void iPhoneCalendarView::followSelectedDate() {
   const auto& date = MoonPhaseData::sharedInstance().currentDate();
   if (date == _selectedDate) return;
   _selectedDate = date;
   setNeedsDisplay();
 }
 
+// Whoever is told may let go of the view, or start the service afresh.
 void iPhoneCalendarView::changeSelectedDay(std::int64_t day) {
+  const auto self = weak_from_this().lock();
   MoonPhaseData& service = MoonPhaseData::sharedInstance();
   service.changeSelectedDay(day, service.currentMonth(), service.currentYear());
-  _selectedDate = service.currentDate();
+  _selectedDate = MoonPhaseData::sharedInstance().currentDate();
   setNeedsDisplay();
   if (_selectedDate) announce(*_selectedDate);
   NotificationCenter::defaultCenter().post(kCalenderDateChangedNotification);

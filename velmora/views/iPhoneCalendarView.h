@@ -20,7 +20,8 @@ struct PhaseItem;
 
 /// The selected month of the shared service as a grid of phase discs with day numbers. A touch on a day, or
 /// its accessibility action, selects it in the service; the view keeps in step with a selection made
-/// elsewhere. Properties show from the next drawing on; the alternate calendar asks for it.
+/// elsewhere. A changed property and another place ask for a drawing; after a change of a theme's colours, or
+/// of what is set for the process, the host asks for it.
 ///
 /// Source files: iPhoneCalendarView.cpp (selection and touches), MonthDrawing.cpp, MonthAccessibility.cpp.
 class iPhoneCalendarView : public View {
@@ -38,11 +39,11 @@ class iPhoneCalendarView : public View {
 
   /// Points by which a disc is narrower than its cell; 0 unless set.
   double padding() const { return _padding; }
-  void setPadding(double padding) { _padding = padding; }
+  void setPadding(double padding);
 
   /// The weekday of the first column: 0 is the first of `shortWeekdayStrings`, Sunday.
   std::int64_t weekStartDay() const { return _weekStartDay; }
-  void setWeekStartDay(std::int64_t index) { _weekStartDay = index; }
+  void setWeekStartDay(std::int64_t index);
 
   /// The calendar whose day numbers stand in brackets beside the Gregorian ones (see AlternateCalendarType).
   std::int64_t alternateCalendarType() const { return _alternateCalendarType; }
@@ -50,26 +51,25 @@ class iPhoneCalendarView : public View {
 
   /// The theme of this view alone; none for the shared calendar theme.
   const std::shared_ptr<VelmoraTheme>& colorTheme() const { return _colorTheme; }
-  void setColorTheme(std::shared_ptr<VelmoraTheme> theme) { _colorTheme = std::move(theme); }
+  void setColorTheme(std::shared_ptr<VelmoraTheme> theme);
   /// The theme to draw with: the view's own, which becomes the shared calendar theme where there is none.
   const std::shared_ptr<VelmoraTheme>& calendarTheme();
 
   /// Whether no rings are drawn around the discs of days with an eclipse.
   /// Kept: the spelling.
   bool hideEclipeInfo() const { return _hideEclipeInfo; }
-  void setHideEclipeInfo(bool isHidden) { _hideEclipeInfo = isHidden; }
+  void setHideEclipeInfo(bool isHidden);
 
-  /// The elements made for the month that was drawn when they were first asked for; the host empties them
-  /// when another month is shown.
+  /// The elements as last made, or given by the host; given ones stand until the host empties them.
   const std::vector<AccessibilityElement>& axElements() const { return _axElements; }
-  void setAxElements(std::vector<AccessibilityElement> elements) { _axElements = std::move(elements); }
+  void setAxElements(std::vector<AccessibilityElement> elements);
 
   /// Whether the selected place lies south of the equator, so that discs are mirrored.
   bool isSouthernHemisphere() const;
 
   /// Follows the service to another date; nothing happens while its date is the view's. Called whenever
   /// "CalenderDateChanged" is posted.
-  void calendarDateChanged();
+  void followSelectedDate();
 
   /// Selects that day of the service's month, announces the date that is then selected and posts
   /// "CalenderDateChanged", after the service's own post if the date changed. Day 0 is the last day of the
@@ -98,9 +98,10 @@ class iPhoneCalendarView : public View {
   AccessibilityContainerType accessibilityContainerType() const override {
     return AccessibilityContainerType::semanticGroup;
   }
-  /// `axElements`, made now if there are none. A view that has not been drawn has no days yet.
+  /// `axElements`, made for what the view shows now unless the host has given them. The view needs a frame,
+  /// but no drawing.
   std::vector<AccessibilityElement> accessibilityElements() override;
-  /// Makes `axElements`: one element a day of the month last drawn, in day order.
+  /// Makes `axElements`: one element a day of the selected month, in day order.
   void setupAccessibility();
   /// Selects the day that the action of a day's element carries.
   /// Kept: it is the day before the element's.
@@ -110,7 +111,13 @@ class iPhoneCalendarView : public View {
   /// Speaks the date in the medium style, in language and zone of the first announcement.
   static void announce(Instant date);
 
-  /// The geometry of the last drawing, which touches and accessibility go by; all 0 before it.
+  /// The elements of what the view shows now.
+  virtual std::vector<AccessibilityElement> currentElements();
+
+  /// For a drawing that decides on the padding itself: does not ask for another.
+  void usePadding(double padding) { _padding = padding; }
+
+  /// The geometry of the last drawing, which touches go by; all 0 before it.
   MonthGrid& grid() { return _grid; }
   const MonthGrid& grid() const { return _grid; }
   const NumberFormatter& numberFormatter() const { return _numberFormatter; }
@@ -120,10 +127,9 @@ class iPhoneCalendarView : public View {
   void setTouchCancelled(bool isCancelled) { _touchCancelled = isCancelled; }
 
  private:
-  void layOutMonth();
+  MonthGrid gridOfSelectedMonth() const;
   void drawHeader(Canvas& canvas);
   std::optional<std::int64_t> cellUnder(const Touch& touch) const;
-  AccessibilityElement elementOfDay(std::int64_t day);
 
   std::optional<Instant> _selectedDate;
   double _padding = 0;
@@ -132,12 +138,13 @@ class iPhoneCalendarView : public View {
   std::shared_ptr<VelmoraTheme> _colorTheme;
   bool _hideEclipeInfo = false;
   std::vector<AccessibilityElement> _axElements;
+  bool _hasGivenElements = false;
   MonthGrid _grid;
   std::optional<std::int64_t> _lastSelectedCell;
   bool _touchCancelled = false;
   NumberFormatter _numberFormatter;
   NumberFormatter _altNumberFormatter;
-  NotificationCenter::Subscription _dateChanges;
+  NotificationCenter::Subscription _dateChanges, _placeChanges;
 };
 
 }  // namespace velmora

@@ -242,10 +242,10 @@ TEST(View, ATouchReachesTheTopmostViewThatTakesIt) {
   const auto below = added(*root, viewAt({}), {0, 0, 60, 60});
   const auto above = added(*root, viewAt({}), {40, 40, 60, 60});
   const auto inner = added(*above, viewAt({}), {50, 50, 10, 10});
-  EXPECT_EQ(root->hitTest({10, 10}), below.get());
-  EXPECT_EQ(root->hitTest({50, 50}), above.get());
-  EXPECT_EQ(root->hitTest({95, 95}), inner.get());
-  EXPECT_EQ(root->hitTest({10, 90}), root.get());
+  EXPECT_EQ(root->hitTest({10, 10}), below);
+  EXPECT_EQ(root->hitTest({50, 50}), above);
+  EXPECT_EQ(root->hitTest({95, 95}), inner);
+  EXPECT_EQ(root->hitTest({10, 90}), root);
   EXPECT_EQ(root->hitTest({100, 50}), nullptr);
 }
 
@@ -254,13 +254,13 @@ TEST(View, TouchesPassThroughWhatTakesNone) {
   const auto below = added(*root, viewAt({}), {0, 0, 100, 100});
   const auto above = added(*root, viewAt({}), {0, 0, 100, 100});
   above->setIsUserInteractionEnabled(false);
-  EXPECT_EQ(root->hitTest({50, 50}), below.get());
+  EXPECT_EQ(root->hitTest({50, 50}), below);
   above->setIsUserInteractionEnabled(true);
   above->setAlpha(0);
-  EXPECT_EQ(root->hitTest({50, 50}), below.get());
+  EXPECT_EQ(root->hitTest({50, 50}), below);
   above->setAlpha(1);
   above->setTransform(AffineTransform::scaling(1, 0));
-  EXPECT_EQ(root->hitTest({50, 50}), below.get()) << "a view squeezed to a line";
+  EXPECT_EQ(root->hitTest({50, 50}), below) << "a view squeezed to a line";
 }
 
 TEST(View, OffersNothingToAScreenReaderUnlessItSaysSo) {

@@ -24,7 +24,7 @@ enum class AccessibilityContainerType {
 };
 
 /// Something that a screen reader offers to do with an element. Derived classes add what the handler needs.
-class AccessibilityCustomAction {
+class AccessibilityCustomAction : public std::enable_shared_from_this<AccessibilityCustomAction> {
  public:
   /// Is given the action that was activated.
   using Handler = std::function<void(const AccessibilityCustomAction& action)>;
@@ -39,8 +39,10 @@ class AccessibilityCustomAction {
   /// The text that the user chooses the action by.
   const std::string& name() const { return _name; }
 
-  /// Does it: the host says so when the user chose it.
+  /// Does it: the host says so when the user chose it. The action lives until the handler is done, even if
+  /// that lets go of the element.
   void activate() const {
+    const auto self = weak_from_this().lock();
     if (_handler) _handler(*this);
   }
 
@@ -51,12 +53,12 @@ class AccessibilityCustomAction {
 
 /// One thing on a view that a screen reader can stop at.
 struct AccessibilityElement {
-  Rect frame;         ///< in the coordinates of the view that lists it
-  std::string label;  ///< what it is
-  std::string value;  ///< its present state
-  std::string hint;   ///< what activating it does
+  Rect frame{};         ///< in the coordinates of the view that lists it
+  std::string label{};  ///< what it is
+  std::string value{};  ///< its present state
+  std::string hint{};   ///< what activating it does
   AccessibilityTraits traits = AccessibilityTraits::none;
-  std::vector<std::shared_ptr<const AccessibilityCustomAction>> customActions;
+  std::vector<std::shared_ptr<const AccessibilityCustomAction>> customActions{};
 };
 
 }  // namespace velmora

@@ -57,7 +57,7 @@ void View::removeFromSuperview() {
   if (const auto self = detach()) self->didMoveToSuperview();
 }
 
-// Takes the view out of its superview and answers it, so that it lives on; none if no view holds it.
+// Takes the view out of its superview and returns it, so that it lives on; none if no view holds it.
 std::shared_ptr<View> View::detach() {
   if (_superview == nullptr) return nullptr;
   for (View* above = _superview; above != nullptr; above = above->_superview) above->dropConstraintsOn(*this);
@@ -132,13 +132,13 @@ void View::drawContent(Canvas& canvas) {
   canvas.restore();
 }
 
-View* View::hitTest(Point point) {
+std::shared_ptr<View> View::hitTest(Point point) {
   const bool isSeen = alpha() >= kLeastTouchableAlpha && transform().inverted();
   if (!_isUserInteractionEnabled || !isSeen || !bounds().contains(point)) return nullptr;
   for (auto subview = _subviews.rbegin(); subview != _subviews.rend(); ++subview) {
-    if (View* hit = (*subview)->hitTest((*subview)->convertFromSuperview(point))) return hit;
+    if (auto hit = (*subview)->hitTest((*subview)->convertFromSuperview(point))) return hit;
   }
-  return this;
+  return shared_from_this();
 }
 
 }  // namespace velmora

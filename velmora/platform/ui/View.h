@@ -14,10 +14,11 @@ class LayoutConstraint;
 
 /// A rectangle of the screen that draws itself, holds further views and is touched.
 ///
-/// A host makes a topmost view, sets its frame, draws it with `render` whenever `needsDisplay` answers true,
+/// A host makes a topmost view, sets its frame, draws it with `render` whenever `needsDisplay` returns true,
 /// finds the view under a finger with `hitTest` and hands that view the touches. Views are held by
-/// std::shared_ptr: a view by the one it lies in, constraints and the way up are weak. For the main thread
-/// only.
+/// std::shared_ptr: a view by the one it lies in; constraints and `superview` hold nothing. A view of the
+/// library that tells others something lives until its own call returns, even if they let go of it. For the
+/// main thread only.
 class View : public std::enable_shared_from_this<View> {
  public:
   /// Of an intrinsic size: the content has no width or height of its own.
@@ -103,8 +104,9 @@ class View : public std::enable_shared_from_this<View> {
   void setIsUserInteractionEnabled(bool enabled) { _isUserInteractionEnabled = enabled; }
 
   /// The topmost view that takes touches at the point, given in this view's own coordinates; none outside the
-  /// bounds. An invisible view takes none.
-  View* hitTest(Point point);
+  /// bounds. An invisible view takes none. Between two touches a host holds it weakly, since it may be taken
+  /// out meanwhile.
+  std::shared_ptr<View> hitTest(Point point);
 
   /// The same place in the view's own coordinates.
   Point convertFromSuperview(Point point) const { return _layer.convertFromSuperlayer(point); }
