@@ -1,6 +1,6 @@
 #pragma once
 
-#include <array>
+#include <memory>
 #include <optional>
 #include <span>
 #include <vector>
@@ -63,6 +63,10 @@ class Paths {
 
   Instant from() const;  ///< the first instant of the interval
   Instant to() const;    ///< the last one
+
+ private:
+  struct Segments;
+  std::shared_ptr<const Segments> _segments;
 };
 
 /// Greenwich mean sidereal time in radians, [0, 2π), by the Earth's rotation of the instant (IAU 2006).
