@@ -1,0 +1,83 @@
+#include <velmora/almanac/EclipseDiscs.h>
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+namespace [[gnu::visibility("hidden")]] velmora {
+namespace almanac {
+namespace {
+
+// The radii of the "Five Millennium Canon of Solar Eclipses" (Espenak and Meeus), kilometres.
+constexpr double earthRadius = 6378.137;  // of the equator
+constexpr double sunRadius = 695989;      // 959.63″ at an astronomical unit
+// 1738.1 with the mountains of the limb, 1736.6 by its valleys, through which the last of the Sun shines.
+constexpr double moonRadius = 0.272508 * earthRadius;
+constexpr double moonRadiusInside = 0.272281 * earthRadius;
+constexpr double danjonEnlargement = 1.01;
+
+/// The area that two circles share.
+double sharedArea(double a, double b, double separation) {
+  const auto segment = [&](double radius, double other) {
+    const double toChord = (separation * separation + radius * radius - other * other) / (2 * separation);
+    const double half = std::acos(std::clamp(toChord / radius, -1.0, 1.0));
+    return radius * radius * (half - std::sin(half) * std::cos(half));
+  };
+  return segment(a, b) + segment(b, a);
+}
+
+}  // namespace
+
+Separation::Separation(const Motion& a, const Motion& b) {
+  const Motion chord = direction(a) - direction(b);
+  angle = 2 * std::asin(length(chord.at) / 2);
+  product = dot(chord.at, chord.rate);
+  squaredSpeed = dot(chord.rate, chord.rate);
+}
+
+bool SolarDiscs::isCentral() const { return separation.angle < std::abs(inner); }
+
+double SolarDiscs::coveredDiameter() const { return (outer - separation.angle) / (outer + inner); }
+
+double SolarDiscs::magnitude() const {
+  return isCentral() ? (outer - inner) / (outer + inner) : coveredDiameter();
+}
+
+double SolarDiscs::obscuration() const {
+  if (!isEclipse()) return 0;
+  if (isTotal()) return 1;
+  // The radii with which the two contacts fit together: at either the covered part has no jump.
+  const double sun = (outer + inner) / 2, moon = (outer - inner) / 2;
+  const double covered =
+      isCentral() ? moon * moon : sharedArea(sun, moon, separation.angle) / std::numbers::pi;
+  return std::min(covered / (sun * sun), 1.0);
+}
+
+SolarDiscs solarDiscs(const Motion& toSun, const Motion& toMoon) {
+  const double sunDistance = length(toSun.at), moonDistance = length(toMoon.at);
+  const double sun = std::asin(sunRadius / sunDistance);
+  return {Separation(toMoon, toSun), sun + std::asin(moonRadius / moonDistance),
+          sun - std::asin(moonRadiusInside / moonDistance)};
+}
+
+EclipseKind EarthShadow::kind() const {
+  if (separation.angle < umbra - moon) return EclipseKind::total;
+  return separation.angle < umbra + moon ? EclipseKind::partial : EclipseKind::penumbral;
+}
+
+double EarthShadow::magnitude(EclipseKind kind) const {
+  const double shadow = kind == EclipseKind::penumbral ? penumbra : umbra;
+  return (shadow + moon - separation.angle) / (2 * moon);
+}
+
+EarthShadow earthShadow(const Motion& sun, const Motion& moon) {
+  const double sunDistance = length(sun.at), moonDistance = length(moon.at);
+  const double shadow =
+      danjonEnlargement * std::asin(earthRadius / moonDistance) + std::asin(earthRadius / sunDistance);
+  const double sunSemidiameter = std::asin(sunRadius / sunDistance);
+  return {Separation(moon, Motion{} - sun), shadow - sunSemidiameter, shadow + sunSemidiameter,
+          std::asin(moonRadius / moonDistance)};
+}
+
+}  // namespace almanac
+}  // namespace velmora
