@@ -10,7 +10,7 @@ namespace almanac {
 
 /// The Sun and the Moon as seen from the centre of the Earth in the hours around an eclipse: vectors of the
 /// true equator and equinox, kilometres, as polynomials of the seconds after a middle. Cubics through four
-/// places from 3⅓ hours before to 3⅓ hours after it miss the Moon by less than 0.003″ between them.
+/// places from 3⅓ hours before to 3⅓ hours after it miss the Moon by less than 0.004″ between them.
 class EclipseSky {
  public:
   /// None where the hours are not covered.
