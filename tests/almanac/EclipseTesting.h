@@ -11,7 +11,10 @@
 #include <velmora/almanac/Eclipses.h>
 #include <velmora/ephemeris/Ephemeris.h>
 
-namespace velmora::almanac::testing {
+namespace velmora::testing {
+
+using almanac::Body, almanac::ContactName, almanac::Eclipse, almanac::EclipseKind, almanac::EclipseMoment,
+    almanac::LocalEclipse, almanac::Place;
 
 inline Instant utc(int year, unsigned month, unsigned day, int hour = 0, int minute = 0, double second = 0) {
   const std::chrono::sys_days date = std::chrono::year(year) / month / day;
@@ -32,7 +35,7 @@ inline EclipseKind kindOf(const std::string& name) {
 
 /// The eclipse of the body on that day of UTC.
 inline Eclipse eclipseOn(int year, unsigned month, unsigned day, Body body) {
-  for (const Eclipse& eclipse : eclipses(utc(year, month, day), utc(year, month, day + 1))) {
+  for (const Eclipse& eclipse : almanac::eclipses(utc(year, month, day), utc(year, month, day + 1))) {
     if (eclipse.body == body) return eclipse;
   }
   ADD_FAILURE() << "no eclipse on " << year << '-' << month << '-' << day;
@@ -48,8 +51,8 @@ inline LocalEclipse localEclipse(const Eclipse& eclipse, const Place& place) {
 /// The moment of the contact; its instant is 1970 where there is none.
 inline EclipseMoment momentOf(const LocalEclipse& local, ContactName name) {
   const auto found = std::find_if(local.contacts.begin(), local.contacts.end(),
-                                  [&](const Contact& contact) { return contact.name == name; });
+                                  [&](const almanac::Contact& contact) { return contact.name == name; });
   return found == local.contacts.end() ? EclipseMoment{} : found->moment;
 }
 
-}  // namespace velmora::almanac::testing
+}  // namespace velmora::testing
