@@ -1,6 +1,6 @@
 #include <app/place/Place.h>
 
-#include <app/place/CityTable.h>
+#include <app/place/Cities.h>
 #include <app/text/Errors.h>
 
 namespace velmora::app {
@@ -12,14 +12,7 @@ struct Spot {
   TimeZone zone;
 };
 
-const City& cityNamed(const std::string& spelling) {
-  const CityTable& table = CityTable::system();
-  if (const City* city = table.find(spelling)) return *city;
-  throw BadInput("city " + quote(spelling) + " is not in the zone table; nearest: " +
-                 table.nearestCities(spelling) + "; any other place: lat and lon");
-}
-
-TimeZone zoneNamed(const std::string& identifier) {
+TimeZone zoneOf(const std::string& identifier) {
   const auto zone = TimeZone::named(identifier);
   if (!zone) throw Failure("time zone " + quote(identifier) + " is missing in the system's zone database");
   return *zone;
@@ -30,11 +23,11 @@ Spot spotOf(const PlaceChoice& choice) {
     return {*choice.latitude, *choice.longitude, std::nullopt, TimeZone::defaultZone()};
   }
   if (choice.city) {
-    const City& city = cityNamed(*choice.city);
-    return {city.latitude, city.longitude, city.name, zoneNamed(city.zone)};
+    const City city = cityNamed(*choice.city);
+    return {city.latitude, city.longitude, city.name, zoneOf(city.zone)};
   }
   const GeoLocationData& home = *GeoLocationData::DefaultLocation();
-  return {home.latitude, home.longitude, home.name, zoneNamed(home.timezoneId.value_or("GMT"))};
+  return {home.latitude, home.longitude, home.name, zoneOf(home.timezoneId.value_or("GMT"))};
 }
 
 void checkTogether(const PlaceChoice& choice) {

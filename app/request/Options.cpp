@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include <app/place/CityTable.h>
+#include <app/place/Cities.h>
 #include <app/request/DrawingOptions.h>
 #include <app/text/Utf8.h>
 #include <app/text/ValueTexts.h>
@@ -60,12 +60,6 @@ Instant instant(const std::string& text) {
   const CivilDate day(std::chrono::floor<std::chrono::days>(*instant));
   if (day.year() < firstYear || day.year() > lastYear) throw BadInput("is out of range");
   return *instant;
-}
-
-TimeZone zone(const std::string& text) {
-  auto zone = TimeZone::named(text);
-  if (!zone) throw BadInput("is not a time zone (nearest: " + CityTable::system().nearestZones(text) + ")");
-  return *zone;
 }
 
 Locale locale(const std::string& text) {
@@ -131,14 +125,14 @@ std::vector<Option> makeOptions() {
   using S = const std::string;
   constexpr bool onlyOnCommandLine = true;
   return {
-      {"city", "NAME", "a city of the system's time zone table, spelled freely", "",
+      {"city", "NAME", "a city, spelled freely; if ambiguous: Portland, Maine", "",
        Text([](R& r, S& v) { r.place.city = v; })},
       {"lat", "DEGREES", "latitude, north positive", "-90 to 90 degrees",
        Number([](R& r, double v) { r.place.latitude = within(v, 90); })},
       {"lon", "DEGREES", "longitude, east positive", "-180 to 180 degrees",
        Number([](R& r, double v) { r.place.longitude = within(v, 180); })},
       {"tz", "ZONE", "time zone of the place", "an identifier such as Europe/Helsinki, UTC or GMT+05:30",
-       Text([](R& r, S& v) { r.place.zone = zone(v); })},
+       Text([](R& r, S& v) { r.place.zone = zoneNamed(v); })},
       {"gmt-offset", "SECONDS", "fixed offset from GMT in place of a time zone",
        "whole seconds from -64800 to 64800 (18 hours), east positive",
        Number([](R& r, double v) { r.place.gmtOffset = wholeNumber(within(v, farthestGmtOffset)); })},

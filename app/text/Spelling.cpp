@@ -1,24 +1,11 @@
 #include <app/text/Spelling.h>
 
 #include <algorithm>
-#include <numeric>
 #include <utility>
 
-namespace velmora::app {
+#include <velmora/cities/EditDistance.h>
 
-std::size_t editDistance(std::string_view a, std::string_view b) {
-  std::vector<std::size_t> row(b.size() + 1);
-  std::iota(row.begin(), row.end(), 0U);
-  for (std::size_t i = 0; i < a.size(); ++i) {
-    std::size_t diagonal = std::exchange(row[0], i + 1);
-    for (std::size_t j = 0; j < b.size(); ++j) {
-      const std::size_t replaced = diagonal + (a[i] == b[j] ? 0 : 1);
-      diagonal = row[j + 1];
-      row[j + 1] = std::min({replaced, diagonal + 1, row[j] + 1});
-    }
-  }
-  return row.back();
-}
+namespace velmora::app {
 
 std::string nearest(std::string_view text, const std::vector<std::string>& candidates) {
   constexpr std::size_t count = 3;

@@ -10,9 +10,6 @@ namespace velmora::app {
 /// else. "São Paulo", "sao-paulo" and "SAO_PAULO" are "saopaulo".
 std::string searchForm(std::string_view text);
 
-/// How many letters must be inserted, removed or replaced to turn one text into the other.
-std::size_t editDistance(std::string_view a, std::string_view b);
-
 /// The candidates whose spelling comes nearest, nearest first: at most three, none more than a letter worse
 /// than the first. "San Juan, San Luis".
 std::string nearest(std::string_view text, const std::vector<std::string>& candidates);

@@ -58,7 +58,7 @@ TEST_F(EclipseCommandTest, WithoutADateItIsTodaysAtThePlace) {
 
 TEST_F(EclipseCommandTest, ReadsAsASentence) {
   EXPECT_EQ(answer({"eclipse", "--city", "New York", "--date", "2025-03-14", "--24h"}),
-            "New York\n40.7142° N, 74.0064° W, America/New_York\nFriday 14 March 2025\n\n"
+            "New York City\n40.7143° N, 74.0060° W, America/New_York\nFriday 14 March 2025\n\n"
             "Total Lunar Eclipse\nGreatest at 2025-03-14 02:59\n");
   EXPECT_NE(answer({"eclipse", "--city", "New York", "--date", "2025-03-13"})
                 .find("No eclipse is visible from here on this day.\n"),

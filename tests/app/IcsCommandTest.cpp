@@ -40,7 +40,7 @@ TEST_F(IcsCommandTest, ARangeThatThePlaceSkippedIsEmpty) {
 TEST_F(IcsCommandTest, TextsAreInTheLanguageOfTheUser) {
   const std::string calendar = answer(
       {"ics", "--from", "2025-03-14", "--to", "2025-03-14", "--city", "New York", "--locale", "de_DE"});
-  EXPECT_NE(calendar.find("SUMMARY:Totale Mondfinsternis\r\nLOCATION:New York\r\n"), std::string::npos);
+  EXPECT_NE(calendar.find("SUMMARY:Totale Mondfinsternis\r\nLOCATION:New York City\r\n"), std::string::npos);
   EXPECT_NE(calendar.find("SUMMARY:Vollmond\r\n"), std::string::npos);
 }
 

@@ -34,7 +34,7 @@ TEST_F(PlaceTest, CoordinatesTakeTheProcessesZoneAndHaveNoName) {
 TEST_F(PlaceTest, ACityBringsItsCoordinatesAndItsZone) {
   const Json place = placeOfToday({"--city", "helsinki"});
   EXPECT_EQ(place["name"], "Helsinki");
-  EXPECT_DOUBLE_EQ(place["latitude"].get<double>(), 60 + 10 / 60.0);
+  EXPECT_DOUBLE_EQ(place["latitude"].get<double>(), 60.1695);
   EXPECT_EQ(place["timezone"], "Europe/Helsinki");
 }
 
@@ -76,7 +76,7 @@ TEST_F(PlaceTest, TheDefaultPlaceItselfIsNeverChanged) {
 TEST_F(PlaceTest, TheHeadingNamesPlaceCoordinatesAndZone) {
   PlaceChoice choice;
   choice.city = "helsinki";
-  EXPECT_EQ(placeOf(choice).heading(), "Helsinki\n60.1667° N, 24.9667° E, Europe/Helsinki\n");
+  EXPECT_EQ(placeOf(choice).heading(), "Helsinki\n60.1695° N, 24.9354° E, Europe/Helsinki\n");
   choice = PlaceChoice();
   choice.latitude = -33.9;
   choice.longitude = -70.5;

@@ -82,7 +82,7 @@ TEST_F(PositionCommandTest, AnAzimuthThatIsNoNumberIsNull) {
 TEST_F(PositionCommandTest, PeopleReadTimeElevationAndDirection) {
   EXPECT_EQ(answer({"position", "--city", "Helsinki", "--body", "sun", "--24h"}),
             "Helsinki\n"
-            "60.1667° N, 24.9667° E, Europe/Helsinki\n"
+            "60.1695° N, 24.9354° E, Europe/Helsinki\n"
             "Position of the Sun\n"
             "\n"
             "Time              Elevation  Azimuth  Direction\n"

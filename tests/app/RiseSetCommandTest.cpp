@@ -126,13 +126,13 @@ TEST_F(RiseSetCommandTest, AnEventOfTheNextDayAloneLeavesTheDayWithoutOne) {
 TEST_F(RiseSetCommandTest, HelsinkiAtMidsummer) {
   EXPECT_EQ(answer({"riseset", "--city", "Helsinki", "--from", "2024-06-20", "--to", "2024-06-22", "--24h"}),
             "Helsinki\n"
-            "60.1667° N, 24.9667° E, Europe/Helsinki\n"
+            "60.1695° N, 24.9354° E, Europe/Helsinki\n"
             "Dawn and dusk: civil twilight\n"
             "\n"
             "Date        Dawn   Sunrise  Sunset  Dusk            Day      Moonrise  Moonset\n"
             "2024-06-20  02:02  03:54    22:50   00:42 next day  18h 56m  22:25     01:53\n"
             "2024-06-21  02:02  03:54    22:50   00:42 next day  18h 56m  23:56     02:02\n"
-            "2024-06-22  02:02  03:54    22:50   00:42 next day  18h 56m  none      02:34\n");
+            "2024-06-22  02:02  03:55    22:50   00:42 next day  18h 55m  none      02:34\n");
 }
 
 TEST_F(RiseSetCommandTest, WordsGiveWayToAStarWhereThePageIsTooNarrow) {

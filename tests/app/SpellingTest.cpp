@@ -22,14 +22,6 @@ TEST(Spelling, BrokenUtf8HasTheLettersThatCanBeRead) {
   EXPECT_EQ(searchForm("he\xff\xfelsinki"), "helsinki");
 }
 
-TEST(Spelling, EditDistanceCountsLettersInsertedRemovedAndReplaced) {
-  EXPECT_EQ(editDistance("", ""), 0U);
-  EXPECT_EQ(editDistance("abc", ""), 3U);
-  EXPECT_EQ(editDistance("", "abc"), 3U);
-  EXPECT_EQ(editDistance("kitten", "sitting"), 3U);
-  EXPECT_EQ(editDistance("sitting", "kitten"), 3U);
-}
-
 TEST(Spelling, NearestNamesStandInOrderAndFarOnesAreLeftOut) {
   EXPECT_EQ(nearest("helsinky", {"Berlin", "Helsinki", "Dublin"}), "Helsinki");
   EXPECT_EQ(nearest("xin", {"xim", "xi", "bin", "tin", "Helsinki"}), "xim, xi, bin");

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <velmora/cities/EditDistance.h>
+
 #include "tests/cities/CityFileBytes.h"
 
 namespace velmora {
@@ -75,6 +77,14 @@ TEST(CityTable, NearestIsTheSpellingWithFewestChangedLetters) {
   EXPECT_EQ(names(table.nearest("osla", 3)), (Names{"A", "C"}));
   EXPECT_EQ(names(table.nearest("oslo", 3)), Names{"A"});
   EXPECT_EQ(names(table.nearest("osla", 1)), Names{"A"});
+}
+
+TEST(CityTable, EditDistanceCountsLettersInsertedRemovedAndReplaced) {
+  EXPECT_EQ(editDistance("", ""), 0U);
+  EXPECT_EQ(editDistance("abc", ""), 3U);
+  EXPECT_EQ(editDistance("", "abc"), 3U);
+  EXPECT_EQ(editDistance("kitten", "sitting"), 3U);
+  EXPECT_EQ(editDistance("sitting", "kitten"), 3U);
 }
 
 TEST(CityTable, ZonesOfOldStandForThoseOfToday) {

@@ -1,4 +1,4 @@
-// A table that is missing, cut or changed gives fewer or other cities, and nothing worse.
+// A table that is missing or cut gives no cities, a changed one fewer or other ones, and nothing worse.
 
 #include <gtest/gtest.h>
 
@@ -37,10 +37,13 @@ void ask(const CityTable& table) {
   table.city(table.size());
 }
 
-TEST(DamagedCityTable, CutAtAnyByteIsAsked) {
-  for (std::size_t size = 0; size <= whole.size(); ++size) ask(CityTable::fromBytes(whole.substr(0, size)));
+TEST(DamagedCityTable, CutAtAnyByteHasNoCities) {
+  for (std::size_t size = 0; size < whole.size(); ++size) {
+    const CityTable table = CityTable::fromBytes(whole.substr(0, size));
+    EXPECT_EQ(table.size(), 0U) << size;
+    ask(table);
+  }
   EXPECT_EQ(CityTable::fromBytes(whole).named("oslo").size(), 1U);
-  EXPECT_EQ(CityTable::fromBytes(whole.substr(0, 70)).size(), 0U);
 }
 
 TEST(DamagedCityTable, ChangedInAnyByteIsAsked) {

@@ -194,6 +194,18 @@ TEST_F(DamagedResources, ACatalogueCutAtAnyByteLosesNoEarlierEclipse) {
   for (const std::string& message : entries.messages()) EXPECT_EQ(message, "Invalid entry");
 }
 
+TEST_F(DamagedResources, ADamagedTableOfCitiesIsAFailureThatNamesItWhereACityIsAskedFor) {
+  const std::string whole = bytesOfFile(library("cities.table"));
+  for (const Damage& damage : testing::damagesOfAnyFile()) {
+    damage.apply(library("cities.table"));
+    expectFailure({"today", "--city", "Tokyo"}, "cities.table", damage.name);
+    EXPECT_EQ(runAsAnyUser({"today", "--lat", "1", "--lon", "2"}).status, 0) << damage.name;
+    restore(library("cities.table"));
+  }
+  overwrite(library("cities.table"), whole.substr(0, whole.size() - 1));
+  expectFailure({"today", "--city", "Tokyo"}, "cities.table", "cut by a byte");
+}
+
 TEST_F(DamagedResources, ADamagedStringTableLeavesEnglish) {
   const auto english = json({"today", "--locale", "en_US"});
   const std::vector<std::string> inGerman = {"today", "--locale", "de_DE", "--12h", "--json"};

@@ -43,17 +43,17 @@ std::optional<std::uint32_t> takeCharacter(std::string_view& text) {
 }  // namespace
 
 CityFile::CityFile(std::string_view bytes) : _bytes(bytes) {
+  constexpr std::array<std::size_t, sectionCount> recordSizes = {
+      foldSize, countrySize, regionSize, zoneSize, citySize, blockPlaceSize, 1, 1};
   if (!bytes.starts_with(signature)) return;
   for (std::size_t i = 0; i < sectionCount; ++i) {
     const std::size_t at = headerSize + i * extentSize;
-    _sections[i] = {unsignedAt(at, 4), unsignedAt(at + 4, 4)};
-  }
-  // No count is larger than the bytes that there are.
-  const std::array<std::size_t, sectionCount> recordSizes = {foldSize, countrySize,    regionSize, zoneSize,
-                                                             citySize, blockPlaceSize, 1,          1};
-  for (std::size_t i = 0; i < sectionCount; ++i) {
-    const std::size_t room = bytes.size() - std::min(bytes.size(), _sections[i].place);
-    _sections[i].count = std::min(_sections[i].count, room / recordSizes[i]);
+    const Extent extent = {unsignedAt(at, 4), unsignedAt(at + 4, 4)};
+    if (extent.place > bytes.size() || extent.count > (bytes.size() - extent.place) / recordSizes[i]) {
+      _sections = {};  // cut
+      return;
+    }
+    _sections[i] = extent;
   }
 }
 

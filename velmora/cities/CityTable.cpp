@@ -7,6 +7,7 @@
 #include <utility>
 
 #include <velmora/cities/CityFile.h>
+#include <velmora/cities/EditDistance.h>
 #include <velmora/platform/resources/Bundle.h>
 #include <velmora/platform/system/MappedFile.h>
 
@@ -20,6 +21,9 @@ constexpr std::int64_t clearlyLarger = 10;
 
 /// How many times the people of a city the most populous may have for it still to be a choice.
 constexpr std::int64_t outOfTheQuestion = 100;
+
+/// How many letters a city's other name counts as farther from a misspelt one than its own.
+constexpr std::size_t otherNameFarther = 2;
 
 /// What the people of a city with that name of its own count, against those of one with that other name.
 constexpr std::int64_t ownNameWeight = 100;
@@ -36,21 +40,6 @@ std::vector<std::string_view> parts(std::string_view text, char separator) {
     text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
   }
   return list;
-}
-
-/// How many bytes must be inserted, removed or replaced to turn one text into the other.
-std::size_t editDistance(std::string_view a, std::string_view b) {
-  std::vector<std::size_t> row(b.size() + 1);
-  std::iota(row.begin(), row.end(), 0U);
-  for (std::size_t i = 0; i < a.size(); ++i) {
-    std::size_t diagonal = std::exchange(row[0], i + 1);
-    for (std::size_t j = 0; j < b.size(); ++j) {
-      const std::size_t replaced = diagonal + (a[i] == b[j] ? 0 : 1);
-      diagonal = row[j + 1];
-      row[j + 1] = std::min({replaced, diagonal + 1, row[j] + 1});
-    }
-  }
-  return row.back();
 }
 
 std::size_t difference(std::size_t a, std::size_t b) { return a < b ? b - a : a - b; }
@@ -83,11 +72,14 @@ class [[gnu::visibility("hidden")]] CityTable::Contents {
 
  private:
   std::vector<Candidate> candidates(const std::string& key) const;
-  std::vector<std::size_t> cityOfZone(std::string_view spelling) const;
+  std::vector<std::size_t> cityOfZone(const std::string& key) const;
   bool isNamedByItsZone(std::size_t city, const std::string& key) const;
   std::int64_t weight(const Candidate& candidate) const;
   std::vector<std::size_t> meant(std::vector<Candidate> candidates, const std::string& key) const;
-  bool liesIn(std::size_t city, std::string_view area, bool isWhole) const;
+  std::vector<std::size_t> mostPopulous(std::size_t limit) const;
+  bool isCalled(std::string_view name, std::string_view spelling, bool isWhole) const;
+  bool isInCountry(const CityFile::Region& region, std::string_view spelling, bool isWhole) const;
+  bool liesIn(std::size_t city, const std::vector<std::string_view>& places, bool isWhole) const;
 };
 
 City CityTable::Contents::city(std::size_t number) const {
@@ -110,9 +102,8 @@ std::vector<CityTable::Contents::Candidate> CityTable::Contents::candidates(cons
   return found;
 }
 
-/// The city of the zone that is spelled so.
-std::vector<std::size_t> CityTable::Contents::cityOfZone(std::string_view spelling) const {
-  const std::string key = file.folded(spelling);
+/// The city of the zone with that key.
+std::vector<std::size_t> CityTable::Contents::cityOfZone(const std::string& key) const {
   for (std::size_t i = 0; i < file.zones(); ++i) {
     const CityFile::Zone zone = file.zone(i);
     if (zone.city < file.cities() && file.folded(zone.name) == key) return {zone.city};
@@ -147,49 +138,65 @@ std::vector<std::size_t> CityTable::Contents::meant(std::vector<Candidate> candi
   return cities;
 }
 
-/// Whether a city's region or country is called so, or, if not whole, begins so.
-bool CityTable::Contents::liesIn(std::size_t city, std::string_view area, bool isWhole) const {
-  const std::string wanted = file.folded(area);
-  const auto is = [&](std::string_view name) {
-    const std::string key = file.folded(name);
-    return !key.empty() && (isWhole ? key == wanted : key.starts_with(wanted));
-  };
-  const CityFile::Region region = file.region(file.city(city).region);
-  if (is(region.country) || is(region.code) || is(region.name)) return true;
+/// Whether a region or country of that name is meant, or, where the spelling is not whole, may be meant.
+bool CityTable::Contents::isCalled(std::string_view name, std::string_view spelling, bool isWhole) const {
+  const std::string key = file.folded(name), wanted = file.folded(spelling);
+  return !key.empty() && (isWhole ? key == wanted : key.starts_with(wanted));
+}
+
+bool CityTable::Contents::isInCountry(const CityFile::Region& region, std::string_view spelling,
+                                      bool isWhole) const {
+  if (isCalled(region.country, spelling, isWhole)) return true;
   for (std::size_t i = 0; i < file.countries(); ++i) {
     const CityFile::Country country = file.country(i);
-    if (country.code == region.country && is(country.name)) return true;
+    if (country.code == region.country && isCalled(country.name, spelling, isWhole)) return true;
   }
   return false;
+}
+
+/// Whether a city lies where the places after its name say: in regions, the last of them perhaps a country.
+/// Only the last may not be whole.
+bool CityTable::Contents::liesIn(std::size_t city, const std::vector<std::string_view>& places,
+                                 bool isWhole) const {
+  const CityFile::Region region = file.region(file.city(city).region);
+  for (std::size_t i = 1; i < places.size(); ++i) {
+    const bool isLast = i + 1 == places.size();
+    const bool isWholeHere = isWhole || !isLast;
+    if (isCalled(region.name, places[i], isWholeHere) || isCalled(region.code, places[i], isWholeHere))
+      continue;
+    if (!isLast || !isInCountry(region, places[i], isWhole)) return false;
+  }
+  return true;
 }
 
 std::vector<std::size_t> CityTable::Contents::named(std::string_view spelling) const {
   const std::string whole = file.folded(spelling);
   if (whole.empty()) return {};
   if (const auto found = candidates(whole); !found.empty()) return meant(found, whole);
-  if (const auto found = cityOfZone(spelling); !found.empty()) return found;
 
   const std::vector<std::string_view> places = parts(spelling, ',');
-  if (places.size() == 1) return {};
+  if (places.size() == 1) return cityOfZone(whole);
   auto found = candidates(file.folded(places[0]));
-  std::erase_if(found, [&](const Candidate& candidate) {
-    return !std::all_of(places.begin() + 1, places.end(),
-                        [&](auto area) { return liesIn(candidate.city, area, true); });
-  });
+  std::erase_if(found, [&](const Candidate& candidate) { return !liesIn(candidate.city, places, true); });
   const auto first = std::max_element(found.begin(), found.end(),
                                       [&](const auto& a, const auto& b) { return weight(a) < weight(b); });
   if (first == found.end()) return {};
   return {first->city};
 }
 
+std::vector<std::size_t> CityTable::Contents::mostPopulous(std::size_t limit) const {
+  std::vector<std::size_t> cities(std::min(limit, file.cities()));
+  std::iota(cities.begin(), cities.end(), std::size_t{0});
+  return cities;
+}
+
 std::vector<std::size_t> CityTable::Contents::matches(std::string_view prefix, std::size_t limit) const {
   const std::vector<std::string_view> places = parts(prefix, ',');
   const std::string key = file.folded(places[0]);
+  if (key.empty()) return mostPopulous(limit);
   const auto fits = [&](const CityKey& found) {
     if (found.city >= file.cities() || (places.size() > 1 && found.bytes != key)) return false;
-    for (std::size_t i = 1; i < places.size(); ++i)
-      if (!liesIn(found.city, places[i], i + 1 < places.size())) return false;
-    return true;
+    return liesIn(found.city, places, false);
   };
   std::set<std::size_t> cities;
   for (CityFile::Keys keys(file, key); !keys.atEnd() && keys->bytes.starts_with(key); keys.next()) {
@@ -207,7 +214,7 @@ std::vector<std::size_t> CityTable::Contents::nearest(std::string_view spelling,
   std::size_t best = std::string::npos - 1;
   for (CityFile::Keys keys(file, ""); !keys.atEnd(); keys.next()) {
     if (keys->city >= file.cities() || difference(keys->bytes.size(), wanted.size()) > best + 1) continue;
-    const std::size_t distance = editDistance(wanted, keys->bytes);
+    const std::size_t distance = editDistance(wanted, keys->bytes) + (keys->isOwnName ? 0 : otherNameFarther);
     if (distance > best + 1) continue;
     best = std::min(best, distance);
     ranked.emplace(distance, keys->city);

@@ -26,7 +26,8 @@ struct City {
 /// The world's cities of more than 15,000 people, its capitals and the principal cities of time zones, with
 /// their other names; from GeoNames (CC BY 4.0) and the time zone database. What is asked for is looked up in
 /// the file: nothing is read in advance. Case, blanks, accents and punctuation of a spelling are ignored. A
-/// file that is damaged gives fewer or wrong cities, never an error. A cheap value, usable from any thread.
+/// file that is cut or no table has no cities, a damaged one fewer or other ones. A cheap value, usable from
+/// any thread.
 class CityTable {
  public:
   /// The library's table, "cities.table"; without any city if it is missing.
@@ -54,7 +55,8 @@ class CityTable {
   std::vector<City> matches(std::string_view prefix, std::size_t limit) const;
 
   /// The cities with the names nearest to a misspelt one, nearest first, then most populous: at most that
-  /// many, none more than a letter worse than the first. Reads the whole table.
+  /// many, none more than a letter worse than the first; another name of a city counts as two letters worse
+  /// than its own. Reads the whole table.
   std::vector<City> nearest(std::string_view spelling, std::size_t limit) const;
 
   /// The identifiers of all time zones with a city, those of old among them, in alphabetical order.
