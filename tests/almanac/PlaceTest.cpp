@@ -16,12 +16,13 @@ TEST(AlmanacPlace, IsValidUpToThePolesAndTheDateLine) {
   EXPECT_TRUE(isValid({.latitude = -90, .longitude = -180, .height = 2835}));
 }
 
-TEST(AlmanacPlace, IsNotValidOutsideTheEarthOrBelowItsHorizon) {
+TEST(AlmanacPlace, IsNotValidOffTheEarthOrBelowItsHorizon) {
   EXPECT_FALSE(isValid({.latitude = 90.001}));
   EXPECT_FALSE(isValid({.latitude = -90.001}));
   EXPECT_FALSE(isValid({.longitude = 180.001}));
   EXPECT_FALSE(isValid({.longitude = -180.001}));
   EXPECT_FALSE(isValid({.height = -0.001}));
+  EXPECT_FALSE(isValid({.height = 100'001}));
 }
 
 TEST(AlmanacPlace, IsNotValidWithoutFiniteNumbers) {

@@ -5,10 +5,12 @@ Swiss Ephemeris up to the last leap second of 2017, UT1 = UTC after it.
 """
 import ctypes
 import ctypes.util
-from math import floor
+from math import cos, floor, radians
 
-SUN, MOON = 0, 1
-EQUATORIAL, XYZ = 2048, 4096
+SUN, MOON, NUTATION = 0, 1, -1
+EQUATORIAL, XYZ, TOPOCENTRIC = 2048, 4096, 32768
+RISE, SET, CENTRE, NO_REFRACTION, SLOW_METHOD = 1, 2, 256, 512, 32768
+CIRCUMPOLAR = -2
 FILES = 2
 LEAP_SECONDS = [(2451179.5, 32), (2453736.5, 33), (2454832.5, 34), (2456109.5, 35), (2457204.5, 36), (2457754.5, 37)]
 JD_OF_1970 = 2440587.5
@@ -51,6 +53,36 @@ def set_rotation(jd_utc):
 def sidereal_time(jd_ut1):
     """Apparent, at Greenwich, hours."""
     return _lib.swe_sidtime(_double(jd_ut1))
+
+
+def lead_of_sidereal_time(jd_ut1, jd_tt):
+    """Days by which it is ahead of that of IAU 2006: 0.2 ms at most before 2050; from then on, where it changes to
+    a formula for the distant future, -0.14 to -0.19 seconds."""
+    days, t = jd_ut1 - 2451545, (jd_tt - 2451545) / 36525
+    rotation = 360 * (days % 1 + 0.7790572732640 + 0.00273781191135448 * days)
+    precession = (0.014506 + (4612.156534 + (1.3915817 - (0.00000044 + 0.000029956 * t) * t) * t) * t) / 3600
+    obliquity, _, nutation = position(NUTATION, 0, jd_tt)[:3]
+    mean = sidereal_time(jd_ut1) * 15 - nutation * cos(radians(obliquity))
+    return ((mean - rotation - precession + 180) % 360 - 180) / 360
+
+
+def set_place(longitude, latitude):
+    """At sea level, for topocentric places from now on."""
+    _lib.swe_set_topo(_double(longitude), _double(latitude), _double(0))
+
+
+def passage(jd_ut1, body, kind, longitude, latitude, horizon):
+    """The next rise or set after the moment over a horizon of that true altitude, by the slow method of
+    swe_rise_trans_true_hor; none within some days."""
+    found, place = ctypes.c_double(), (ctypes.c_double * 3)(longitude, latitude, 0)
+    status = _lib.swe_rise_trans_true_hor(
+        _double(jd_ut1), body, None, FILES, kind | NO_REFRACTION | SLOW_METHOD, place, _double(0), _double(0),
+        _double(horizon), ctypes.byref(found), _message)
+    if status == CIRCUMPOLAR:
+        return None
+    if status < 0:
+        raise RuntimeError(_message.value.decode())
+    return found.value
 
 
 def eclipse_search(name, jd_ut):

@@ -5,8 +5,9 @@
 namespace velmora::almanac {
 
 bool isValid(const Place& place) {
+  constexpr double highest = 100'000;  // metres: a horizon nine degrees down
   return std::abs(place.latitude) <= 90 && std::abs(place.longitude) <= 180 && place.height >= 0 &&
-         std::isfinite(place.height);
+         place.height <= highest;
 }
 
 }  // namespace velmora::almanac

@@ -6,7 +6,7 @@ namespace velmora::almanac {
 struct Place {
   double latitude = 0.0;   ///< geodetic, degrees −90..90, north positive
   double longitude = 0.0;  ///< degrees −180..180, east positive
-  double height = 0.0;     ///< metres above the horizon around, 0 or more: lowers the horizon by the dip
+  double height = 0.0;  ///< metres above the horizon around, 0..100000: lowers it by the dip, 1.76′ √height
 
   friend bool operator==(const Place&, const Place&) = default;
 };
@@ -22,8 +22,8 @@ struct Convention {
   enum class Limb { upper, center, lower };
 
   Limb limb = Limb::upper;
-  double horizonRefraction = 34.0 / 60.0;  ///< degrees, at the horizon
-  double sunSemidiameter = 16.0 / 60.0;    ///< degrees, the Sun's at every distance; the Moon's is true
+  double horizonRefraction = 34.0 / 60.0;  ///< degrees, at the horizon; −2..2
+  double sunSemidiameter = 16.0 / 60.0;  ///< degrees, the Sun's at every distance, −2..2; the Moon's is true
 
   friend bool operator==(const Convention&, const Convention&) = default;
 };

@@ -94,9 +94,12 @@ std::optional<Paths> Paths::over(Instant from, Instant to) {
 
 Vector Paths::vector(Body body, Instant instant) const {
   const Segments::Track& track = body == Body::sun ? _segments->sun : _segments->moon;
-  const double place = (unixSeconds(instant) - track.first) / track.length;
-  const double index = std::clamp(std::floor(place), 0.0, static_cast<double>(track.polynomials.size()) - 1);
-  return value(track.polynomials[static_cast<std::size_t>(index)], 2 * (place - index) - 1);
+  const double elapsed = unixSeconds(instant) - track.first;
+  const double index =
+      std::clamp(std::floor(elapsed / track.length), 0.0, static_cast<double>(track.polynomials.size()) - 1);
+  // Exact, so that it does not depend on where the track begins.
+  const double inSegment = elapsed - index * track.length;
+  return value(track.polynomials[static_cast<std::size_t>(index)], 2 * inSegment / track.length - 1);
 }
 
 Instant Paths::from() const { return _segments->from; }
