@@ -31,14 +31,14 @@ class LayoutConstraintAdditionsTest : public ::testing::Test {
     const bool isRootFirst = constraint.firstItem() == root && constraint.secondItem().get() == &view;
     return (isViewFirst || isRootFirst) && constraint.firstAttribute() == edge &&
            constraint.secondAttribute() == edge && constraint.relation() == LayoutRelation::equal &&
-           constraint.multiplier() == 1 && constraint.constant() == 0;
+           constraint.constant() == 0;
   }
 
   std::shared_ptr<LayoutConstraint> activated(View& first, LayoutAttribute firstAttribute, View* second,
                                               LayoutAttribute secondAttribute,
                                               LayoutRelation relation = LayoutRelation::equal) {
     auto constraint =
-        std::make_shared<LayoutConstraint>(first, firstAttribute, relation, second, secondAttribute, 1, 0);
+        std::make_shared<LayoutConstraint>(first, firstAttribute, relation, second, secondAttribute, 0);
     LayoutConstraint::activate({constraint});
     return constraint;
   }
@@ -103,6 +103,11 @@ TEST_F(LayoutConstraintAdditionsTest, FillsTheSuperviewAcrossThenDown) {
   EXPECT_EQ(view->frame(), (Rect{0, 0, 320, 480}));
 }
 
+TEST_F(LayoutConstraintAdditionsTest, WithoutASuperviewThereIsNothingToPinTo) {
+  const auto alone = std::make_shared<View>();
+  EXPECT_TRUE(Additions::constraintsToFillSuperViewOfView(*alone).empty());
+}
+
 TEST_F(LayoutConstraintAdditionsTest, WhatIsReturnedIsInactive) {
   const auto above = addedView(), view = addedView();
   for (const auto& list : {Additions::constraintsToFillSubviewHorizontally(*view),
@@ -124,7 +129,6 @@ TEST_F(LayoutConstraintAdditionsTest, StacksAViewBelowAnother) {
   EXPECT_EQ(constraint->relation(), LayoutRelation::equal);
   EXPECT_EQ(constraint->secondItem(), above);
   EXPECT_EQ(constraint->secondAttribute(), bottom);
-  EXPECT_EQ(constraint->multiplier(), 1);
   EXPECT_EQ(constraint->constant(), 12);
 }
 
@@ -156,7 +160,6 @@ TEST_F(LayoutConstraintAdditionsTest, HeightAndWidthAreAddedToTheViewItself) {
     EXPECT_EQ(constraint->relation(), LayoutRelation::equal);
     EXPECT_EQ(constraint->secondItem(), nullptr);
     EXPECT_EQ(constraint->secondAttribute(), none);
-    EXPECT_EQ(constraint->multiplier(), 1);
   }
   root->layoutSubviews();
   EXPECT_EQ(view->frame(), (Rect{5, 30, 120, 44}));
@@ -222,8 +225,10 @@ TEST_F(LayoutConstraintAdditionsTest, OtherEdgesAndOtherViewsAreIgnored) {
   for (const EdgeSearch& row : edgeSearches) {
     SCOPED_TRACE(row.name);
     const auto view = addedView(), neighbour = addedView();
-    activated(*view, centerX, root.get(), row.edge);
-    activated(*neighbour, row.edge, view.get(), centerY);
+    const bool isAcross = row.edge == leading || row.edge == trailing;
+    const LayoutAttribute otherAxis = isAcross ? top : leading;
+    activated(*view, otherAxis, root.get(), otherAxis);
+    activated(*neighbour, otherAxis, view.get(), otherAxis);
     activated(*neighbour, row.edge, root.get(), row.edge);
     EXPECT_EQ(row.search(*view), nullptr);
   }

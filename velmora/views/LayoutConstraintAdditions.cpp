@@ -1,7 +1,6 @@
 #include <velmora/views/LayoutConstraintAdditions.h>
 
 #include <algorithm>
-#include <string_view>
 
 #include <velmora/platform/ui/View.h>
 
@@ -10,14 +9,31 @@ namespace {
 
 using List = LayoutConstraint::List;
 
-List constraintsWithFormat(std::string_view format, const char* name, View& view) {
-  return LayoutConstraint::constraintsWithVisualFormat(format, LayoutFormatOptions::alignAllTop,
-                                                       {{name, &view}});
+std::shared_ptr<LayoutConstraint> equality(View& view, LayoutAttribute edge, View& other,
+                                           LayoutAttribute otherEdge, double distance) {
+  return std::make_shared<LayoutConstraint>(view, edge, LayoutRelation::equal, &other, otherEdge, distance);
+}
+
+/// The view begins where its superview does; none without one.
+List pinnedAtStart(View& view, LayoutAttribute start) {
+  if (view.superview() == nullptr) return {};
+  return {equality(view, start, *view.superview(), start, 0)};
+}
+
+/// The view ends where its superview does; none without one.
+List pinnedAtEnd(View& view, LayoutAttribute end) {
+  if (view.superview() == nullptr) return {};
+  return {equality(*view.superview(), end, view, end, 0)};
+}
+
+List joined(List first, const List& second) {
+  first.insert(first.end(), second.begin(), second.end());
+  return first;
 }
 
 void addSizeConstraint(View& view, LayoutAttribute side, double points) {
   LayoutConstraint::activate({std::make_shared<LayoutConstraint>(view, side, LayoutRelation::equal, nullptr,
-                                                                 LayoutAttribute::none, 1, points)});
+                                                                 LayoutAttribute::none, points)});
 }
 
 bool isEqualityOf(const LayoutConstraint& constraint, LayoutAttribute edge, const View& view) {
@@ -38,33 +54,30 @@ std::shared_ptr<LayoutConstraint> constraintForEdge(LayoutAttribute edge, const 
 }  // namespace
 
 List LayoutConstraintAdditions::constraintsToFillSubviewHorizontally(View& subView) {
-  return constraintsWithFormat("|-0-[subView]-0-|", "subView", subView);
+  return joined(pinnedAtStart(subView, LayoutAttribute::leading),
+                pinnedAtEnd(subView, LayoutAttribute::trailing));
 }
 
 List LayoutConstraintAdditions::constraintsToFillSubviewVertically(View& subView) {
-  return constraintsWithFormat("V:|-0-[subView]-0-|", "subView", subView);
+  return joined(constraintsToPinSubviewAtTop(subView), constraintsToPinSubviewAtBottom(subView));
 }
 
 List LayoutConstraintAdditions::constraintsToPinSubviewAtTop(View& subView) {
-  return constraintsWithFormat("V:|-0-[subView]", "subView", subView);
+  return pinnedAtStart(subView, LayoutAttribute::top);
 }
 
 List LayoutConstraintAdditions::constraintsToPinSubviewAtBottom(View& subView) {
-  return constraintsWithFormat("V:[subView]-0-|", "subView", subView);
+  return pinnedAtEnd(subView, LayoutAttribute::bottom);
 }
 
 List LayoutConstraintAdditions::constraintsToFillSuperViewOfView(View& view) {
-  List constraints = constraintsWithFormat("|-0-[view]-0-|", "view", view);
-  const List down = constraintsWithFormat("V:|-0-[view]-0-|", "view", view);
-  constraints.insert(constraints.end(), down.begin(), down.end());
-  return constraints;
+  return joined(constraintsToFillSubviewHorizontally(view), constraintsToFillSubviewVertically(view));
 }
 
 std::shared_ptr<LayoutConstraint> LayoutConstraintAdditions::constraintToStackView(View& view,
                                                                                    View& belowView,
                                                                                    double withOffset) {
-  return std::make_shared<LayoutConstraint>(view, LayoutAttribute::top, LayoutRelation::equal, &belowView,
-                                            LayoutAttribute::bottom, 1, withOffset);
+  return equality(view, LayoutAttribute::top, belowView, LayoutAttribute::bottom, withOffset);
 }
 
 void LayoutConstraintAdditions::addHeightConstraintToView(View& view, double withHeight) {

@@ -9,8 +9,8 @@ namespace velmora {
 class View;
 
 /// The constraints that stack rows in a list and fill a view with another, and how to find them again. What
-/// the operations answer is inactive until the caller activates it; a view that is to be pinned or filled
-/// must already lie in its superview.
+/// the operations return is inactive until the caller activates it; a view that is to be pinned or filled
+/// must already lie in its superview: without one there are no constraints.
 class LayoutConstraintAdditions {
  public:
   /// Join the named edges of the subview with those of its superview.

@@ -19,12 +19,12 @@ std::shared_ptr<View> viewIn(View& superview) {
 
 std::shared_ptr<LayoutConstraint> heightOf(View& view, double height) {
   return std::make_shared<LayoutConstraint>(view, LayoutAttribute::height, LayoutRelation::equal, nullptr,
-                                            LayoutAttribute::none, 1, height);
+                                            LayoutAttribute::none, height);
 }
 
 std::shared_ptr<LayoutConstraint> below(View& view, View& other, double offset = 0) {
   return std::make_shared<LayoutConstraint>(view, LayoutAttribute::top, LayoutRelation::equal, &other,
-                                            LayoutAttribute::bottom, 1, offset);
+                                            LayoutAttribute::bottom, offset);
 }
 
 class LayoutConstraintTest : public ::testing::Test {
@@ -35,14 +35,13 @@ class LayoutConstraintTest : public ::testing::Test {
 };
 
 TEST_F(LayoutConstraintTest, KeepsWhatItWasMadeOf) {
-  const LayoutConstraint constraint(*a, LayoutAttribute::width, LayoutRelation::lessThanOrEqual, b.get(),
-                                    LayoutAttribute::height, 0.5, 12);
+  const LayoutConstraint constraint(*a, LayoutAttribute::leading, LayoutRelation::lessThanOrEqual, b.get(),
+                                    LayoutAttribute::trailing, 12);
   EXPECT_EQ(constraint.firstItem(), a);
-  EXPECT_EQ(constraint.firstAttribute(), LayoutAttribute::width);
+  EXPECT_EQ(constraint.firstAttribute(), LayoutAttribute::leading);
   EXPECT_EQ(constraint.relation(), LayoutRelation::lessThanOrEqual);
   EXPECT_EQ(constraint.secondItem(), b);
-  EXPECT_EQ(constraint.secondAttribute(), LayoutAttribute::height);
-  EXPECT_EQ(constraint.multiplier(), 0.5);
+  EXPECT_EQ(constraint.secondAttribute(), LayoutAttribute::trailing);
   EXPECT_EQ(constraint.constant(), 12);
 }
 
@@ -113,63 +112,28 @@ TEST_F(LayoutConstraintTest, ActivatingAndDeactivatingAskForDrawing) {
   EXPECT_TRUE(root->needsDisplay());
 }
 
-TEST_F(LayoutConstraintTest, AFillingFormatGivesALeadingAndATrailingEquality) {
-  const auto list = LayoutConstraint::constraintsWithVisualFormat(
-      "|-0-[subView]-3-|", LayoutFormatOptions::alignAllTop, {{"subView", a.get()}});
-  ASSERT_EQ(list.size(), 2U);
-  EXPECT_EQ(list[0]->firstItem(), a);
-  EXPECT_EQ(list[0]->firstAttribute(), LayoutAttribute::leading);
-  EXPECT_EQ(list[0]->relation(), LayoutRelation::equal);
-  EXPECT_EQ(list[0]->secondItem(), root);
-  EXPECT_EQ(list[0]->secondAttribute(), LayoutAttribute::leading);
-  EXPECT_EQ(list[0]->multiplier(), 1);
-  EXPECT_EQ(list[0]->constant(), 0);
-  EXPECT_EQ(list[1]->firstItem(), root);
-  EXPECT_EQ(list[1]->firstAttribute(), LayoutAttribute::trailing);
-  EXPECT_EQ(list[1]->secondItem(), a);
-  EXPECT_EQ(list[1]->secondAttribute(), LayoutAttribute::trailing);
-  EXPECT_EQ(list[1]->constant(), 3);
-  EXPECT_FALSE(list[0]->isActive());
+TEST_F(LayoutConstraintTest, AttributesThatDoNotGoTogetherStayInactive) {
+  using enum LayoutAttribute;
+  const auto activated = [&](LayoutAttribute first, LayoutAttribute second) {
+    const auto constraint =
+        std::make_shared<LayoutConstraint>(*a, first, LayoutRelation::equal, b.get(), second, 0);
+    LayoutConstraint::activate({constraint});
+    return constraint->isActive();
+  };
+  EXPECT_TRUE(activated(top, bottom));
+  EXPECT_TRUE(activated(trailing, leading));
+  EXPECT_FALSE(activated(top, leading)) << "of different axes";
+  EXPECT_FALSE(activated(width, width)) << "a size is compared with a constant alone";
+  EXPECT_FALSE(activated(leading, height));
+  EXPECT_FALSE(activated(none, none));
 }
 
-TEST_F(LayoutConstraintTest, AVerticalFormatSpeaksOfTopAndBottom) {
-  const auto list = LayoutConstraint::constraintsWithVisualFormat(
-      "V:|-1-[a]-2-[b]-3-|", LayoutFormatOptions::alignAllTop, {{"a", a.get()}, {"b", b.get()}});
-  ASSERT_EQ(list.size(), 3U) << "tops of views above each other are not aligned";
-  EXPECT_EQ(list[0]->firstAttribute(), LayoutAttribute::top);
-  EXPECT_EQ(list[0]->secondAttribute(), LayoutAttribute::top);
-  EXPECT_EQ(list[1]->firstItem(), b);
-  EXPECT_EQ(list[1]->firstAttribute(), LayoutAttribute::top);
-  EXPECT_EQ(list[1]->secondItem(), a);
-  EXPECT_EQ(list[1]->secondAttribute(), LayoutAttribute::bottom);
-  EXPECT_EQ(list[1]->constant(), 2);
-  EXPECT_EQ(list[2]->firstItem(), root);
-  EXPECT_EQ(list[2]->firstAttribute(), LayoutAttribute::bottom);
-}
-
-TEST_F(LayoutConstraintTest, ViewsBesideEachOtherShareTheirTopWhereTheOptionSaysSo) {
-  const std::map<std::string, View*, std::less<>> views{{"a", a.get()}, {"b", b.get()}};
-  const auto plain =
-      LayoutConstraint::constraintsWithVisualFormat("[a]-8-[b]", LayoutFormatOptions::none, views);
-  ASSERT_EQ(plain.size(), 1U);
-  const auto aligned =
-      LayoutConstraint::constraintsWithVisualFormat("[a]-8-[b]", LayoutFormatOptions::alignAllTop, views);
-  ASSERT_EQ(aligned.size(), 2U);
-  EXPECT_EQ(aligned[1]->firstAttribute(), LayoutAttribute::top);
-  EXPECT_EQ(aligned[1]->secondAttribute(), LayoutAttribute::top);
-  EXPECT_EQ(static_cast<unsigned>(LayoutFormatOptions::alignAllTop), 8U);
-}
-
-TEST_F(LayoutConstraintTest, AFormatThatCannotBeMetGivesNone) {
-  const auto none = LayoutFormatOptions::none;
-  const auto stranger = std::make_shared<View>();
-  const std::map<std::string, View*, std::less<>> views{
-      {"a", a.get()}, {"stranger", stranger.get()}, {"nothing", nullptr}};
-  EXPECT_TRUE(LayoutConstraint::constraintsWithVisualFormat("|-0-[a", none, views).empty());
-  EXPECT_TRUE(LayoutConstraint::constraintsWithVisualFormat("|-0-[unknown]", none, views).empty());
-  EXPECT_TRUE(LayoutConstraint::constraintsWithVisualFormat("|-0-[nothing]", none, views).empty());
-  EXPECT_TRUE(LayoutConstraint::constraintsWithVisualFormat("|-0-[a]-0-[unknown]", none, views).empty());
-  EXPECT_TRUE(LayoutConstraint::constraintsWithVisualFormat("|-0-[stranger]-0-|", none, views).empty());
+TEST_F(LayoutConstraintTest, EndsWithTheViewThatHoldsIt) {
+  const auto constraint = below(*a, *b);
+  LayoutConstraint::activate({constraint});
+  root.reset();
+  EXPECT_FALSE(constraint->isActive());
+  LayoutConstraint::deactivate({constraint});
 }
 
 }  // namespace

@@ -20,7 +20,13 @@ using enum LayoutAttribute;
 class SizedView : public View {
  public:
   explicit SizedView(Size size) : _size(size) {}
-  Size intrinsicContentSize() const override { return _size; }
+  Size intrinsicContentSize() const override {
+    ++timesAsked;
+    return _size;
+  }
+  void setSize(Size size) { _size = size; }
+
+  static inline int timesAsked = 0;
 
  private:
   Size _size;
@@ -42,17 +48,29 @@ class SubviewLayoutTest : public ::testing::Test {
     return view;
   }
 
-  void activate(const char* format, View& view) {
-    const auto list = LayoutConstraint::constraintsWithVisualFormat(format, LayoutFormatOptions::alignAllTop,
-                                                                    {{"view", &view}});
-    EXPECT_FALSE(list.empty());
-    LayoutConstraint::activate(list);
+  static void activate(View& first, LayoutAttribute firstAttribute, View* second,
+                       LayoutAttribute secondAttribute, double constant,
+                       LayoutRelation relation = LayoutRelation::equal) {
+    LayoutConstraint::activate({std::make_shared<LayoutConstraint>(first, firstAttribute, relation, second,
+                                                                   secondAttribute, constant)});
   }
 
-  void activate(View& first, LayoutAttribute firstAttribute, View* second, LayoutAttribute secondAttribute,
-                double constant, double multiplier = 1, LayoutRelation relation = LayoutRelation::equal) {
-    LayoutConstraint::activate({std::make_shared<LayoutConstraint>(first, firstAttribute, relation, second,
-                                                                   secondAttribute, multiplier, constant)});
+  /// The edge lies that many points inside the superview's.
+  static void pin(View& view, LayoutAttribute edge, double points = 0) {
+    const bool isStart = edge == leading || edge == top;
+    activate(view, edge, view.superview(), edge, isStart ? points : -points);
+  }
+
+  void stack(std::vector<std::shared_ptr<View>>& rows, Size size) {
+    const auto row = viewOf(size);
+    pin(*row, leading);
+    pin(*row, trailing);
+    if (rows.empty()) {
+      pin(*row, top);
+    } else {
+      activate(*row, top, rows.back().get(), bottom, 0);
+    }
+    rows.push_back(row);
   }
 
   void forceDirection(LayoutDirection direction) {
@@ -67,16 +85,17 @@ class SubviewLayoutTest : public ::testing::Test {
 
 TEST_F(SubviewLayoutTest, AFilledViewTakesItsSuperviewsBounds) {
   const auto view = viewAt({});
-  activate("|-0-[view]-0-|", *view);
-  activate("V:|-0-[view]-0-|", *view);
+  for (const LayoutAttribute edge : {leading, trailing, top, bottom}) pin(*view, edge);
   root->layoutSubviews();
   EXPECT_EQ(view->frame(), (Rect{0, 0, 320, 480}));
 }
 
 TEST_F(SubviewLayoutTest, FollowsItsSuperviewsSize) {
   const auto view = viewAt({});
-  activate("|-10-[view]-30-|", *view);
-  activate("V:|-20-[view]-40-|", *view);
+  pin(*view, leading, 10);
+  pin(*view, trailing, 30);
+  pin(*view, top, 20);
+  pin(*view, bottom, 40);
   root->layoutSubviews();
   EXPECT_EQ(view->frame(), (Rect{10, 20, 280, 420}));
   root->setFrame({0, 0, 100, 100});
@@ -87,16 +106,7 @@ TEST_F(SubviewLayoutTest, FollowsItsSuperviewsSize) {
 TEST_F(SubviewLayoutTest, RowsOfAMonthAreStackedByTheirIntrinsicHeights) {
   constexpr int kDays = 31;
   std::vector<std::shared_ptr<View>> rows;
-  for (int day = 0; day < kDays; ++day) {
-    const auto row = viewOf({View::noIntrinsicMetric, 80.0 + day});
-    activate("|-0-[view]-0-|", *row);
-    if (day == 0) {
-      activate("V:|-0-[view]", *row);
-    } else {
-      activate(*row, top, rows.back().get(), bottom, 0);
-    }
-    rows.push_back(row);
-  }
+  for (int day = 0; day < kDays; ++day) stack(rows, {View::noIntrinsicMetric, 80.0 + day});
   root->layoutSubviews();
   double y = 0;
   for (int day = 0; day < kDays; ++day) {
@@ -107,7 +117,8 @@ TEST_F(SubviewLayoutTest, RowsOfAMonthAreStackedByTheirIntrinsicHeights) {
 
 TEST_F(SubviewLayoutTest, AnIntrinsicHeightGivesWayToAConstraint) {
   const auto filled = viewOf({View::noIntrinsicMetric, 80});
-  activate("V:|-0-[view]-0-|", *filled);
+  pin(*filled, top);
+  pin(*filled, bottom);
   const auto sized = viewOf({View::noIntrinsicMetric, 80});
   activate(*sized, height, nullptr, none, 33);
   root->layoutSubviews();
@@ -117,15 +128,15 @@ TEST_F(SubviewLayoutTest, AnIntrinsicHeightGivesWayToAConstraint) {
 
 TEST_F(SubviewLayoutTest, AnIntrinsicWidthHoldsWhereNothingFixesTheWidth) {
   const auto view = viewOf({120, 40});
-  activate("[view]-0-|", *view);
-  activate("V:[view]-0-|", *view);
+  pin(*view, trailing);
+  pin(*view, bottom);
   root->layoutSubviews();
   EXPECT_EQ(view->frame(), (Rect{200, 440, 120, 40}));
 }
 
 TEST_F(SubviewLayoutTest, AViewPinnedOnOneSideKeepsItsSize) {
   const auto view = viewAt({1, 2, 30, 40});
-  activate("[view]-0-|", *view);
+  pin(*view, trailing);
   root->layoutSubviews();
   EXPECT_EQ(view->frame(), (Rect{290, 2, 30, 40}));
 }
@@ -139,15 +150,15 @@ TEST_F(SubviewLayoutTest, AViewThatNoConstraintMentionsKeepsItsFrame) {
 
 TEST_F(SubviewLayoutTest, AnInequalityPlacesNothing) {
   const auto view = viewAt({1, 2, 3, 4});
-  activate(*view, height, nullptr, none, 100, 1, LayoutRelation::greaterThanOrEqual);
+  activate(*view, height, nullptr, none, 100, LayoutRelation::greaterThanOrEqual);
   root->layoutSubviews();
   EXPECT_EQ(view->frame(), (Rect{1, 2, 3, 4}));
 }
 
 TEST_F(SubviewLayoutTest, LeadingAndTrailingChangeSidesFromRightToLeft) {
   const auto view = viewAt({0, 0, 50, 10});
-  activate("|-10-[view]", *view);
-  activate("V:|-7-[view]", *view);
+  pin(*view, leading, 10);
+  pin(*view, top, 7);
   forceDirection(LayoutDirection::leftToRight);
   EXPECT_EQ(view->frame(), (Rect{10, 7, 50, 10}));
   forceDirection(LayoutDirection::rightToLeft);
@@ -158,20 +169,27 @@ TEST_F(SubviewLayoutTest, AChainRunsFromTheRightInArabic) {
   const ScopedLocale arabic("ar_EG");
   const auto first = viewOf({50, 10});
   const auto second = viewOf({60, 10});
-  LayoutConstraint::activate(LayoutConstraint::constraintsWithVisualFormat(
-      "|-10-[first]-5-[second]", LayoutFormatOptions::alignAllTop,
-      {{"first", first.get()}, {"second", second.get()}}));
+  pin(*first, leading, 10);
+  activate(*second, leading, first.get(), trailing, 5);
+  activate(*second, top, first.get(), top, 0);
   first->setFrame({0, 33, 50, 10});
   root->layoutSubviews();
   EXPECT_EQ(first->frame(), (Rect{260, 33, 50, 10}));
   EXPECT_EQ(second->frame(), (Rect{195, 33, 60, 10})) << "tops are aligned, the first view stays";
 }
 
-TEST_F(SubviewLayoutTest, LeftAndRightStayWhereTheyAreFromRightToLeft) {
+TEST_F(SubviewLayoutTest, FromRightToLeftAPlaceAcrossCountsFromTheRight) {
   const auto view = viewAt({0, 0, 50, 10});
-  activate(*view, left, root.get(), left, 10);
+  activate(*view, leading, nullptr, none, 70);
   forceDirection(LayoutDirection::rightToLeft);
-  EXPECT_EQ(view->frame().x, 10);
+  EXPECT_EQ(view->frame(), (Rect{200, 0, 50, 10}));
+}
+
+TEST_F(SubviewLayoutTest, AViewThatIsNotPinnedAcrossKeepsItsPlaceFromRightToLeft) {
+  const auto view = viewAt({30, 0, 50, 10});
+  pin(*view, top, 5);
+  forceDirection(LayoutDirection::rightToLeft);
+  EXPECT_EQ(view->frame(), (Rect{30, 5, 50, 10}));
 }
 
 TEST_F(SubviewLayoutTest, EveryAttributePlacesAView) {
@@ -179,10 +197,8 @@ TEST_F(SubviewLayoutTest, EveryAttributePlacesAView) {
     LayoutAttribute attribute;
     Rect expected;
   } cases[] = {
-      {left, {70, 20, 30, 40}},    {right, {40, 20, 30, 40}},   {top, {10, 70, 30, 40}},
-      {bottom, {10, 30, 30, 40}},  {leading, {70, 20, 30, 40}}, {trailing, {40, 20, 30, 40}},
-      {width, {10, 20, 70, 40}},   {height, {10, 20, 30, 70}},  {centerX, {55, 20, 30, 40}},
-      {centerY, {10, 50, 30, 40}},
+      {top, {10, 70, 30, 40}},      {bottom, {10, 30, 30, 40}}, {leading, {70, 20, 30, 40}},
+      {trailing, {40, 20, 30, 40}}, {width, {10, 20, 70, 40}},  {height, {10, 20, 30, 70}},
   };
   for (const auto& one : cases) {
     const auto view = viewAt({10, 20, 30, 40});
@@ -192,12 +208,25 @@ TEST_F(SubviewLayoutTest, EveryAttributePlacesAView) {
   }
 }
 
-TEST_F(SubviewLayoutTest, AMultiplierScalesTheOtherAttribute) {
-  const auto view = viewAt({0, 0, 10, 10});
-  activate(*view, width, root.get(), width, -20, 0.5);
-  activate(*view, height, view.get(), width, 0, 2);
+TEST_F(SubviewLayoutTest, TheContainersOwnSizePlacesNothing) {
+  const auto view = viewAt({1, 2, 3, 4});
+  pin(*view, top);
+  activate(*root, height, nullptr, none, 10);
   root->layoutSubviews();
-  EXPECT_EQ(view->bounds(), (Rect{0, 0, 140, 280}));
+  EXPECT_EQ(root->bounds().height, 480);
+  EXPECT_EQ(view->frame(), (Rect{1, 0, 3, 4}));
+}
+
+TEST_F(SubviewLayoutTest, ANegativeSizeCountsAsContradicted) {
+  const auto view = viewAt({0, 0, 7, 7});
+  pin(*view, leading, 200);
+  pin(*view, trailing, 200);
+  activate(*view, height, nullptr, none, -5);
+  root->layoutSubviews();
+  EXPECT_EQ(view->frame(), (Rect{200, 0, 7, 7})) << "the leading edge was demanded first";
+  root->setFrame({0, 0, 500, 480});
+  root->layoutSubviews();
+  EXPECT_EQ(view->frame(), (Rect{200, 0, 100, 7}));
 }
 
 TEST_F(SubviewLayoutTest, TheConstraintActivatedFirstHoldsAgainstAContradiction) {
@@ -220,17 +249,20 @@ TEST_F(SubviewLayoutTest, AConstraintWithAViewFurtherDownPlacesNothing) {
 
 TEST_F(SubviewLayoutTest, SubviewsOfSubviewsAreLaidOutInTheirPlacedSuperview) {
   const auto list = viewAt({});
-  activate("|-20-[view]-20-|", *list);
+  pin(*list, leading, 20);
+  pin(*list, trailing, 20);
   const auto row = std::make_shared<SizedView>(Size{View::noIntrinsicMetric, 44});
   list->addSubview(row);
-  activate("|-5-[view]-5-|", *row);
+  pin(*row, leading, 5);
+  pin(*row, trailing, 5);
   root->layoutSubviews();
   EXPECT_EQ(row->frame(), (Rect{5, 0, 270, 44}));
 }
 
 TEST_F(SubviewLayoutTest, ATurnedViewIsPlacedAsIfItWereNot) {
   const auto view = viewAt({0, 0, 10, 10});
-  activate("|-0-[view]-0-|", *view);
+  pin(*view, leading);
+  pin(*view, trailing);
   activate(*view, height, nullptr, none, 100);
   view->setTransform(AffineTransform::rotation(0.7));
   for (int i = 0; i < 3; ++i) root->layoutSubviews();
@@ -240,7 +272,7 @@ TEST_F(SubviewLayoutTest, ATurnedViewIsPlacedAsIfItWereNot) {
 
 TEST_F(SubviewLayoutTest, BoundsWithAnOriginOfTheirOwnShiftWhatIsPinnedToThem) {
   const auto view = viewAt({0, 0, 50, 10});
-  activate("|-10-[view]", *view);
+  pin(*view, leading, 10);
   root->layer().setBounds({100, 0, 320, 480});
   root->layoutSubviews();
   EXPECT_EQ(view->frame().x, 110);
@@ -251,17 +283,88 @@ TEST_F(SubviewLayoutTest, BoundsWithAnOriginOfTheirOwnShiftWhatIsPinnedToThem) {
 TEST_F(SubviewLayoutTest, NumbersThatAreNotFinitePlaceNothing) {
   const auto view = viewAt({1, 2, 3, 4});
   activate(*view, top, nullptr, none, std::numeric_limits<double>::quiet_NaN());
-  activate(*view, left, root.get(), right, 0, std::numeric_limits<double>::infinity());
+  activate(*view, leading, root.get(), trailing, std::numeric_limits<double>::infinity());
   root->layoutSubviews();
   EXPECT_EQ(view->frame(), (Rect{1, 2, 3, 4}));
 }
 
 TEST_F(SubviewLayoutTest, RenderingLaysOutFirst) {
   const auto view = viewAt({});
-  activate("|-0-[view]-0-|", *view);
+  pin(*view, leading);
+  pin(*view, trailing);
   testing::RecordingCanvas canvas;
   root->render(canvas);
   EXPECT_EQ(view->frame().width, 320);
+}
+
+/// Three rows, laid out.
+class LaidOutRowsTest : public SubviewLayoutTest {
+ protected:
+  LaidOutRowsTest() {
+    for (int i = 0; i < 3; ++i) stack(rows, {View::noIntrinsicMetric, 80});
+    root->layoutSubviews();
+  }
+
+  bool isLaidOutAgain() {
+    SizedView::timesAsked = 0;
+    root->layoutSubviews();
+    return SizedView::timesAsked > 0;
+  }
+
+  std::vector<std::shared_ptr<View>> rows;
+};
+
+TEST_F(LaidOutRowsTest, WithoutAChangeNothingIsSolvedAgain) {
+  EXPECT_FALSE(isLaidOutAgain());
+  rows[1]->setNeedsDisplay();
+  rows[1]->setAlpha(0.5);
+  rows[1]->setTransform(AffineTransform::rotation(0.3));
+  root->setFrame({77, 88, 320, 480});
+  EXPECT_FALSE(isLaidOutAgain()) << "none of these says where rows lie";
+}
+
+TEST_F(LaidOutRowsTest, AnotherSizeAnotherFrameAndAnotherDirectionAre) {
+  root->setFrame({0, 0, 300, 480});
+  EXPECT_TRUE(isLaidOutAgain());
+  EXPECT_EQ(rows[2]->frame(), (Rect{0, 160, 300, 80}));
+  rows[1]->setFrame({5, 5, 5, 5});
+  EXPECT_TRUE(isLaidOutAgain());
+  EXPECT_EQ(rows[1]->frame(), (Rect{0, 80, 300, 80}));
+  rows[1]->layer().setPosition({0, 0});
+  EXPECT_TRUE(isLaidOutAgain());
+  EXPECT_EQ(rows[1]->frame(), (Rect{0, 80, 300, 80}));
+  Device::setCurrent({.forcedDirection = LayoutDirection::rightToLeft});
+  EXPECT_TRUE(isLaidOutAgain());
+  EXPECT_FALSE(isLaidOutAgain());
+}
+
+TEST_F(LaidOutRowsTest, AnotherIntrinsicSizeIsWhenTheViewSaysSo) {
+  dynamic_cast<SizedView&>(*rows[0]).setSize({View::noIntrinsicMetric, 100});
+  rows[0]->invalidateIntrinsicContentSize();
+  EXPECT_TRUE(isLaidOutAgain());
+  EXPECT_EQ(rows[2]->frame().y, 180);
+}
+
+TEST_F(LaidOutRowsTest, ConstraintsThatComeOrGoAre) {
+  const auto fixed =
+      std::make_shared<LayoutConstraint>(*rows[0], height, LayoutRelation::equal, nullptr, none, 10);
+  LayoutConstraint::activate({fixed});
+  EXPECT_TRUE(isLaidOutAgain());
+  EXPECT_EQ(rows[2]->frame().y, 90);
+  LayoutConstraint::deactivate({fixed});
+  EXPECT_TRUE(isLaidOutAgain());
+  EXPECT_EQ(rows[2]->frame().y, 160);
+  rows[1]->removeFromSuperview();
+  EXPECT_TRUE(isLaidOutAgain());
+  EXPECT_FALSE(isLaidOutAgain());
+}
+
+TEST_F(LaidOutRowsTest, AViewWithoutConstraintsMovesFreely) {
+  const auto free = viewAt({1, 2, 3, 4});
+  root->layoutSubviews();
+  free->setFrame({5, 6, 7, 8});
+  EXPECT_FALSE(isLaidOutAgain());
+  EXPECT_EQ(free->frame(), (Rect{5, 6, 7, 8}));
 }
 
 }  // namespace

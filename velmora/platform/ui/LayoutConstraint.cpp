@@ -1,26 +1,37 @@
 #include <velmora/platform/ui/LayoutConstraint.h>
 
-#include <algorithm>
-
 #include <velmora/platform/ui/View.h>
 
 namespace velmora {
 namespace {
 
-bool contains(const LayoutConstraint::List& list, const LayoutConstraint& constraint) {
-  return std::any_of(list.begin(), list.end(), [&](const auto& one) { return one.get() == &constraint; });
+enum class Kind { none, edgeAcross, edgeDown, size };
+
+Kind kindOf(LayoutAttribute attribute) {
+  switch (attribute) {
+    case LayoutAttribute::leading:
+    case LayoutAttribute::trailing:
+      return Kind::edgeAcross;
+    case LayoutAttribute::top:
+    case LayoutAttribute::bottom:
+      return Kind::edgeDown;
+    case LayoutAttribute::width:
+    case LayoutAttribute::height:
+      return Kind::size;
+    case LayoutAttribute::none:
+      break;
+  }
+  return Kind::none;
 }
 
 }  // namespace
 
 LayoutConstraint::LayoutConstraint(View& firstItem, LayoutAttribute firstAttribute, LayoutRelation relation,
-                                   View* secondItem, LayoutAttribute secondAttribute, double multiplier,
-                                   double constant)
+                                   View* secondItem, LayoutAttribute secondAttribute, double constant)
     : _firstItem(firstItem.shared_from_this()),
       _firstAttribute(firstAttribute),
       _relation(relation),
       _secondAttribute(secondAttribute),
-      _multiplier(multiplier),
       _constant(constant) {
   if (secondItem != nullptr) _secondItem = secondItem->shared_from_this();
 }
@@ -35,25 +46,29 @@ View* LayoutConstraint::holder() const {
   return view;
 }
 
-bool LayoutConstraint::isActive() const {
-  const View* view = holder();
-  return view != nullptr && contains(view->constraints(), *this);
+/// An edge goes with an edge of its axis or with nothing, a size with nothing.
+bool LayoutConstraint::isMeaningful() const {
+  const Kind first = kindOf(_firstAttribute), second = kindOf(_secondAttribute);
+  return first != Kind::none && (second == Kind::none || (second == first && first != Kind::size));
 }
 
 void LayoutConstraint::activate(const List& constraints) {
   for (const auto& constraint : constraints) {
     View* view = constraint->holder();
-    if (view == nullptr || contains(view->_constraints, *constraint)) continue;
+    if (view == nullptr || constraint->_isActive || !constraint->isMeaningful()) continue;
+    constraint->_isActive = true;
     view->_constraints.push_back(constraint);
-    view->setNeedsDisplay();
+    view->constraintsChanged();
   }
 }
 
 void LayoutConstraint::deactivate(const List& constraints) {
   for (const auto& constraint : constraints) {
+    if (!constraint->_isActive) continue;
     View* view = constraint->holder();
-    if (view == nullptr) continue;
-    if (std::erase(view->_constraints, constraint) > 0) view->setNeedsDisplay();
+    constraint->_isActive = false;
+    std::erase(view->_constraints, constraint);
+    view->constraintsChanged();
   }
 }
 

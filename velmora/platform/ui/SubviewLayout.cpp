@@ -1,14 +1,25 @@
 #include <velmora/platform/ui/SubviewLayout.h>
 
-#include <velmora/platform/ui/Device.h>
-#include <velmora/platform/ui/LayoutConstraint.h>
-#include <velmora/platform/ui/View.h>
-
 namespace [[gnu::visibility("hidden")]] velmora {
+namespace {
 
-SubviewLayout::SubviewLayout(View& container)
-    : _container(container),
-      _isRightToLeft(Device::current().layoutDirection() == LayoutDirection::rightToLeft) {
+bool isAcross(LayoutAttribute attribute) {
+  return attribute == LayoutAttribute::leading || attribute == LayoutAttribute::trailing ||
+         attribute == LayoutAttribute::width;
+}
+
+bool isLength(LayoutAttribute attribute) {
+  return attribute == LayoutAttribute::width || attribute == LayoutAttribute::height;
+}
+
+bool isStart(LayoutAttribute attribute) {
+  return attribute == LayoutAttribute::leading || attribute == LayoutAttribute::top;
+}
+
+}  // namespace
+
+SubviewLayout::SubviewLayout(View& container, LayoutDirection direction)
+    : _container(container), _direction(direction) {
   collect(container.constraints());
   for (const auto& subview : container.subviews()) collect(subview->constraints());
 }
@@ -34,93 +45,88 @@ void SubviewLayout::include(View* item) {
   if (_numbers.emplace(item, _placed.size()).second) _placed.push_back(item);
 }
 
-SubviewLayout::Box SubviewLayout::boxOf(const View& item) const {
-  if (&item == &_container) {
-    const Rect bounds = item.bounds();
-    return {bounds.x, bounds.y, bounds.width, bounds.height};
-  }
-  const std::size_t first = 4 * _numbers.at(&item);
-  return {LinearExpression::variable(first), LinearExpression::variable(first + 1),
-          LinearExpression::variable(first + 2), LinearExpression::variable(first + 3)};
-}
-
-// The same distance from the container's other edge.
-LinearExpression SubviewLayout::mirrored(const LinearExpression& x) const {
+/// As far from the container's other edge, where reading begins on the right.
+Rect SubviewLayout::mirrored(Rect frame) const {
+  if (_direction == LayoutDirection::leftToRight) return frame;
   const Rect bounds = _container.bounds();
-  return bounds.minX() + bounds.maxX() - x;
+  return {bounds.minX() + bounds.maxX() - frame.x - frame.width, frame.y, frame.width, frame.height};
 }
 
-LinearExpression SubviewLayout::valueOf(const View& item, LayoutAttribute attribute) const {
-  const Box box = boxOf(item);
-  switch (attribute) {
-    case LayoutAttribute::left:
-      return box.x;
-    case LayoutAttribute::right:
-      return box.x + box.width;
-    case LayoutAttribute::top:
-      return box.y;
-    case LayoutAttribute::bottom:
-      return box.y + box.height;
-    case LayoutAttribute::leading:
-      return _isRightToLeft ? mirrored(box.x + box.width) : box.x;
-    case LayoutAttribute::trailing:
-      return _isRightToLeft ? mirrored(box.x) : box.x + box.width;
-    case LayoutAttribute::width:
-      return box.width;
-    case LayoutAttribute::height:
-      return box.height;
-    case LayoutAttribute::centerX:
-      return box.x + box.width * 0.5;
-    case LayoutAttribute::centerY:
-      return box.y + box.height * 0.5;
-    case LayoutAttribute::none:
-      break;
+Rect SubviewLayout::presentFrame(const View& view) const {
+  return mirrored(view.layer().untransformedFrame());
+}
+
+void SubviewLayout::demandEquality(SpanPlaces& places, Axis axis, const LayoutConstraint& equality) const {
+  const Rect bounds = _container.bounds();
+  const Span whole = axis == Axis::across ? Span{bounds.x, bounds.width} : Span{bounds.y, bounds.height};
+  /// An edge, and how far the attribute lies behind it.
+  struct Place {
+    SpanPlaces::Edge edge;
+    double distance;
+  };
+  const auto placeOf = [&](const View* item, LayoutAttribute attribute) -> Place {
+    if (attribute == LayoutAttribute::none) return {SpanPlaces::origin, 0};
+    const bool begins = isStart(attribute);
+    if (item == &_container) return {SpanPlaces::origin, whole.start + (begins ? 0 : whole.length)};
+    const std::size_t span = _numbers.at(item);
+    return {begins ? SpanPlaces::startOf(span) : SpanPlaces::endOf(span), 0};
+  };
+
+  const auto item = equality.firstItem(), other = equality.secondItem();
+  if (isLength(equality.firstAttribute())) {
+    if (item.get() == &_container) return;
+    const std::size_t span = _numbers.at(item.get());
+    places.demand(SpanPlaces::endOf(span), SpanPlaces::startOf(span), equality.constant());
+  } else {
+    const Place place = placeOf(item.get(), equality.firstAttribute());
+    const Place behind = placeOf(other.get(), equality.secondAttribute());
+    places.demand(place.edge, behind.edge, behind.distance + equality.constant() - place.distance);
   }
-  return 0;
 }
 
-void SubviewLayout::addEqualities(ConstraintSolver& solver) const {
+void SubviewLayout::demandEqualities(SpanPlaces& places, Axis axis) const {
   for (const auto& equality : _equalities) {
-    LinearExpression zero =
-        valueOf(*equality->firstItem(), equality->firstAttribute()) - equality->constant();
-    if (const auto second = equality->secondItem()) {
-      zero = zero - valueOf(*second, equality->secondAttribute()) * equality->multiplier();
+    if (isAcross(equality->firstAttribute()) == (axis == Axis::across)) {
+      demandEquality(places, axis, *equality);
     }
-    solver.add(zero);
   }
 }
 
-void SubviewLayout::addIntrinsicSizes(ConstraintSolver& solver) const {
+std::vector<SubviewLayout::Span> SubviewLayout::spansAlong(Axis axis) const {
+  const bool isAcross = axis == Axis::across;
+  const auto demandLength = [](SpanPlaces& places, std::size_t i, double length) {
+    places.demand(SpanPlaces::endOf(i), SpanPlaces::startOf(i), length);
+  };
+  std::vector<Span> present;
   for (const View* view : _placed) {
-    const Box box = boxOf(*view);
-    const Size size = view->intrinsicContentSize();
-    if (size.width != View::noIntrinsicMetric) solver.add(box.width - size.width);
-    if (size.height != View::noIntrinsicMetric) solver.add(box.height - size.height);
+    const Rect frame = presentFrame(*view);
+    present.push_back(isAcross ? Span{frame.x, frame.width} : Span{frame.y, frame.height});
   }
-}
 
-void SubviewLayout::addPresentFrames(ConstraintSolver& solver) const {
-  for (const View* view : _placed) {
-    solver.add(boxOf(*view).width - view->bounds().width);
-    solver.add(boxOf(*view).height - view->bounds().height);
+  SpanPlaces places(_placed.size());
+  demandEqualities(places, axis);
+  for (std::size_t i = 0; i < _placed.size(); ++i) {
+    const Size size = _placed[i]->intrinsicContentSize();
+    const double length = isAcross ? size.width : size.height;
+    if (length != View::noIntrinsicMetric) demandLength(places, i, length);
   }
-  for (const View* view : _placed) {
-    solver.add(boxOf(*view).x - view->layer().untransformedFrame().x);
-    solver.add(boxOf(*view).y - view->layer().untransformedFrame().y);
+  for (std::size_t i = 0; i < present.size(); ++i) demandLength(places, i, present[i].length);
+  for (std::size_t i = 0; i < present.size(); ++i) {
+    places.demand(SpanPlaces::startOf(i), SpanPlaces::origin, present[i].start);
   }
+
+  for (std::size_t i = 0; i < present.size(); ++i) {
+    const auto start = places.place(SpanPlaces::startOf(i)), end = places.place(SpanPlaces::endOf(i));
+    if (start) present[i].start = *start;
+    if (start && end) present[i].length = *end - *start;
+  }
+  return present;
 }
 
 void SubviewLayout::apply() const {
-  if (_placed.empty()) return;
-  ConstraintSolver solver(4 * _placed.size());
-  addEqualities(solver);
-  addIntrinsicSizes(solver);
-  addPresentFrames(solver);
+  const std::vector<Span> across = spansAlong(Axis::across), down = spansAlong(Axis::down);
   for (std::size_t i = 0; i < _placed.size(); ++i) {
-    const Rect present = _placed[i]->layer().untransformedFrame();
-    _placed[i]->place({solver.value(4 * i).value_or(present.x), solver.value(4 * i + 1).value_or(present.y),
-                       solver.value(4 * i + 2).value_or(present.width),
-                       solver.value(4 * i + 3).value_or(present.height)});
+    _placed[i]->place(mirrored({across[i].start, down[i].start, across[i].length, down[i].length}));
   }
 }
 

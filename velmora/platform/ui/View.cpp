@@ -15,6 +15,7 @@ constexpr double kLeastTouchableAlpha = 0.01;
 }  // namespace
 
 View::~View() {
+  for (const auto& constraint : _constraints) constraint->_isActive = false;
   for (const auto& subview : _subviews) subview->_superview = nullptr;
 }
 
@@ -25,6 +26,7 @@ void View::setFrame(Rect frame) {
 }
 
 void View::place(Rect untransformedFrame) {
+  _placedFrame = untransformedFrame;
   if (untransformedFrame == _layer.untransformedFrame()) return;
   _layer.setUntransformedFrame(untransformedFrame);
   setNeedsDisplay();
@@ -48,7 +50,9 @@ void View::setBackgroundColor(const Color& color) {
 void View::addSubview(std::shared_ptr<View> view) {
   view->detach();
   view->_superview = this;
+  view->_placedFrame.reset();
   _subviews.push_back(view);
+  _layout.reset();
   setNeedsDisplay();
   view->didMoveToSuperview();
 }
@@ -75,8 +79,18 @@ void View::dropConstraintsOn(const View& leaving) {
     return item != nullptr && item->isDescendantOf(leaving);
   };
   std::erase_if(_constraints, [&](const auto& constraint) {
-    return isOnLeaving(constraint->firstItem()) || isOnLeaving(constraint->secondItem());
+    const bool ends = isOnLeaving(constraint->firstItem()) || isOnLeaving(constraint->secondItem());
+    if (ends) constraint->_isActive = false;
+    return ends;
   });
+  _layout.reset();
+}
+
+/// What a view demands of itself alone is heeded where it lies.
+void View::constraintsChanged() {
+  _layout.reset();
+  if (_superview != nullptr) _superview->_layout.reset();
+  setNeedsDisplay();
 }
 
 bool View::isDescendantOf(const View& other) const {
@@ -87,12 +101,26 @@ bool View::isDescendantOf(const View& other) const {
 
 void View::invalidateIntrinsicContentSize() {
   View& affected = _superview == nullptr ? *this : *_superview;
+  affected._layout.reset();
   affected.setNeedsDisplay();
 }
 
-void View::layoutSubviews() {
-  SubviewLayout(*this).apply();
-  for (const auto& subview : _subviews) subview->layoutSubviews();
+void View::layoutSubviews() { layoutIn(Device::current().layoutDirection()); }
+
+void View::layoutIn(LayoutDirection direction) {
+  if (needsLayout(direction)) {
+    for (const auto& subview : _subviews) subview->_placedFrame.reset();
+    SubviewLayout(*this, direction).apply();
+    _layout = {direction, bounds()};
+  }
+  for (const auto& subview : _subviews) subview->layoutIn(direction);
+}
+
+bool View::needsLayout(LayoutDirection direction) const {
+  if (!_layout || _layout->direction != direction || _layout->bounds != bounds()) return true;
+  return std::any_of(_subviews.begin(), _subviews.end(), [](const auto& subview) {
+    return subview->_placedFrame && *subview->_placedFrame != subview->_layer.untransformedFrame();
+  });
 }
 
 bool View::needsDisplay() const {

@@ -1,10 +1,12 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include <velmora/platform/graphics/Canvas.h>
 #include <velmora/platform/ui/AccessibilityElement.h>
+#include <velmora/platform/ui/Device.h>
 #include <velmora/platform/ui/Layer.h>
 #include <velmora/platform/ui/Touch.h>
 
@@ -73,12 +75,14 @@ class View : public std::enable_shared_from_this<View> {
   /// something of this view alone, in order of activation.
   const std::vector<std::shared_ptr<LayoutConstraint>>& constraints() const { return _constraints; }
 
-  /// The size that the content asks for; holds where no constraint fixes it.
+  /// The size that the content asks for; holds where no constraint fixes it. After a change of what it
+  /// returns the view says `invalidateIntrinsicContentSize`.
   virtual Size intrinsicContentSize() const { return {noIntrinsicMetric, noIntrinsicMetric}; }
   /// Says that the intrinsic size has changed, so that what the view lies in is to be drawn again.
   void invalidateIntrinsicContentSize();
 
-  /// Places the subviews by the active constraints, and theirs in turn, at every depth.
+  /// Places the subviews by the active constraints, and theirs in turn, at every depth. Subviews are placed
+  /// again only after something that their places depend on has changed.
   void layoutSubviews();
 
   /// Says that the view has to be drawn again.
@@ -133,6 +137,9 @@ class View : public std::enable_shared_from_this<View> {
 
   std::shared_ptr<View> detach();
   void dropConstraintsOn(const View& leaving);
+  void constraintsChanged();
+  void layoutIn(LayoutDirection direction);
+  bool needsLayout(LayoutDirection direction) const;
   void place(Rect untransformedFrame);
   void draw(Canvas& canvas);
   void drawBackground(Canvas& canvas);
@@ -143,6 +150,13 @@ class View : public std::enable_shared_from_this<View> {
   View* _superview = nullptr;
   std::vector<std::shared_ptr<View>> _subviews;
   std::vector<std::shared_ptr<LayoutConstraint>> _constraints;
+  /// What the subviews were placed for; none while they have to be placed.
+  struct Layout {
+    LayoutDirection direction;
+    Rect bounds;
+  };
+  std::optional<Layout> _layout;
+  std::optional<Rect> _placedFrame;  // where the superview's layout has put the view, without its transform
   bool _needsDisplay = true;
   bool _isUserInteractionEnabled = true;
   bool _isAccessibilityElement = false;
