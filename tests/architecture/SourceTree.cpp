@@ -32,6 +32,7 @@ constexpr std::array layers = {"velmora/platform/system",
                                "velmora/astronomy",
                                "velmora/phases",
                                "velmora/service",
+                               "velmora/c",
                                "velmora/platform/graphics",
                                "velmora/platform/ui",
                                "velmora/views",
@@ -74,9 +75,10 @@ bool isOfProject(const std::string& include) {
   return liesIn(std::array{"velmora/", "app/", "tests/", "examples/"}, include);
 }
 
-/// Headers of the C++ library have neither folder nor ending.
+/// Headers of the C++ library have neither folder nor ending; the C interface needs two of the C library.
 bool isThirdParty(const std::string& include) {
-  return !isOfProject(include) && include.find_first_of("./") != std::string::npos;
+  const std::set<std::string> ofC = {"stddef.h", "stdint.h"};
+  return !isOfProject(include) && ofC.count(include) == 0 && include.find_first_of("./") != std::string::npos;
 }
 
 /// The third-party headers that come with the file, whoever includes them.

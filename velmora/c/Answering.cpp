@@ -1,0 +1,80 @@
+#include <velmora/c/Answering.h>
+
+#include <array>
+#include <cstdio>
+
+namespace [[gnu::visibility("hidden")]] velmora {
+namespace c {
+namespace {
+
+constexpr std::size_t longestMessage = 256;
+
+/// A message that does not fit is cut.
+std::array<char, longestMessage>& keptMessage() noexcept {
+  thread_local std::array<char, longestMessage> message{};
+  return message;
+}
+
+void checkRange(double value, double low, double high, const char* name) {
+  if (value >= low && value <= high) return;
+  char message[longestMessage];
+  std::snprintf(message, sizeof message, "%s is %g; it lies between %g and %g", name, value, low, high);
+  throw Refusal{VELMORA_BAD_ARGUMENT, message};
+}
+
+void checkNumber(double value, const char* name) {
+  if (!std::isfinite(value)) throw Refusal{VELMORA_BAD_ARGUMENT, std::string(name) + " is no finite number"};
+}
+
+[[noreturn]] void refuseYears(const char* name) {
+  throw Refusal{VELMORA_OUT_OF_YEARS, std::string(name) + " lies outside the years 1900 to 2100"};
+}
+
+}  // namespace
+
+velmora_status refuse(velmora_status status, const char* message) noexcept {
+  auto& kept = keptMessage();
+  std::snprintf(kept.data(), kept.size(), "%s", message);
+  return status;
+}
+
+int choiceOf(int number, int choices, const char* name) {
+  if (number >= 0 && number < choices) return number;
+  throw Refusal{VELMORA_BAD_ARGUMENT, std::string(name) + " is " + std::to_string(number) +
+                                          "; it is one of 0 to " + std::to_string(choices - 1)};
+}
+
+almanac::Place placeOf(const velmora_place* place) {
+  const velmora_place& taken = given(place, "place");
+  checkRange(taken.latitude, -90.0, 90.0, "latitude");
+  checkRange(taken.longitude, -180.0, 180.0, "longitude");
+  checkRange(taken.height, 0.0, std::numeric_limits<double>::max(), "height");
+  const almanac::Place answer{taken.latitude, taken.longitude, taken.height};
+  if (!almanac::isValid(answer)) throw Refusal{VELMORA_BAD_ARGUMENT, "height is above what is answered"};
+  return answer;
+}
+
+ephemeris::Body bodyOf(int number) {
+  return choiceOf(number, 2, "body") == VELMORA_SUN ? ephemeris::Body::sun : ephemeris::Body::moon;
+}
+
+Instant coveredInstant(double at, const char* name) {
+  checkNumber(at, name);
+  const Instant instant = instantFromUnixSeconds(at);
+  if (!ephemeris::covers(instant)) refuseYears(name);
+  return instant;
+}
+
+std::pair<Instant, Instant> coveredInterval(double from, double to) {
+  const Instant start = coveredInstant(from, "from");
+  checkNumber(to, "to");
+  const Instant end = instantFromUnixSeconds(to);
+  if (end < start) throw Refusal{VELMORA_BAD_ARGUMENT, "to lies before from"};
+  if (end > ephemeris::endInstant()) refuseYears("to");
+  return {start, end};
+}
+
+}  // namespace c
+}  // namespace velmora
+
+extern "C" const char* velmora_message(void) { return velmora::c::keptMessage().data(); }
