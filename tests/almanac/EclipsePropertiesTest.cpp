@@ -7,6 +7,7 @@
 
 #include <tests/almanac/EclipseFaults.h>
 #include <tests/almanac/EclipseTesting.h>
+#include <velmora/almanac/Events.h>
 
 namespace velmora::almanac {
 namespace {
@@ -82,6 +83,31 @@ TEST(EclipseProperties, NoPlaceSeesMoreThanTheWholeEarth) {
       }
     }
   }
+}
+
+TEST(EclipseProperties, WhatIsSeenBeginsAndEndsWithRiseAndSetOfTheDay) {
+  int compared = 0;
+  for (const Eclipse& eclipse : eclipses(utc(2014, 1, 1), utc(2015, 1, 1))) {
+    for (const Place& place : placesOfTheWorld()) {
+      const auto local = seenFrom(eclipse, place);
+      if (!local || !local->isVisible) continue;
+      const auto sky = day(place, eclipse.maximum - Seconds(20000), eclipse.maximum + Seconds(20000));
+      ASSERT_TRUE(sky);
+      for (const Instant end : {local->visibleFrom, local->visibleTo}) {
+        const auto isContact = [&](const Contact& contact) { return contact.moment.at == end; };
+        if (std::any_of(local->contacts.begin(), local->contacts.end(), isContact)) continue;
+        const EventKind kind = end == local->visibleFrom ? EventKind::rise : EventKind::set;
+        EXPECT_TRUE(std::any_of(sky->events.begin(), sky->events.end(),
+                                [&](const Event& event) {
+                                  return event.body == eclipse.body && event.kind == kind &&
+                                         std::abs((event.at - end).count()) < 0.1;
+                                }))
+            << unixSeconds(end) << " at " << place.latitude << ' ' << place.longitude;
+        ++compared;
+      }
+    }
+  }
+  EXPECT_GT(compared, 50);
 }
 
 TEST(EclipseProperties, AMountainSeesTheEclipsedSunEarlier) {

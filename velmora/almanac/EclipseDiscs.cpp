@@ -4,16 +4,17 @@
 #include <cmath>
 #include <numbers>
 
+#include <velmora/almanac/Disc.h>
+
 namespace [[gnu::visibility("hidden")]] velmora {
 namespace almanac {
 namespace {
 
-// The radii of the "Five Millennium Canon of Solar Eclipses" (Espenak and Meeus), kilometres.
+// The radii of the "Five Millennium Canon of Solar Eclipses" (Espenak and Meeus), kilometres, as the Sun's.
 constexpr double earthRadius = 6378.137;  // of the equator
-constexpr double sunRadius = 695989;      // 959.63″ at an astronomical unit
 // 1738.1 with the mountains of the limb, 1736.6 by its valleys, through which the last of the Sun shines.
-constexpr double moonRadius = 0.272508 * earthRadius;
-constexpr double moonRadiusInside = 0.272281 * earthRadius;
+constexpr double outerMoonRadius = 0.272508 * earthRadius;
+constexpr double innerMoonRadius = 0.272281 * earthRadius;
 constexpr double danjonEnlargement = 1.01;
 
 /// The area that two circles share.
@@ -56,8 +57,8 @@ double SolarDiscs::obscuration() const {
 SolarDiscs solarDiscs(const Motion& toSun, const Motion& toMoon) {
   const double sunDistance = length(toSun.at), moonDistance = length(toMoon.at);
   const double sun = std::asin(sunRadius / sunDistance);
-  return {Separation(toMoon, toSun), sun + std::asin(moonRadius / moonDistance),
-          sun - std::asin(moonRadiusInside / moonDistance)};
+  return {Separation(toMoon, toSun), sun + std::asin(outerMoonRadius / moonDistance),
+          sun - std::asin(innerMoonRadius / moonDistance)};
 }
 
 EclipseKind EarthShadow::kind() const {
@@ -76,7 +77,7 @@ EarthShadow earthShadow(const Motion& sun, const Motion& moon) {
       danjonEnlargement * std::asin(earthRadius / moonDistance) + std::asin(earthRadius / sunDistance);
   const double sunSemidiameter = std::asin(sunRadius / sunDistance);
   return {Separation(moon, Motion{} - sun), shadow - sunSemidiameter, shadow + sunSemidiameter,
-          std::asin(moonRadius / moonDistance)};
+          std::asin(outerMoonRadius / moonDistance)};
 }
 
 }  // namespace almanac

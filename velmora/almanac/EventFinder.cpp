@@ -3,33 +3,13 @@
 #include <algorithm>
 #include <cmath>
 
-#include <velmora/almanac/Disc.h>
 #include <velmora/almanac/Refraction.h>
 
 namespace [[gnu::visibility("hidden")]] velmora {
 namespace almanac {
 namespace {
 
-constexpr double dipOfAMetre = 1.76 / 60;  // degrees; grows with the square root of the height
-
 const Mark civil(6), nautical(12), astronomical(18);
-
-double depression(const Place& place, const Convention& convention) {
-  return convention.horizonRefraction + dipOfAMetre * std::sqrt(place.height);
-}
-
-/// How many times its semidiameter the point of the disc lies above the centre.
-double limbFactor(Convention::Limb limb) {
-  switch (limb) {
-    case Convention::Limb::upper:
-      return 1;
-    case Convention::Limb::lower:
-      return -1;
-    case Convention::Limb::center:
-      break;
-  }
-  return 0;
-}
 
 }  // namespace
 
@@ -127,8 +107,8 @@ class EventFinder::Listing {
 
 EventFinder::EventFinder(const Place& place, const Convention& convention, const Wanted& wanted)
     : _observer(place),
-      _sun(depression(place, convention) + limbFactor(convention.limb) * convention.sunSemidiameter),
-      _moon(depression(place, convention), limbFactor(convention.limb) * moonRadius),
+      _sun(horizonMark(Body::sun, place, convention)),
+      _moon(horizonMark(Body::moon, place, convention)),
       _wanted(wanted) {}
 
 void EventFinder::add(const Sky& sky, Findings& findings) const { Listing(*this, sky, findings).run(); }

@@ -10,7 +10,6 @@ namespace almanac {
 namespace {
 
 constexpr double earthTurn = 7.292115855e-5;  // radians a second
-constexpr double moonRadius = 1737.5;         // km
 
 /// No altitude's sine bends more, a second squared: the Earth's turn squared, and the Moon's way.
 constexpr double greatestCurvature = 6e-9;
@@ -18,11 +17,11 @@ constexpr double greatestCurvature = 6e-9;
 }  // namespace
 
 LocalSky::LocalSky(const EclipseSky& sky, Body body, const Place& place)
-    : _sky(sky), _body(body), _observer(place), _longitude(place.longitude * degree) {
-  const Convention convention;
-  const double dip = 1.76 / 60 * std::sqrt(place.height);
-  _horizon = -(convention.horizonRefraction + dip) * degree;
-}
+    : _sky(sky),
+      _body(body),
+      _observer(place),
+      _longitude(place.longitude * degree),
+      _horizon(horizonMark(body, place)) {}
 
 Motion LocalSky::seen(const Motion& geocentric, double seconds) const {
   const double angle = _sky.siderealTime(seconds) + _longitude;
@@ -36,23 +35,21 @@ Local LocalSky::direction(double seconds) const {
   return _observer.seen(turned(body.at, std::cos(angle), std::sin(angle)));
 }
 
-/// Of the upper limb above the horizon, as the difference of two sines.
-double LocalSky::heightOfLimb(const Local& direction) const {
-  const double distance = direction.distance();
-  const double semidiameter =
-      _body == Body::sun ? Convention{}.sunSemidiameter * degree : std::asin(moonRadius / distance);
-  return direction.up / distance - std::sin(_horizon - semidiameter);
+/// The difference of two sines.
+double LocalSky::heightOverMark(const Local& direction) const {
+  const double inverseDistance = 1 / direction.distance();
+  return direction.up * inverseDistance - _horizon.sineOfAltitude(inverseDistance);
 }
 
 EclipseMoment LocalSky::moment(double seconds) const {
   const Local local = direction(seconds);
   const double altitude = std::asin(local.up / local.distance()) / degree;
-  return {_sky.instant(seconds), apparentAltitude(altitude), azimuthOf(local), heightOfLimb(local) >= 0};
+  return {_sky.instant(seconds), apparentAltitude(altitude), azimuthOf(local), heightOverMark(local) >= 0};
 }
 
 std::vector<double> LocalSky::horizonPassages(double from, double to) const {
   std::vector<double> passages;
-  addPassages({from, heightOfLimb(from)}, {to, heightOfLimb(to)}, passages);
+  addPassages({from, heightOverMark(from)}, {to, heightOverMark(to)}, passages);
   return passages;
 }
 
@@ -72,7 +69,7 @@ void LocalSky::addPassages(const Sample& from, const Sample& to, std::vector<dou
     if (duration < 0.25 || nearest > greatestCurvature * duration * duration / 8) return;
   }
   const double seconds = (from.seconds + to.seconds) / 2;
-  const Sample middle{seconds, heightOfLimb(seconds)};
+  const Sample middle{seconds, heightOverMark(seconds)};
   addPassages(from, middle, passages);
   addPassages(middle, to, passages);
 }
@@ -81,7 +78,7 @@ void LocalSky::addPassages(const Sample& from, const Sample& to, std::vector<dou
 double LocalSky::passage(Sample from, Sample to) const {
   for (;;) {
     const double seconds = to.seconds - to.height * (to.seconds - from.seconds) / (to.height - from.height);
-    const Sample sample{seconds, heightOfLimb(seconds)};
+    const Sample sample{seconds, heightOverMark(seconds)};
     const bool hasPassed = (sample.height < 0) != (to.height < 0);
     if (std::abs(seconds - to.seconds) < 0.01) return seconds;
     if (hasPassed) {

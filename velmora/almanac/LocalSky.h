@@ -4,6 +4,7 @@
 
 #include <velmora/almanac/EclipseSky.h>
 #include <velmora/almanac/Eclipses.h>
+#include <velmora/almanac/Mark.h>
 #include <velmora/almanac/Observer.h>
 
 namespace [[gnu::visibility("hidden")]] velmora {
@@ -24,8 +25,8 @@ class LocalSky {
 
  private:
   Local direction(double seconds) const;
-  double heightOfLimb(const Local& direction) const;
-  double heightOfLimb(double seconds) const { return heightOfLimb(direction(seconds)); }
+  double heightOverMark(const Local& direction) const;
+  double heightOverMark(double seconds) const { return heightOverMark(direction(seconds)); }
 
   struct Sample {
     double seconds, height;
@@ -37,7 +38,7 @@ class LocalSky {
   Body _body;
   Observer _observer;
   double _longitude;  // radians
-  double _horizon;    // the altitude of the limb there, radians
+  Mark _horizon;
 };
 
 }  // namespace almanac
