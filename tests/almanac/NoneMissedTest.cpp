@@ -109,9 +109,9 @@ class FindersSky {
 
   velmora::testing::PathOverEarth path(Body body) const {
     return [this, body](double seconds) {
-      const double since = seconds + (_start - _sky.startOf(0)).count();
-      const double block = std::floor(since / Sky::blockSeconds);
-      return _sky.at(body, static_cast<std::size_t>(block), since - block * Sky::blockSeconds);
+      const double since = seconds + (_start - _sky.timeOf(0)).count();
+      const double sample = std::floor(since / Sky::sampleSeconds);
+      return _sky.motion(body, static_cast<std::size_t>(sample), since - sample * Sky::sampleSeconds).at;
     };
   }
 

@@ -7,188 +7,135 @@ namespace [[gnu::visibility("hidden")]] velmora {
 namespace almanac {
 namespace {
 
-using ephemeris::Body;
-
 constexpr double shortestPass = 0.25;  // seconds
-constexpr double tolerance = 1e-4;     // seconds, of a passage
+constexpr double tolerance = 2e-4;     // seconds, of a passage
 
-/// Bound of the second derivative of a sine of altitude, a day squared: that of a point that the Earth's
-/// rotation turns by 2π a day, with the Moon's own motion and parallax; at a pole the Moon's motion alone.
-constexpr double turning = 1.02 * 4 * 9.8696044;
-constexpr double ownMotion = 0.05;
-constexpr double secondsPerDay = 86400;
+/// Bound of the second derivative of a component of a body's direction, a day squared: that of a point that
+/// the Earth's rotation turns by 2π a day, and the body's own motion, which alone is left at a pole.
+double curvatureBound(double cosine) {
+  constexpr double turning = 1.02 * 4 * 9.8696044, ownMotion = 0.05, day = 86400;
+  return (turning * cosine + ownMotion) / (day * day);
+}
 
-/// A cubic through the four samples of a block, over seconds since its start.
-class Cubic {
- public:
-  explicit Cubic(const std::array<double, 4>& f)
-      : _f0(f[0]),
-        _d1(f[1] - f[0]),
-        _d2((f[2] - 2 * f[1] + f[0]) / 2),
-        _d3((f[3] - 3 * f[2] + 3 * f[1] - f[0]) / 6) {}
-
-  struct Value {
-    double value, slope;
-  };
-  Value at(double seconds) const {
-    const double u = seconds / Sky::sampleSeconds, v = u - 1, w = u - 2;
-    const double inner = _d2 + w * _d3;
-    return {_f0 + u * (_d1 + v * inner), (_d1 + v * inner + u * (inner + v * _d3)) / Sky::sampleSeconds};
-  }
-
- private:
-  double _f0, _d1, _d2, _d3;
-};
+bool isAbove(double height) { return height >= 0; }
 
 }  // namespace
 
-/// Finds where a function of the body's place changes sign in a block.
-template <class Height>
-class Course::Search {
- public:
-  Search(const Course& course, std::size_t block, const Height& height, double curvature)
-      : _course(course),
-        _block(block),
-        _height(height),
-        _curvature(curvature),
-        _samples(sampled()),
-        _cubic(_samples) {}
-
-  /// Every sign change of the block; upward and downward alternate.
-  void run(std::vector<Passage>& passages) const {
-    for (std::size_t k = 0; k < Sky::samplesPerBlock; ++k) {
-      const double a = Sky::sampleSeconds * static_cast<double>(k);
-      scan({a, _samples[k]}, {a + Sky::sampleSeconds, _samples[k + 1]}, passages);
-    }
-  }
-
- private:
-  struct Point {
-    double seconds, height;
-  };
-  struct Moment {
-    Local local;
-    double height;
-  };
-
-  std::array<double, 4> sampled() const {
-    std::array<double, 4> values{};
-    const std::size_t first = _block * Sky::samplesPerBlock;
-    for (std::size_t k = 0; k < values.size(); ++k) {
-      values[k] = _height(_course._sine[first + k], _course._east[first + k], _course._inverse[first + k]);
-    }
-    return values;
-  }
-
-  Moment at(double seconds) const {
-    const Local local = _course._observer.seen(_course._sky.at(_course._body, _block, seconds));
-    const double inverse = 1 / local.distance();
-    return {local, _height(local.up * inverse, local.east * inverse, inverse)};
-  }
-
-  static bool isAbove(double height) { return height >= 0; }
-
-  /// Looks at [a, b] alone, or at its halves where the bound does not tell how often the sign changes.
-  void scan(Point a, Point b, std::vector<Passage>& passages) const {
-    const double width = b.seconds - a.seconds;
-    const double bend = 0.5 * _curvature * width * width;
-    const double change = std::abs(b.height - a.height);
-    const bool isOneWay = change >= bend || width <= shortestPass;
-    if (isAbove(a.height) != isAbove(b.height)) {
-      if (isOneWay) return passages.push_back(crossing(a, b));
-    } else {
-      const double nearer = std::min(std::abs(a.height), std::abs(b.height));
-      const double rest = bend - change;
-      if (isOneWay || nearer * 4 * bend > rest * rest) return;
-    }
-    const double middle = a.seconds + width / 2;
-    const Point m{middle, at(middle).height};
-    scan(a, m, passages);
-    scan(m, b, passages);
-  }
-
-  /// A first guess of the root between a and b, from the cubic.
-  double guess(Point a, Point b) const {
-    double seconds = a.seconds + (b.seconds - a.seconds) * (a.height / (a.height - b.height));
-    for (int step = 0; step < 4; ++step) {
-      const auto [value, slope] = _cubic.at(seconds);
-      seconds = std::clamp(seconds - value / slope, a.seconds, b.seconds);
-    }
-    return seconds;
-  }
-
-  /// Newton's first step with the slope of the cubic, then secants; halves where they leave the bracket.
-  Passage crossing(Point a, Point b) const {
-    const bool isRising = isAbove(b.height);
-    double seconds = guess(a, b), slope = _cubic.at(seconds).slope;
-    Moment here = at(seconds);
-    double former = seconds;
-    Local formerLocal = here.local;
-    while (true) {
-      (isAbove(here.height) == isRising ? b.seconds : a.seconds) = seconds;
-      const double secant = seconds - here.height / slope;
-      const bool isInside = secant >= a.seconds && secant <= b.seconds;
-      const double next = isInside ? secant : a.seconds + (b.seconds - a.seconds) / 2;
-      if (next == seconds || b.seconds - a.seconds <= tolerance) return {next, isRising, here.local};
-      const double error = 0.5 * _curvature / std::abs(slope) * std::abs((next - seconds) * (next - former));
-      if (isInside && former != seconds && error <= tolerance) {
-        return {next, isRising, between(formerLocal, here.local, (next - former) / (seconds - former))};
-      }
-      former = seconds;
-      formerLocal = here.local;
-      const double height = here.height;
-      seconds = next;
-      here = at(seconds);
-      slope = (here.height - height) / (seconds - former);
-    }
-  }
-
-  /// Of two places the one that is reached at a part of the way, which may lie beyond the second.
-  static Local between(const Local& a, const Local& b, double part) {
-    return {a.east + part * (b.east - a.east), a.north + part * (b.north - a.north),
-            a.up + part * (b.up - a.up)};
-  }
-
-  const Course& _course;
-  std::size_t _block;
-  const Height& _height;
-  double _curvature;
-  std::array<double, 4> _samples;
-  Cubic _cubic;
+struct Course::Point {
+  double seconds, height;
 };
 
-Course::Course(const Sky& sky, Body body, const Observer& observer)
-    : _sky(sky),
-      _body(body),
-      _observer(observer),
-      _curvature((turning * observer.cosLatitude + ownMotion) / (secondsPerDay * secondsPerDay)) {
-  const Sky::Samples& samples = sky.samples(body);
-  for (std::size_t i = 0; i < samples.x.size(); ++i) {
-    const Local local = observer.seen({samples.x[i], samples.y[i], samples.z[i]});
+struct Course::Moment {
+  Local local, rate;
+  double height, slope, bend;
+};
+
+/// Where a passage is looked for.
+struct Course::Question {
+  const Level& level;
+  std::size_t line, sample;
+  double curvature;
+};
+
+Course::Course(const Sky& sky, ephemeris::Body body, const Observer& observer)
+    : _sky(sky), _body(body), _observer(observer), _curvature(curvatureBound(observer.cosLatitude)) {
+  const std::vector<Vector>& samples = sky.samples(body);
+  for (std::size_t i = 0; i < samples.size(); ++i) {
+    const Local local = observer.seen(samples[i]);
     _inverse[i] = 1 / local.distance();
-    _sine[i] = local.up * _inverse[i];
+    _up[i] = local.up * _inverse[i];
     _east[i] = local.east * _inverse[i];
   }
 }
 
-bool Course::startsAbove(const Mark& mark) const { return _sine[0] - mark.sineOfAltitude(_inverse[0]) >= 0; }
-
-void Course::addPassages(std::size_t block, const Mark& mark, std::vector<Passage>& passages) const {
-  const auto height = [&mark](double sine, double, double inverse) {
-    return sine - mark.sineOfAltitude(inverse);
-  };
-  Search(*this, block, height, _curvature).run(passages);
+void Course::addPassages(const Level& level, std::size_t line, std::size_t firstSample,
+                         std::size_t lastSample, std::vector<Passage>& passages) const {
+  const double curvature = level.isMeridian() ? curvatureBound(1) : _curvature;
+  const double reach = curvature * Sky::sampleSeconds * Sky::sampleSeconds / 8;  // from both ends of a step
+  double before = level.heightOf(sampled(firstSample));
+  for (std::size_t sample = firstSample; sample < lastSample; ++sample) {
+    const double after = level.heightOf(sampled(sample + 1));
+    const bool isFar = std::min(before, after) > reach || std::max(before, after) < -reach;
+    if (!isFar) scan({level, line, sample, curvature}, {0, before}, {Sky::sampleSeconds, after}, passages);
+    before = after;
+  }
 }
 
-void Course::addTransits(std::size_t block, std::vector<Passage>& passages) const {
-  constexpr double curvature = (turning + ownMotion) / (secondsPerDay * secondsPerDay);
-  const auto first = static_cast<std::ptrdiff_t>(passages.size());
-  Search(
-      *this, block, [](double, double east, double) { return -east; }, curvature)
-      .run(passages);
-  passages.erase(std::remove_if(passages.begin() + first, passages.end(),
-                                [](const Passage& passage) { return !passage.isRising; }),
-                 passages.end());
+/// Looks at [a, b] as a whole, or at its halves where the bound does not tell how often the level is passed.
+void Course::scan(const Question& question, Point a, Point b, std::vector<Passage>& passages) const {
+  const double width = b.seconds - a.seconds, change = b.height - a.height;
+  const double bend = 0.5 * question.curvature * width * width;
+  const bool isOneWay = std::abs(change) >= bend || width <= shortestPass;
+  if (isAbove(a.height) != isAbove(b.height)) {
+    if (isOneWay) {
+      if (question.level.isMeridian() && change < 0) return;
+      passages.push_back({.course = this,
+                          .level = &question.level,
+                          .line = question.line,
+                          .sample = question.sample,
+                          .earliest = a.seconds,
+                          .latest = b.seconds,
+                          .isRising = change > 0,
+                          .seconds = a.seconds - width * (a.height / change)});
+      return;
+    }
+  } else {
+    const double nearer = std::min(std::abs(a.height), std::abs(b.height)), rest = bend - std::abs(change);
+    if (isOneWay || nearer * 4 * bend > rest * rest) return;
+  }
+  const double middle = a.seconds + width / 2;
+  const Point m{middle, at(question.level, question.sample, middle).height};
+  scan(question, a, m, passages);
+  scan(question, m, b, passages);
+}
+
+Course::Moment Course::at(const Level& level, std::size_t sample, double seconds) const {
+  const Motion motion = _sky.motion(_body, sample, seconds);
+  const Local local = _observer.seen(motion.at), rate = _observer.along(motion.rate);
+  const double inverse = 1 / local.distance();
+  const double nearing = -inverse * inverse *  // how fast the inverse grows, as a part of it
+                         (local.east * rate.east + local.north * rate.north + local.up * rate.up);
+  const Direction direction{local.up * inverse, local.east * inverse, inverse};
+  const Direction change{(rate.up + local.up * nearing) * inverse,
+                         (rate.east + local.east * nearing) * inverse, inverse * nearing};
+  // Of the second derivative what the rotation of the Earth makes.
+  const double fromAxis = _observer.cosLatitude * (_observer.outward(local) + _observer.equatorial);
+  const double bend = -turnPerSecond * turnPerSecond * inverse * level.mixed(fromAxis, local.east);
+  return {local, rate, level.heightOf(direction), level.slopeOf(direction, change), bend};
+}
+
+void Course::approach(Passage& passage) const {
+  const Moment here = at(*passage.level, passage.sample, passage.seconds);
+  (isAbove(here.height) == passage.isRising ? passage.latest : passage.earliest) = passage.seconds;
+  const double newton = -here.height / here.slope, flatness = newton * newton / here.slope;
+  const double step = newton - 0.5 * here.bend * flatness;  // Chebyshev's: with the bend of the curve
+  const double next = passage.seconds + step;
+  const double width = passage.latest - passage.earliest;
+  const bool isInside = next >= passage.earliest && next <= passage.latest;
+  // The bend is known to a quarter of its bound.
+  if (isInside && 0.125 * _curvature * std::abs(flatness) <= tolerance) {
+    passage.isFound = true;
+    passage.seconds = next;
+    passage.local = {here.local.east + step * here.rate.east, here.local.north + step * here.rate.north,
+                     here.local.up + step * here.rate.up};
+  } else if (width <= tolerance) {
+    passage.isFound = true;
+    passage.local = here.local;
+  } else {
+    passage.seconds = isInside ? next : passage.earliest + width / 2;
+  }
+}
+
+void find(std::span<Passage> passages) {
+  constexpr int usualSteps = 2;
+  for (int step = 0; step < usualSteps; ++step) {
+    for (Passage& passage : passages) {
+      if (!passage.isFound) passage.course->approach(passage);
+    }
+  }
+  for (Passage& passage : passages) {
+    while (!passage.isFound) passage.course->approach(passage);
+  }
 }
 
 }  // namespace almanac

@@ -18,10 +18,13 @@ bool isHorizon(const Event& event, Body body) {
 
 Day DayRecord::day(Interval interval) {
   while (_next < _events.size() && _events[_next].at < interval.start) _state.take(_events[_next++]);
+  std::size_t past = _next;
+  while (past < _events.size() && _events[past].at < interval.end) ++past;
 
   Day day;
   day.start = interval.start;
   day.end = interval.end;
+  day.events.reserve(past - _next);
   bool sunPasses = false, moonPasses = false;
   Instant since = interval.start;
   const auto spend = [&](Instant until) {
@@ -29,7 +32,7 @@ Day DayRecord::day(Interval interval) {
     if (_state.isDark) day.darkness += until - since;
     since = until;
   };
-  for (; _next < _events.size() && _events[_next].at < interval.end; ++_next) {
+  for (; _next < past; ++_next) {
     const Event& event = _events[_next];
     spend(event.at);
     _state.take(event);

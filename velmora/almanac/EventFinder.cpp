@@ -1,15 +1,23 @@
 #include <velmora/almanac/EventFinder.h>
 
 #include <algorithm>
-#include <cmath>
+#include <array>
 
-#include <velmora/almanac/Refraction.h>
+#include <velmora/almanac/Course.h>
 
 namespace [[gnu::visibility("hidden")]] velmora {
 namespace almanac {
 namespace {
 
-const Mark civil(6), nautical(12), astronomical(18);
+/// What is the same for every place and convention.
+struct FixedLevels {
+  Level civil{6}, nautical{12}, astronomical{18}, meridian = Level::meridian();
+};
+
+const FixedLevels& fixedLevels() {
+  static const FixedLevels levels;
+  return levels;
+}
 
 }  // namespace
 
@@ -37,58 +45,67 @@ void SkyState::take(const Event& event) {
 class EventFinder::Listing {
  public:
   Listing(const EventFinder& finder, const Sky& sky, Findings& findings)
-      : _finder(finder),
-        _sky(sky),
+      : _sky(sky),
         _sun(sky, Body::sun, finder._observer),
         _moon(sky, Body::moon, finder._observer),
         _events(findings.events) {
-    if (findings.before) return;
-    findings.before = {_sun.startsAbove(finder._sun), _moon.startsAbove(finder._moon),
-                       !_sun.startsAbove(astronomical)};
+    const FixedLevels& fixed = fixedLevels();
+    if (!findings.before) {
+      findings.before = {_sun.startsAbove(finder._sun), _moon.startsAbove(finder._moon),
+                         !_sun.startsAbove(fixed.astronomical)};
+    }
+    using enum EventKind;
+    const Wanted& wanted = finder._wanted;
+    if (wanted.sun) addLine({Body::sun, &finder._sun, rise, set});
+    if (wanted.moon) addLine({Body::moon, &finder._moon, rise, set});
+    if (wanted.civil) addLine({Body::sun, &fixed.civil, civilDawn, civilDusk});
+    if (wanted.nautical) addLine({Body::sun, &fixed.nautical, nauticalDawn, nauticalDusk});
+    if (wanted.astronomical) addLine({Body::sun, &fixed.astronomical, astronomicalDawn, astronomicalDusk});
+    if (wanted.sunTransit) addLine({Body::sun, &fixed.meridian, transit, transit});
+    if (wanted.moonTransit) addLine({Body::moon, &fixed.meridian, transit, transit});
   }
 
+  /// A day at a time: its passages are enough to be found side by side, and few to be put into order.
   void run() {
-    const Wanted& wanted = _finder._wanted;
-    using enum EventKind;
-    for (_block = 0; _block < _sky.blockCount(); ++_block) {
-      const std::size_t first = _events.size();
-      if (wanted.sun) addPassages(_sun, Body::sun, _finder._sun, rise, set);
-      if (wanted.moon) addPassages(_moon, Body::moon, _finder._moon, rise, set);
-      if (wanted.civil) addPassages(_sun, Body::sun, civil, civilDawn, civilDusk);
-      if (wanted.nautical) addPassages(_sun, Body::sun, nautical, nauticalDawn, nauticalDusk);
-      if (wanted.astronomical) addPassages(_sun, Body::sun, astronomical, astronomicalDawn, astronomicalDusk);
-      if (wanted.sunTransit) addTransits(_sun, Body::sun);
-      if (wanted.moonTransit) addTransits(_moon, Body::moon);
-      sortFrom(first);
+    constexpr std::size_t samplesOfDay = 12;
+    const std::size_t end = _sky.sampleCount() - 1;
+    for (std::size_t sample = 0; sample < end; sample += samplesOfDay) {
+      addEvents(sample, std::min(sample + samplesOfDay, end));
     }
   }
 
  private:
-  void addPassages(const Course& course, Body body, const Mark& mark, EventKind rising, EventKind setting) {
+  /// A level that a body passes, and what it is called.
+  struct Line {
+    Body body;
+    const Level* level;
+    EventKind rising, setting;
+  };
+
+  void addLine(const Line& line) { _lines[_lineCount++] = line; }
+
+  void addEvents(std::size_t firstSample, std::size_t lastSample) {
     _passages.clear();
-    course.addPassages(_block, mark, _passages);
-    for (const Passage& passage : _passages) {
-      add(passage, body, passage.isRising ? rising : setting, mark.altitude(passage.local.distance()));
+    for (std::size_t k = 0; k < _lineCount; ++k) {
+      const Course& course = _lines[k].body == Body::sun ? _sun : _moon;
+      course.addPassages(*_lines[k].level, k, firstSample, lastSample, _passages);
     }
+    find(_passages);
+    const std::size_t first = _events.size();
+    for (const Passage& passage : _passages) _events.push_back(eventOf(passage));
+    sortFrom(first);
   }
 
-  void addTransits(const Course& course, Body body) {
-    _passages.clear();
-    course.addTransits(_block, _passages);
-    for (const Passage& passage : _passages) {
-      add(passage, body, EventKind::transit, std::asin(passage.local.up / passage.local.distance()) / degree);
-    }
+  Event eventOf(const Passage& passage) const {
+    const Line& line = _lines[passage.line];
+    return {.at = _sky.timeOf(passage.sample) + Seconds(passage.seconds),
+            .body = line.body,
+            .kind = passage.isRising ? line.rising : line.setting,
+            .azimuth = azimuthOf(passage.local),
+            .altitude = line.level->apparentAltitudeOf(passage.local)};
   }
 
-  void add(const Passage& passage, Body body, EventKind kind, double altitude) {
-    _events.push_back({.at = _sky.startOf(_block) + Seconds(passage.seconds),
-                       .body = body,
-                       .kind = kind,
-                       .azimuth = azimuthOf(passage.local),
-                       .altitude = apparentAltitude(altitude)});
-  }
-
-  /// A block has few events, mostly in order, and those of one time keep theirs.
+  /// By insertion; events of one time keep their order.
   void sortFrom(std::size_t first) {
     const auto isEarlier = [](const Event& a, const Event& b) { return a.at < b.at; };
     const auto begin = _events.begin() + static_cast<std::ptrdiff_t>(first);
@@ -97,18 +114,18 @@ class EventFinder::Listing {
     }
   }
 
-  const EventFinder& _finder;
   const Sky& _sky;
   Course _sun, _moon;
   std::vector<Event>& _events;
+  std::array<Line, 7> _lines;
+  std::size_t _lineCount = 0;
   std::vector<Passage> _passages;
-  std::size_t _block = 0;
 };
 
 EventFinder::EventFinder(const Place& place, const Convention& convention, const Wanted& wanted)
     : _observer(place),
-      _sun(horizonMark(Body::sun, place, convention)),
-      _moon(horizonMark(Body::moon, place, convention)),
+      _sun(horizonOf(Body::sun, place, convention)),
+      _moon(horizonOf(Body::moon, place, convention)),
       _wanted(wanted) {}
 
 void EventFinder::add(const Sky& sky, Findings& findings) const { Listing(*this, sky, findings).run(); }

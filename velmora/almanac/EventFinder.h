@@ -3,8 +3,8 @@
 #include <optional>
 #include <vector>
 
-#include <velmora/almanac/Course.h>
 #include <velmora/almanac/Events.h>
+#include <velmora/almanac/Level.h>
 #include <velmora/almanac/Observer.h>
 #include <velmora/almanac/Place.h>
 #include <velmora/almanac/Sky.h>
@@ -45,7 +45,7 @@ class EventFinder {
   class Listing;
 
   Observer _observer;
-  Mark _sun, _moon;
+  Level _sun, _moon;
   Wanted _wanted;
 };
 

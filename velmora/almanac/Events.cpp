@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include <velmora/almanac/Course.h>
 #include <velmora/almanac/DayRecord.h>
 #include <velmora/almanac/EventFinder.h>
 #include <velmora/almanac/Refraction.h>
@@ -166,18 +167,15 @@ std::vector<Crossing> crossings(const Place& place, Body body, double altitude, 
   constexpr double zenith = 90;
   if (!isValid(place) || !(std::abs(altitude) <= zenith) || !isCovered(interval)) return {};
   const Observer observer(place);
-  const Mark mark(-trueAltitude(altitude));
+  const Level level(-trueAltitude(altitude));
   std::vector<Crossing> found;
-  std::vector<Passage> passages;
   forEachSky(pathsOver(interval), interval, [&](const Sky& sky) {
-    const Course course(sky, body, observer);
-    for (std::size_t block = 0; block < sky.blockCount(); ++block) {
-      passages.clear();
-      course.addPassages(block, mark, passages);
-      for (const Passage& passage : passages) {
-        const Instant at = sky.startOf(block) + Seconds(passage.seconds);
-        if (from <= at && at < to) found.push_back({at, azimuthOf(passage.local), passage.isRising});
-      }
+    std::vector<Passage> passages;
+    Course(sky, body, observer).addPassages(level, 0, 0, sky.sampleCount() - 1, passages);
+    find(passages);
+    for (const Passage& passage : passages) {
+      const Instant at = sky.timeOf(passage.sample) + Seconds(passage.seconds);
+      if (from <= at && at < to) found.push_back({at, azimuthOf(passage.local), passage.isRising});
     }
   });
   return found;

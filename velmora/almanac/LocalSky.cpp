@@ -21,7 +21,7 @@ LocalSky::LocalSky(const EclipseSky& sky, Body body, const Place& place)
       _body(body),
       _observer(place),
       _longitude(place.longitude * degree),
-      _horizon(horizonMark(body, place)) {}
+      _horizon(horizonOf(body, place)) {}
 
 Motion LocalSky::seen(const Motion& geocentric, double seconds) const {
   const double angle = _sky.siderealTime(seconds) + _longitude;
@@ -35,21 +35,15 @@ Local LocalSky::direction(double seconds) const {
   return _observer.seen(turned(body.at, std::cos(angle), std::sin(angle)));
 }
 
-/// The difference of two sines.
-double LocalSky::heightOverMark(const Local& direction) const {
-  const double inverseDistance = 1 / direction.distance();
-  return direction.up * inverseDistance - _horizon.sineOfAltitude(inverseDistance);
-}
-
 EclipseMoment LocalSky::moment(double seconds) const {
   const Local local = direction(seconds);
   const double altitude = std::asin(local.up / local.distance()) / degree;
-  return {_sky.instant(seconds), apparentAltitude(altitude), azimuthOf(local), heightOverMark(local) >= 0};
+  return {_sky.instant(seconds), apparentAltitude(altitude), azimuthOf(local), _horizon.heightOf(local) >= 0};
 }
 
 std::vector<double> LocalSky::horizonPassages(double from, double to) const {
   std::vector<double> passages;
-  addPassages({from, heightOverMark(from)}, {to, heightOverMark(to)}, passages);
+  addPassages({from, height(from)}, {to, height(to)}, passages);
   return passages;
 }
 
@@ -69,7 +63,7 @@ void LocalSky::addPassages(const Sample& from, const Sample& to, std::vector<dou
     if (duration < 0.25 || nearest > greatestCurvature * duration * duration / 8) return;
   }
   const double seconds = (from.seconds + to.seconds) / 2;
-  const Sample middle{seconds, heightOverMark(seconds)};
+  const Sample middle{seconds, height(seconds)};
   addPassages(from, middle, passages);
   addPassages(middle, to, passages);
 }
@@ -78,7 +72,7 @@ void LocalSky::addPassages(const Sample& from, const Sample& to, std::vector<dou
 double LocalSky::passage(Sample from, Sample to) const {
   for (;;) {
     const double seconds = to.seconds - to.height * (to.seconds - from.seconds) / (to.height - from.height);
-    const Sample sample{seconds, heightOverMark(seconds)};
+    const Sample sample{seconds, height(seconds)};
     const bool hasPassed = (sample.height < 0) != (to.height < 0);
     if (std::abs(seconds - to.seconds) < 0.01) return seconds;
     if (hasPassed) {

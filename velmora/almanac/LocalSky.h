@@ -4,7 +4,7 @@
 
 #include <velmora/almanac/EclipseSky.h>
 #include <velmora/almanac/Eclipses.h>
-#include <velmora/almanac/Mark.h>
+#include <velmora/almanac/Level.h>
 #include <velmora/almanac/Observer.h>
 
 namespace [[gnu::visibility("hidden")]] velmora {
@@ -25,8 +25,7 @@ class LocalSky {
 
  private:
   Local direction(double seconds) const;
-  double heightOverMark(const Local& direction) const;
-  double heightOverMark(double seconds) const { return heightOverMark(direction(seconds)); }
+  double height(double seconds) const { return _horizon.heightOf(direction(seconds)); }
 
   struct Sample {
     double seconds, height;
@@ -38,7 +37,7 @@ class LocalSky {
   Body _body;
   Observer _observer;
   double _longitude;  // radians
-  Mark _horizon;
+  Level _horizon;
 };
 
 }  // namespace almanac

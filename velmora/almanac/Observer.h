@@ -28,9 +28,20 @@ struct Observer {
 
   /// What lies at a point of that frame, kilometres, as seen from the place.
   Local seen(const ephemeris::Vector& point) const {
-    const double outward = cosLongitude * point.x + sinLongitude * point.y - equatorial;
-    const double northward = point.z - polar;
-    return {cosLongitude * point.y - sinLongitude * point.x, cosLatitude * northward - sinLatitude * outward,
+    return alongAxes(cosLongitude * point.x + sinLongitude * point.y - equatorial,
+                     cosLongitude * point.y - sinLongitude * point.x, point.z - polar);
+  }
+  /// A vector of that frame by the directions of the place.
+  Local along(const ephemeris::Vector& vector) const {
+    return alongAxes(cosLongitude * vector.x + sinLongitude * vector.y,
+                     cosLongitude * vector.y - sinLongitude * vector.x, vector.z);
+  }
+  /// The part of a vector of the place that points away from the Earth's axis.
+  double outward(const Local& local) const { return cosLatitude * local.up - sinLatitude * local.north; }
+
+ private:
+  Local alongAxes(double outward, double east, double northward) const {
+    return {east, cosLatitude * northward - sinLatitude * outward,
             cosLatitude * outward + sinLatitude * northward};
   }
 };

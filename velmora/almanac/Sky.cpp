@@ -4,16 +4,8 @@
 
 namespace [[gnu::visibility("hidden")]] velmora {
 namespace almanac {
-namespace {
 
 using ephemeris::Body;
-using ephemeris::Vector;
-
-/// Radians that the Earth turns from the mean equinox in a second of UT1: the rate of its rotation angle, and
-/// that of the precession in right ascension (IAU 2006).
-constexpr double turnPerSecond = 7.29211514670698e-5 + 7.0856e-12;
-
-}  // namespace
 
 Sky::Blocks Sky::blocksOf(Instant start, Instant end) {
   const auto first = static_cast<std::int64_t>(std::floor(unixSeconds(start) / blockSeconds));
@@ -21,32 +13,38 @@ Sky::Blocks Sky::blocksOf(Instant start, Instant end) {
   return {first, past - first};
 }
 
-Sky::Sky(const ephemeris::Paths& paths, Blocks blocks) : _paths(&paths), _first(blocks.first) {
-  _turns.resize(static_cast<std::size_t>(blocks.count) + 1);
-  for (std::size_t block = 0; block < _turns.size(); ++block) {
-    _turns[block] = ephemeris::meanSiderealTime(startOf(block));
+Sky::Sky(const ephemeris::Paths& paths, Blocks blocks) : _first(blocks.first) {
+  const std::size_t count = static_cast<std::size_t>(blocks.count) * samplesPerBlock + 1;
+  _turns.reserve(count);
+  const Turn step = Turn::ofSmall(turnPerSecond * sampleSeconds);
+  for (std::size_t sample = 0; sample < count; ++sample) {
+    if (sample % samplesPerBlock == 0) {
+      const double angle = ephemeris::meanSiderealTime(timeOf(sample));
+      _turns.push_back({std::cos(angle), std::sin(angle)});
+    } else {
+      _turns.push_back(_turns.back() + step);
+    }
   }
-  sample(Body::sun);
-  sample(Body::moon);
+  _bodies = {over(paths, Body::sun), over(paths, Body::moon)};
 }
 
-Vector Sky::at(Body body, std::size_t block, double seconds) const {
-  const double angle = _turns[block] + turnPerSecond * seconds;
-  return turned(_paths->vector(body, startOf(block) + Seconds(seconds)), std::cos(angle), std::sin(angle));
-}
-
-void Sky::sample(Body body) {
-  Samples& samples = _samples[static_cast<std::size_t>(body)];
-  const auto add = [&](const Vector& v) {
-    samples.x.push_back(v.x);
-    samples.y.push_back(v.y);
-    samples.z.push_back(v.z);
-  };
-  for (std::size_t block = 0; block < blockCount(); ++block) {
-    for (std::size_t k = 0; k < samplesPerBlock; ++k)
-      add(at(body, block, sampleSeconds * static_cast<double>(k)));
+Sky::BodyInSky Sky::over(const ephemeris::Paths& paths, Body body) const {
+  std::vector<Vector> places;  // in the frame of the stars
+  places.reserve(sampleCount());
+  BodyInSky result;
+  result.samples.reserve(sampleCount());
+  for (std::size_t sample = 0; sample < sampleCount(); ++sample) {
+    places.push_back(paths.vector(body, timeOf(sample)));
+    result.samples.push_back(_turns[sample].applied(places.back()));
   }
-  add(at(body, blockCount(), 0));
+  result.pieces.reserve(sampleCount() / samplesPerBlock);
+  for (const Vector* v = places.data(); v + samplesPerBlock < places.data() + places.size();
+       v += samplesPerBlock) {
+    result.pieces.push_back({.x = Quartic::through(v[0].x, v[1].x, v[2].x, v[3].x, v[4].x),
+                             .y = Quartic::through(v[0].y, v[1].y, v[2].y, v[3].y, v[4].y),
+                             .z = Quartic::through(v[0].z, v[1].z, v[2].z, v[3].z, v[4].z)});
+  }
+  return result;
 }
 
 }  // namespace almanac

@@ -5,22 +5,27 @@
 #include <cstdint>
 #include <vector>
 
-#include <velmora/almanac/Observer.h>
+#include <velmora/almanac/Quartic.h>
+#include <velmora/almanac/Vectors.h>
 #include <velmora/ephemeris/Ephemeris.h>
 #include <velmora/platform/time/Instant.h>
 
 namespace [[gnu::visibility("hidden")]] velmora {
 namespace almanac {
 
+/// Radians that the Earth turns from the mean equinox in a second of UT1: the rate of its rotation angle, and
+/// that of the precession in right ascension (IAU 2006).
+inline constexpr double turnPerSecond = 7.29211514670698e-5 + 7.0856e-12;
+
 /// The Sun and the Moon in the frame that turns with the Earth, the same for every place: samples every two
 /// hours, and any moment between them. Samples and blocks of them lie on a grid that is fixed in time, so
-/// that what is found between two of them never depends on the interval that was asked for.
+/// that what is found between two samples never depends on the interval that was asked for.
 class Sky {
  public:
   static constexpr double sampleSeconds = 7200;
-  static constexpr std::size_t samplesPerBlock = 3;  ///< and the first of the next block
+  static constexpr std::size_t samplesPerBlock = 4;
   static constexpr double blockSeconds = sampleSeconds * samplesPerBlock;
-  static constexpr std::int64_t maximumBlocks = 128;  ///< of one sky: 32 days
+  static constexpr std::int64_t maximumBlocks = 96;  ///< of one sky: 32 days
   static constexpr std::size_t maximumSamples = maximumBlocks * samplesPerBlock + 1;
 
   /// The blocks that a stretch of time touches, numbered from 1970.
@@ -28,7 +33,6 @@ class Sky {
     std::int64_t first, count;
   };
   static Blocks blocksOf(Instant start, Instant end);
-
   static Instant startOfBlock(std::int64_t block) {
     return instantFromUnixSeconds(blockSeconds * static_cast<double>(block));
   }
@@ -36,26 +40,66 @@ class Sky {
   /// Of `maximumBlocks` at most, which the paths must cover.
   Sky(const ephemeris::Paths& paths, Blocks blocks);
 
-  std::size_t blockCount() const { return _turns.size() - 1; }
-  Instant startOf(std::size_t block) const { return startOfBlock(_first + static_cast<std::int64_t>(block)); }
+  /// Those of all blocks, and the first of the block after.
+  std::size_t sampleCount() const { return _turns.size(); }
+  Instant timeOf(std::size_t sample) const {
+    return startOfBlock(_first) + Seconds(sampleSeconds * static_cast<double>(sample));
+  }
 
-  /// The coordinates of a body at every sample, kilometres.
-  struct Samples {
-    std::vector<double> x, y, z;
-  };
-  const Samples& samples(ephemeris::Body body) const { return _samples[static_cast<std::size_t>(body)]; }
+  /// Where the body is at every sample, kilometres.
+  const std::vector<Vector>& samples(ephemeris::Body body) const { return of(body).samples; }
 
-  /// Where the body is, that many seconds after the start of the block.
-  ephemeris::Vector at(ephemeris::Body body, std::size_t block, double seconds) const;
+  /// Where the body is, that many seconds after a sample and before the next, and how it moves: km, km/s.
+  Motion motion(ephemeris::Body body, std::size_t sample, double seconds) const {
+    const Piece& piece = of(body).pieces[sample / samplesPerBlock];
+    const double u = static_cast<double>(sample % samplesPerBlock) + seconds / sampleSeconds;
+    const Turn turn = _turns[sample] + Turn::ofSmall(turnPerSecond * seconds);
+    const Vector place = turn.applied({piece.x.at(u), piece.y.at(u), piece.z.at(u)});
+    const Vector own = turn.applied({piece.x.slope(u), piece.y.slope(u), piece.z.slope(u)});
+    constexpr double perSecond = 1 / sampleSeconds;
+    return {place,
+            {own.x * perSecond + turnPerSecond * place.y, own.y * perSecond - turnPerSecond * place.x,
+             own.z * perSecond}};
+  }
 
  private:
-  void sample(ephemeris::Body body);
+  /// How far the frame has turned, by cosine and sine.
+  struct Turn {
+    double cosine, sine;
 
-  const ephemeris::Paths* _paths;
+    /// Of up to 0.6 radians, by Taylor's series.
+    static Turn ofSmall(double x) {
+      const double s = x * x;
+      constexpr double c2 = -1.0 / 2, c4 = 1.0 / 24, c6 = -1.0 / 720, c8 = 1.0 / 40320, c10 = -1.0 / 3628800,
+                       c12 = 1.0 / 479001600, c14 = -1.0 / 87178291200;
+      constexpr double s3 = -1.0 / 6, s5 = 1.0 / 120, s7 = -1.0 / 5040, s9 = 1.0 / 362880,
+                       s11 = -1.0 / 39916800, s13 = 1.0 / 6227020800;
+      return {1 + s * (c2 + s * (c4 + s * (c6 + s * (c8 + s * (c10 + s * (c12 + s * c14)))))),
+              x + x * s * (s3 + s * (s5 + s * (s7 + s * (s9 + s * (s11 + s * s13)))))};
+    }
+    Turn operator+(const Turn& b) const {
+      return {cosine * b.cosine - sine * b.sine, sine * b.cosine + cosine * b.sine};
+    }
+    Vector applied(const Vector& v) const {
+      return {cosine * v.x + sine * v.y, cosine * v.y - sine * v.x, v.z};
+    }
+  };
+  /// A block of a path in the frame of the stars, where all is slow, over the number of samples since its
+  /// start: 0.0001″ of the Moon at most from the path itself.
+  struct Piece {
+    Quartic x, y, z;
+  };
+  struct BodyInSky {
+    std::vector<Piece> pieces;  ///< one a block
+    std::vector<Vector> samples;
+  };
+
+  const BodyInSky& of(ephemeris::Body body) const { return _bodies[static_cast<std::size_t>(body)]; }
+  BodyInSky over(const ephemeris::Paths& paths, ephemeris::Body body) const;
+
   std::int64_t _first;
-  std::vector<double>
-      _turns;  ///< mean sidereal time at the start of each block and of the one after the last
-  std::array<Samples, 2> _samples;
+  std::vector<Turn> _turns;  ///< at each sample
+  std::array<BodyInSky, 2> _bodies;
 };
 
 }  // namespace almanac
