@@ -9,25 +9,15 @@
 #include <string>
 #include <vector>
 
+#include <tests/resources/StringTables.h>
 #include <tests/resources/WritingScripts.h>
 #include <tests/support/SourceDirectory.h>
-#include <velmora/platform/resources/PropertyList.h>
 
 namespace velmora {
 namespace {
 
-using Texts = std::map<std::string, std::string>;
-
 const std::filesystem::path kLibrary = sourceDirectory() + "/velmora/resources";
 const std::filesystem::path kHost = sourceDirectory() + "/app/resources";
-
-const std::map<std::string, Script> kLanguages = {
-    {"en", Script::latin},        {"de", Script::latin},       {"fr", Script::latin},
-    {"es", Script::latin},        {"it", Script::latin},       {"pt", Script::latin},
-    {"nl", Script::latin},        {"pl", Script::latin},       {"tr", Script::latin},
-    {"ru", Script::cyrillic},     {"ar", Script::arabic},      {"he", Script::hebrew},
-    {"hi", Script::devanagari},   {"ja", Script::japanese},    {"ko", Script::korean},
-    {"zh-Hans", Script::chinese}, {"zh-Hant", Script::chinese}};
 
 const std::set<std::string> kPhaseNames = {"Full Moon",      "First Quarter",   "Last Quarter",
                                            "New Moon",       "Waxing Crescent", "Waxing Gibbous",
@@ -54,27 +44,6 @@ std::set<std::string> united(std::initializer_list<std::set<std::string>> sets) 
 const std::set<std::string> kLibraryKeys =
     united({kPhaseNames, kEclipseTitles, kUpperCaseTexts, kOtherViewTexts, kSpokenTexts, kDirections});
 
-/// The texts that a bundle ships in a language.
-Texts textsOf(const std::filesystem::path& bundle, const std::string& language) {
-  const std::filesystem::path file = bundle / (language + ".lproj") / "Localizable.strings";
-  const std::optional<PropertyList> list = PropertyList::fromFile(file);
-  Texts texts;
-  if (!list || !list->dictionary()) {
-    ADD_FAILURE() << file << " is no string table";
-    return texts;
-  }
-  for (const auto& [key, value] : *list->dictionary()) {
-    if (value.text()) texts.emplace(key, *value.text());
-  }
-  return texts;
-}
-
-std::set<std::string> keysOf(const Texts& texts) {
-  std::set<std::string> keys;
-  for (const auto& [key, text] : texts) keys.insert(key);
-  return keys;
-}
-
 std::set<std::string> languagesIn(const std::filesystem::path& bundle) {
   std::set<std::string> languages;
   for (const auto& entry : std::filesystem::directory_iterator(bundle)) {
@@ -94,15 +63,6 @@ void forEachText(const Check& check) {
       }
     }
   }
-}
-
-/// What stands to be filled in: each percent sign with the character after it, in order.
-std::vector<std::string> placeholdersOf(const std::string& text) {
-  std::vector<std::string> placeholders;
-  for (std::size_t at = text.find('%'); at != std::string::npos; at = text.find('%', at + 1)) {
-    placeholders.push_back(text.substr(at, 2));
-  }
-  return placeholders;
 }
 
 bool hasAnyOf(const std::string& text, std::u32string_view characters) {

@@ -114,5 +114,20 @@ TEST(Locale, WithoutAChoiceTheEnvironmentNamesTheCurrentLocale) {
   }
 }
 
+TEST(LocalePlurals, AreThoseOfTheLanguage) {
+  const auto category = [](const char* locale, std::int64_t count) {
+    return Locale(locale).pluralCategory(count);
+  };
+  EXPECT_EQ(category("en_US", 1), "one");
+  EXPECT_EQ(category("en_US", 0), "other");
+  EXPECT_EQ(category("fr_FR", 0), "one");
+  EXPECT_EQ(category("pl_PL", 22), "few");
+  EXPECT_EQ(category("ru_RU", 12), "many");
+  EXPECT_EQ(category("ar_EG", 2), "two");
+  EXPECT_EQ(category("ja_JP", 1), "other");
+  EXPECT_EQ(category("no locale", 1), "other");
+  EXPECT_EQ(category("en_US", 1'000'000'000'000), "other");
+}
+
 }  // namespace
 }  // namespace velmora

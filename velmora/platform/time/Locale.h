@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 
@@ -34,6 +35,10 @@ class Locale {
   /// Whether Chinese characters are written there in their traditional form: as the identifier's script says,
   /// else in Taiwan, Hong Kong and Macao.
   bool writesTraditionalChinese() const;
+
+  /// Which plural form the language takes for that many: "zero", "one", "two", "few", "many" or "other"
+  /// (CLDR).
+  std::string pluralCategory(std::int64_t count) const;
 
   /// Whether clocks are habitually read 0..23 there, or as the override says.
   bool uses24HourClock() const;

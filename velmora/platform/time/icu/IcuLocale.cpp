@@ -1,5 +1,10 @@
 #include <velmora/platform/time/Locale.h>
 
+#include <unicode/plurrule.h>
+
+#include <algorithm>
+#include <limits>
+#include <memory>
 #include <string_view>
 
 #include <velmora/platform/time/icu/IcuSupport.h>
@@ -15,6 +20,15 @@ bool Locale::writesTraditionalChinese() const {
   const std::string_view script = locale.getScript(), region = locale.getCountry();
   if (script == "Hant" || script == "Hans") return script == "Hant";
   return region == "TW" || region == "HK" || region == "MO";
+}
+
+std::string Locale::pluralCategory(std::int64_t count) const {
+  UErrorCode status = U_ZERO_ERROR;
+  const std::unique_ptr<icu::PluralRules> rules(
+      icu::PluralRules::forLocale(canonicalLocale(_identifier), status));
+  if (U_FAILURE(status)) return "other";
+  constexpr std::int64_t largest = std::numeric_limits<std::int32_t>::max();
+  return fromIcu(rules->select(static_cast<std::int32_t>(std::clamp(count, -largest, largest))));
 }
 
 bool Locale::uses24HourClock() const {

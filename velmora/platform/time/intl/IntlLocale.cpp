@@ -8,6 +8,7 @@ extern "C" {
 char* velmora_locale_parts(const char* identifier);
 int velmora_is_right_to_left(const char* identifier);
 int velmora_counts_to_24(const char* identifier);
+char* velmora_plural_category(const char* identifier, double count);
 }
 
 namespace velmora {
@@ -33,6 +34,10 @@ bool Locale::writesTraditionalChinese() const {
   const LocaleParts parts = partsOf(_identifier);
   if (parts.script == "Hant" || parts.script == "Hans") return parts.script == "Hant";
   return parts.region == "TW" || parts.region == "HK" || parts.region == "MO";
+}
+
+std::string Locale::pluralCategory(std::int64_t count) const {
+  return takeText(velmora_plural_category(_identifier.c_str(), static_cast<double>(count)));
 }
 
 bool Locale::uses24HourClock() const {

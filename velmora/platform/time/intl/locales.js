@@ -54,6 +54,15 @@ mergeInto(LibraryManager.library, {
     return 'Adlm Arab Aran Hebr Mand Mend Nkoo Rohg Samr Syrc Thaa Yezi'.split(' ').includes(script) ? 1 : 0;
   },
 
+  velmora_plural_category__deps: ['$velmoraKeep', '$velmoraTag'],
+  velmora_plural_category: function(identifier, count) {
+    var tag = velmoraTag(UTF8ToString(identifier));
+    var rules = velmoraKeep('plural ' + tag, function() {
+      return new Intl.PluralRules(tag);
+    });
+    return allocateUTF8(rules.select(count));
+  },
+
   velmora_counts_to_24__deps: ['$velmoraKeep', '$velmoraTag'],
   velmora_counts_to_24: function(identifier) {
     var tag = velmoraTag(UTF8ToString(identifier));

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <cstdint>
+#include <initializer_list>
+#include <string>
+#include <string_view>
+
+namespace velmora {
+
+/// The words of an almanac in the language of the current locale, from the library's string tables
+/// "Almanac.strings": the text under that English one, with the parts put where %1, %2 … stand. The English
+/// text itself where the language has none.
+std::string words(std::string_view english, std::initializer_list<std::string_view> parts = {});
+
+/// The same for a text that counts something, in the language's plural form for that many: the count stands
+/// at %1. "in %1 days": "in 1 day", "za 5 dni".
+std::string wordsForCount(std::string_view english, std::int64_t count);
+
+}  // namespace velmora
