@@ -3,7 +3,7 @@
 #include <memory>
 #include <optional>
 #include <span>
-#include <vector>
+#include <utility>
 
 #include <velmora/platform/time/Instant.h>
 
@@ -47,13 +47,15 @@ std::optional<Apparent> apparent(Body body, Instant instant);
 /// size of `instants`.
 void apparent(Body body, std::span<const Instant> instants, std::span<Apparent> out);
 
+struct PathData;
+
 /// The paths of the Sun and the Moon over an interval, prepared once for many questions and places. The
 /// segments lie on a grid that is fixed in time, so that an answer never depends on what was asked before. An
 /// immutable value, usable from any thread.
 class Paths {
  public:
-  /// Of every instant from `from` to `to`, both included, with a margin of a few hours; none where one of
-  /// them is not covered or `to` lies before `from`.
+  /// Of every instant from `from` to `to`, both included, with a margin of eight hours; none where one of them
+  /// is not covered, but that `to` may be `endInstant()`, or `to` lies before `from`.
   static std::optional<Paths> over(Instant from, Instant to);
 
   /// The geocentric apparent place of the body as a vector of the true equator, its x axis turned back along
@@ -64,9 +66,13 @@ class Paths {
   Instant from() const;  ///< the first instant of the interval
   Instant to() const;    ///< the last one
 
+  /// For the almanac, which reads the paths' pieces as they are.
+  const PathData& data() const { return *_data; }
+
  private:
-  struct Segments;
-  std::shared_ptr<const Segments> _segments;
+  explicit Paths(std::shared_ptr<const PathData> data) : _data(std::move(data)) {}
+
+  std::shared_ptr<const PathData> _data;
 };
 
 /// Greenwich mean sidereal time in radians, [0, 2π), by the Earth's rotation of the instant (IAU 2006).

@@ -1,108 +1,136 @@
-#include <algorithm>
-#include <array>
+#include <chrono>
 #include <cmath>
-#include <memory>
-#include <numbers>
-#include <vector>
 
-#include <velmora/ephemeris/Places.h>
-#include <velmora/ephemeris/TimeScales.h>
+#include <velmora/ephemeris/EarthRotation.h>
+#include <velmora/ephemeris/Evaluation.h>
+#include <velmora/ephemeris/PathData.h>
 
 namespace velmora::ephemeris {
 namespace {
 
-constexpr int nodes = 8;
-using Polynomial = std::array<Vector, nodes>;
+using namespace std::chrono;
 
-/// The true equator with the x axis turned back by the equation of the equinoxes.
-Vector vectorAt(Body body, double unix) {
-  const Instant instant = instantFromUnixSeconds(unix);
-  const MeanPlace mean = meanPlace(body, terrestrialCenturies(instant));
-  const Nutation n = nutation(instant);
-  const double longitude = mean.longitude + n.longitude;
-  const double cosE = std::cos(n.trueObliquity), sinE = std::sin(n.trueObliquity);
-  const double x = std::cos(mean.latitude) * std::cos(longitude);
-  const double y = std::cos(mean.latitude) * std::sin(longitude), z = std::sin(mean.latitude);
-  const double equatorX = x, equatorY = cosE * y - sinE * z, north = sinE * y + cosE * z;
-  const double back = n.longitude * cosE;
-  const double c = std::cos(back), s = std::sin(back), r = mean.distance;
-  return {r * (c * equatorX + s * equatorY), r * (c * equatorY - s * equatorX), r * north};
-}
+constexpr auto margin = hours(8);
 
-Polynomial chebyshev(Body body, double start, double length) {
-  constexpr double pi = std::numbers::pi;
-  std::array<Vector, nodes> samples;
-  for (int j = 0; j < nodes; ++j) {
-    const double x = std::cos(pi * (j + 0.5) / nodes);
-    samples[static_cast<std::size_t>(j)] = vectorAt(body, start + 0.5 * length * (1 + x));
+using Square = std::array<std::array<double, nodesOfSegment>, nodesOfSegment>;
+
+/// Chebyshev's nodes, x from −1 to 1.
+constexpr std::array<double, nodesOfSegment> nodes = [] {
+  std::array<double, nodesOfSegment> result{};
+  for (std::size_t i = 0; i < nodesOfSegment; ++i) {
+    result[i] = -cosineAndSine((static_cast<double>(i) + 0.5) / (2.0 * nodesOfSegment)).re;
   }
-  Polynomial coefficients{};
-  for (int k = 0; k < nodes; ++k) {
-    Vector& c = coefficients[static_cast<std::size_t>(k)];
-    for (int j = 0; j < nodes; ++j) {
-      const double w = (k == 0 ? 1.0 : 2.0) / nodes * std::cos(pi * k * (j + 0.5) / nodes);
-      const Vector& v = samples[static_cast<std::size_t>(j)];
-      c = {c.x + w * v.x, c.y + w * v.y, c.z + w * v.z};
+  return result;
+}();
+
+/// The coefficients of the powers of x in Chebyshev's polynomials, a row each.
+constexpr Square chebyshev = [] {
+  Square rows{};
+  rows[0][0] = rows[1][1] = 1;
+  for (std::size_t n = 2; n < nodesOfSegment; ++n) {
+    for (std::size_t power = 0; power < nodesOfSegment; ++power) {
+      rows[n][power] = (power > 0 ? 2 * rows[n - 1][power - 1] : 0) - rows[n - 2][power];
     }
   }
-  return coefficients;
+  return rows;
+}();
+
+/// What the value at a node (column) gives to the coefficient of a power of x (row) of the polynomial through
+/// all.
+constexpr Square shares = [] {
+  Square result{};
+  for (std::size_t node = 0; node < nodesOfSegment; ++node) {
+    for (std::size_t n = 0; n < nodesOfSegment; ++n) {
+      const double weight = polynomial(chebyshev[n], nodes[node]) * (n == 0 ? 1.0 : 2.0) / nodesOfSegment;
+      for (std::size_t power = 0; power < nodesOfSegment; ++power) {
+        result[power][node] += weight * chebyshev[n][power];
+      }
+    }
+  }
+  return result;
+}();
+
+/// The places of the body at eight times in the frame of `Paths::vector`.
+Rectangular<Doubles> placesAt(Body body, const Doubles& centuries) {
+  const auto angles = anglesAt(centuries);
+  const auto tilted = tilt(centuries, angles);
+  const auto place = ecliptical(body, centuries, angles);
+  const auto direction = equatorial(place.longitude + tilted.longitude, place.latitude, tilted.trueObliquity);
+  // The equation of the equinoxes, of which the cube is nothing.
+  const Doubles turn = tilted.longitude * cosineAndSine(tilted.trueObliquity).re * radiansOfTurn;
+  const Doubles cosine = 1.0 - 0.5 * turn * turn;
+  return {(direction.x * cosine + direction.y * turn) * place.distance,
+          (direction.y * cosine - direction.x * turn) * place.distance, direction.z * place.distance};
 }
 
-Vector value(const Polynomial& p, double x) {
-  Vector b1{}, b2{};
-  for (std::size_t k = nodes; k-- > 1;) {
-    const Vector b = {2 * x * b1.x - b2.x + p[k].x, 2 * x * b1.y - b2.y + p[k].y,
-                      2 * x * b1.z - b2.z + p[k].z};
-    b2 = b1;
-    b1 = b;
+Segment segmentOf(Body body, double number) {
+  static_assert(nodesOfSegment == laneCount);
+  std::array<double, laneCount> centuries;
+  for (std::size_t i = 0; i < laneCount; ++i) {
+    centuries[i] = (number + (nodes[i] + 1) / 2) * (segmentSeconds(body) / secondsPerCentury);
   }
-  return {x * b1.x - b2.x + p[0].x, x * b1.y - b2.y + p[0].y, x * b1.z - b2.z + p[0].z};
+  const auto places = placesAt(body, doublesOf(centuries.data()));
+  Segment segment{};
+  for (std::size_t power = 0; power < nodesOfSegment; ++power) {
+    for (std::size_t i = 0; i < laneCount; ++i) {
+      const Vector place = {lane(places.x, i), lane(places.y, i), lane(places.z, i)};
+      segment.coefficients[power] = segment.coefficients[power] + place * shares[power][i];
+    }
+  }
+  return segment;
+}
+
+std::vector<Segment> segmentsOf(Body body, double first, double last) {
+  std::vector<Segment> segments;
+  segments.reserve(static_cast<std::size_t>(last - first) + 1);
+  for (double number = first; number <= last; ++number) segments.push_back(segmentOf(body, number));
+  return segments;
+}
+
+/// The stretch between two instants that no jump or bend of a time scale divides.
+Stretch stretchOf(Instant since, Instant until) {
+  const Instant middle = since + (until - since) / 2;
+  const double seconds = (middle - since).count();
+  const double terrestrial = terrestrialSeconds(since), sidereal = siderealTurns(since);
+  return {since, terrestrial, (terrestrialSeconds(middle) - terrestrial) / seconds, sidereal,
+          (siderealTurns(middle) - sidereal) / seconds};
+}
+
+/// Time scales jump and bend at the beginnings of half-years alone.
+std::vector<Stretch> stretchesOf(Instant from, Instant to) {
+  std::vector<Stretch> stretches;
+  year_month_day date(floor<days>(from));
+  date = date.year() / (date.month() < July ? January : July) / 1;
+  while (sys_days(date) <= to) {
+    const year_month_day next = date + months(6);
+    stretches.push_back(stretchOf(sys_days(date), sys_days(next)));
+    date = next;
+  }
+  return stretches;
 }
 
 }  // namespace
 
-struct Paths::Segments {
-  struct Track {
-    double first = 0.0, length = 0.0;
-    std::vector<Polynomial> polynomials;
-  };
-  Track sun, moon;
-  Instant from, to;
-
-  static Track track(Body body, double from, double to, double length) {
-    Track made{std::floor(from / length) * length, length, {}};
-    for (double start = made.first; start <= to; start += length) {
-      made.polynomials.push_back(chebyshev(body, start, length));
-    }
-    return made;
-  }
-};
-
 std::optional<Paths> Paths::over(Instant from, Instant to) {
   if (!covers(from) || !(covers(to) || to == endInstant()) || to < from) return std::nullopt;
-  constexpr double margin = 6 * 3600.0, moonDays = 4 * secondsPerDay, sunDays = 16 * secondsPerDay;
-  auto segments = std::make_shared<Segments>();
-  const double start = unixSeconds(from) - margin, end = unixSeconds(to) + margin;
-  segments->from = from;
-  segments->to = to;
-  segments->sun = Segments::track(Body::sun, start, end, sunDays);
-  segments->moon = Segments::track(Body::moon, start, end, moonDays);
-  Paths paths;
-  paths._segments = std::move(segments);
-  return paths;
+  PathData data;
+  data.from = from;
+  data.to = to;
+  data.stretches = stretchesOf(from - margin, to + margin);
+  const double begin = terrestrialSeconds(from - margin), end = terrestrialSeconds(to + margin);
+  data.firstMoonSegment = std::floor(segmentsAt(Body::moon, begin));
+  data.firstSunSegment = std::floor(segmentsAt(Body::sun, begin));
+  data.moonSegments = segmentsOf(Body::moon, data.firstMoonSegment, std::floor(segmentsAt(Body::moon, end)));
+  data.sunSegments = segmentsOf(Body::sun, data.firstSunSegment, std::floor(segmentsAt(Body::sun, end)));
+  return Paths(std::make_shared<const PathData>(std::move(data)));
 }
 
 Vector Paths::vector(Body body, Instant instant) const {
-  const Segments::Track& track = body == Body::sun ? _segments->sun : _segments->moon;
-  const double elapsed = unixSeconds(instant) - track.first;
-  const double index =
-      std::clamp(std::floor(elapsed / track.length), 0.0, static_cast<double>(track.polynomials.size()) - 1);
-  // Exact, so that it does not depend on where the track begins.
-  const double inSegment = elapsed - index * track.length;
-  return value(track.polynomials[static_cast<std::size_t>(index)], 2 * inSegment / track.length - 1);
+  return vectorAt(*_data, body, terrestrialAt(stretchAt(*_data, instant), instant));
 }
 
-Instant Paths::from() const { return _segments->from; }
-Instant Paths::to() const { return _segments->to; }
+Instant Paths::from() const { return _data->from; }
+
+Instant Paths::to() const { return _data->to; }
 
 }  // namespace velmora::ephemeris
