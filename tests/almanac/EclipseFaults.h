@@ -95,8 +95,11 @@ class EclipseFaults {
           local.best.at <= local.visibleTo && local.visibleTo <= last.at)) {
       return "best seen out of the time in which it is visible";
     }
-    if (!(local.bestMagnitude > 0 && local.bestMagnitude <= local.magnitude))
+    // A shadow goes on to widen a little where the Moon is nearest to its axis.
+    constexpr double widening = 1e-6;
+    if (!(local.bestMagnitude > 0 && local.bestMagnitude <= local.magnitude + widening)) {
       return "more seen than there is";
+    }
     if (local.maximum.isUp && (local.best != local.maximum || local.bestMagnitude != local.magnitude)) {
       return "a maximum that is seen and not the best";
     }
