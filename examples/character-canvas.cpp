@@ -8,6 +8,7 @@
 #include <velmora/views/MoonPhaseIconView.h>
 
 #include "CharacterCanvas.h"
+#include "SelectedDay.h"
 
 namespace {
 
@@ -29,7 +30,7 @@ int main(int count, char** arguments) {
     return 2;
   }
   velmora::MoonPhaseData& moon = velmora::MoonPhaseData::sharedInstance();
-  moon.changeSelectedDay(std::atoi(arguments[3]), std::atoi(arguments[2]), std::atoi(arguments[1]));
+  if (!selectDay(moon, std::atoi(arguments[3]), std::atoi(arguments[2]), std::atoi(arguments[1]))) return 1;
 
   const auto disc = std::make_shared<velmora::MoonPhaseIconView>();
   disc->setFrame({0, 0, side, side});

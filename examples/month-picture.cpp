@@ -11,6 +11,8 @@
 #include <velmora/service/MoonPhaseData.h>
 #include <velmora/views/iPhoneCalendarView.h>
 
+#include "SelectedDay.h"
+
 namespace {
 
 constexpr velmora::Size size = {390, 540};  // in points
@@ -31,15 +33,19 @@ int main(int count, char** arguments) {
   }
   velmora::MoonPhaseData& moon = velmora::MoonPhaseData::sharedInstance();
   moon.SetSelectedDate(velmora::Clock::now());
-  if (count == 4) moon.changeSelectedDay(1, std::atoi(arguments[3]), std::atoi(arguments[2]));
+  const bool isMonthGiven = count == 4;
+  const std::int64_t day = isMonthGiven ? 1 : moon.currentDay();
+  const std::int64_t month = isMonthGiven ? std::atoi(arguments[3]) : moon.currentMonth();
+  const std::int64_t year = isMonthGiven ? std::atoi(arguments[2]) : moon.currentYear();
+  if (!selectDay(moon, day, month, year)) return 1;
 
   velmora::Device::setCurrent({.screenWidth = size.width, .screenScale = pixelsPerPoint});
-  const auto month = std::make_shared<velmora::iPhoneCalendarView>();
-  month->setFrame({0, 0, size.width, size.height});
+  const auto view = std::make_shared<velmora::iPhoneCalendarView>();
+  view->setFrame({0, 0, size.width, size.height});
 
   const std::filesystem::path file = arguments[1];
-  velmora::CairoCanvas canvas(formatOf(file), size, pixelsPerPoint, month->calendarTheme()->backgroundColor);
-  month->render(canvas);
+  velmora::CairoCanvas canvas(formatOf(file), size, pixelsPerPoint, view->calendarTheme()->backgroundColor);
+  view->render(canvas);
   const auto error = canvas.writeFile(file);
   if (error) std::cerr << error->message << '\n';
   return error ? 1 : 0;

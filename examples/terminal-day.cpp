@@ -3,9 +3,12 @@
 #include <cstdlib>
 #include <iostream>
 #include <memory>
+#include <string>
 
 #include <velmora/platform/time/Clock.h>
 #include <velmora/service/MoonPhaseData.h>
+
+#include "SelectedDay.h"
 
 namespace {
 
@@ -15,14 +18,9 @@ std::shared_ptr<velmora::GeoLocationData> reykjavik() {
   return place;
 }
 
-void print(velmora::MoonPhaseData& moon) {
-  const auto day = moon.GetRiseSetPhaseItemForCurrentDate();
-  if (!day) {
-    std::cout << "The tables do not reach that day.\n";
-    return;
-  }
-  const velmora::RiseSetData& times = *day->riseSetData;
-  std::cout << moon.nameForPhase(day->phase).value_or("?") << ", day " << day->moonAge << " of the Moon\n"
+void print(const velmora::RiseSetPhaseItem& day, const std::string& phase) {
+  const velmora::RiseSetData& times = *day.riseSetData;
+  std::cout << phase << ", day " << day.moonAge << " of the Moon\n"
             << "Sun   " << times.sunRiseText << " to " << times.sunSetText << '\n'
             << "Moon  " << times.moonRiseText << " to " << times.moonSetText << '\n';
 }
@@ -32,8 +30,11 @@ void print(velmora::MoonPhaseData& moon) {
 int main(int count, char** arguments) {
   velmora::MoonPhaseData& moon = velmora::MoonPhaseData::sharedInstance();
   moon.SetSelectedLocation(reykjavik(), velmora::Clock::now());
-  if (count == 4) {
-    moon.changeSelectedDay(std::atoi(arguments[3]), std::atoi(arguments[2]), std::atoi(arguments[1]));
-  }
-  print(moon);
+  const bool isDayGiven = count == 4;
+  const std::int64_t day = isDayGiven ? std::atoi(arguments[3]) : moon.currentDay();
+  const std::int64_t month = isDayGiven ? std::atoi(arguments[2]) : moon.currentMonth();
+  const std::int64_t year = isDayGiven ? std::atoi(arguments[1]) : moon.currentYear();
+  if (!selectDay(moon, day, month, year)) return 1;
+  const auto item = moon.GetRiseSetPhaseItemForCurrentDate();
+  print(*item, moon.nameForPhase(item->phase).value_or("?"));
 }

@@ -16,7 +16,7 @@ class ResourceLocation : public testing::Test {
   void TearDown() override { unsetenv(kVariable); }
 
   /// The places with an installed folder that lies under no prefix of this program.
-  static ResourcePlaces uninstalled() { return {kVariable, "no/such/folder"}; }
+  static ResourcePlaces uninstalled() { return {kVariable, "no/such/folder", {}}; }
 
   static std::filesystem::path besideTheCode() {
     return codeDirectories().at(0).parent_path() / "no/such/folder";
@@ -48,6 +48,18 @@ TEST_F(ResourceLocation, IsFoundFromWhereTheCodeLies) {
   places.installed = prefix.parent_path().filename() / places.installed;
   EXPECT_EQ(resourceDirectory(places), code)
       << "three folders under the prefix, as PREFIX/lib/ARCHITECTURE/APPLICATION";
+}
+
+TEST_F(ResourceLocation, TheLastPrefixIsLookedUnderWhenAllElseFails) {
+  const TemporaryFolder prefix;
+  ResourcePlaces places = {kVariable, "no/such/folder", prefix.path()};
+  const std::filesystem::path installed = prefix.path() / places.installed;
+  EXPECT_NE(resourceDirectory(places), installed) << "not installed there";
+  std::filesystem::create_directories(installed);
+  EXPECT_EQ(resourceDirectory(places), installed);
+  places.installed = codeDirectories().at(0).filename();
+  std::filesystem::create_directories(prefix.path() / places.installed);
+  EXPECT_EQ(resourceDirectory(places), codeDirectories().at(0)) << "where the code lies comes first";
 }
 
 TEST_F(ResourceLocation, TheEnvironmentStandsBeforeAnInstallation) {

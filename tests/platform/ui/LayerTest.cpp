@@ -109,6 +109,15 @@ TEST(Layer, PlacesAreConvertedIntoItsOwnCoordinates) {
   EXPECT_EQ(layer.convertFromSuperlayer({15, 27}), (Point{15, 27}));
 }
 
+TEST(Layer, RectanglesAreConvertedIntoTheLayerAbove) {
+  Layer layer;
+  layer.setFrame({10, 20, 40, 30});
+  EXPECT_EQ(layer.convertToSuperlayer({5, 7, 10, 2}), (Rect{15, 27, 10, 2}));
+  layer.setAffineTransform(AffineTransform::rotation(kQuarterTurn));
+  expectNear(layer.convertToSuperlayer({0, 0, 40, 30}), {15, 15, 30, 40});
+  expectNear(layer.convertToSuperlayer({0, 0, 10, 0}), {45, 15, 0, 10});
+}
+
 TEST(Layer, HoldsSublayersUntilTheyAreRemoved) {
   const auto upper = std::make_shared<Layer>();
   const auto lower = std::make_shared<Layer>();

@@ -33,14 +33,16 @@ class KnownBundle {
 };
 
 KnownBundle& libraryBundle() {
-  static KnownBundle bundle(
-      "velmora", {.environmentVariable = "VELMORA_RESOURCES", .installed = VELMORA_INSTALLED_RESOURCES});
+  static KnownBundle bundle("velmora", {.environmentVariable = "VELMORA_RESOURCES",
+                                        .installed = VELMORA_INSTALLED_RESOURCES,
+                                        .lastPrefix = VELMORA_LAST_PREFIX});
   return bundle;
 }
 
 KnownBundle& mainBundle() {
   static KnownBundle bundle("main", {.environmentVariable = "VELMORA_MAIN_RESOURCES",
-                                     .installed = VELMORA_INSTALLED_MAIN_RESOURCES});
+                                     .installed = VELMORA_INSTALLED_MAIN_RESOURCES,
+                                     .lastPrefix = VELMORA_LAST_PREFIX});
   return bundle;
 }
 

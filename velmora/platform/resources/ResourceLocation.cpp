@@ -11,17 +11,18 @@ namespace {
 constexpr int kMaximumDepthUnderPrefix = 3;
 
 /// The installed folder, or where it would lie beside the library's folder.
-std::filesystem::path installedDirectory(const std::filesystem::path& installed) {
+std::filesystem::path installedDirectory(const ResourcePlaces& places) {
   std::filesystem::path expected;
   for (std::filesystem::path directory : codeDirectories()) {
     for (int depth = 0; depth < kMaximumDepthUnderPrefix; ++depth) {
       directory = directory.parent_path();
-      const std::filesystem::path candidate = directory / installed;
+      const std::filesystem::path candidate = directory / places.installed;
       if (isFolder(candidate)) return candidate;
       if (expected.empty()) expected = candidate;
     }
   }
-  return expected;
+  const std::filesystem::path last = places.lastPrefix / places.installed;
+  return !places.lastPrefix.empty() && isFolder(last) ? last : expected;
 }
 
 }  // namespace
@@ -29,7 +30,7 @@ std::filesystem::path installedDirectory(const std::filesystem::path& installed)
 std::filesystem::path resourceDirectory(const ResourcePlaces& places) {
   const char* named = std::getenv(places.environmentVariable.c_str());
   if (named && *named) return named;
-  return installedDirectory(places.installed);
+  return installedDirectory(places);
 }
 
 }  // namespace velmora

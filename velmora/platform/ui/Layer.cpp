@@ -27,7 +27,7 @@ Layer::~Layer() {
 }
 
 Rect Layer::frame() const {
-  return _affineTransform.isIdentity() ? untransformedFrame() : boundingBox(transformToSuperlayer(), _bounds);
+  return _affineTransform.isIdentity() ? untransformedFrame() : convertToSuperlayer(_bounds);
 }
 
 void Layer::setFrame(Rect frame) {
@@ -60,6 +60,8 @@ AffineTransform Layer::transformToSuperlayer() const {
 Point Layer::convertFromSuperlayer(Point point) const {
   return transformToSuperlayer().inverted().value_or(AffineTransform::identity()).apply(point);
 }
+
+Rect Layer::convertToSuperlayer(Rect rect) const { return boundingBox(transformToSuperlayer(), rect); }
 
 void Layer::addSublayer(std::shared_ptr<Layer> layer) {
   layer->removeFromSuperlayer();

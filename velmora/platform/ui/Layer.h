@@ -53,6 +53,8 @@ class Layer {
   AffineTransform transformToSuperlayer() const;
   /// The same place in the layer's own coordinates. A layer squeezed to nothing leaves the point as it is.
   Point convertFromSuperlayer(Point point) const;
+  /// The smallest rectangle in the layer above that holds the rectangle of the layer's own coordinates.
+  Rect convertToSuperlayer(Rect rect) const;
 
   /// Takes the layer from where it was and puts it on top of those held. It must not be above this one.
   void addSublayer(std::shared_ptr<Layer> layer);

@@ -115,6 +115,9 @@ class View : public std::enable_shared_from_this<View> {
   /// The same place in the view's own coordinates.
   Point convertFromSuperview(Point point) const { return _layer.convertFromSuperlayer(point); }
 
+  /// The smallest rectangle in the superview's coordinates that holds the rectangle of the view's own.
+  Rect convertToSuperview(Rect rect) const { return _layer.convertToSuperlayer(rect); }
+
   /// Whether a screen reader stops at the view as a whole; where not, at its elements.
   virtual bool isAccessibilityElement() const { return _isAccessibilityElement; }
   void setIsAccessibilityElement(bool isElement) { _isAccessibilityElement = isElement; }
