@@ -44,6 +44,34 @@ void dayAlone(benchmark::State& state, const EventChoice& choice) {
 BENCHMARK_CAPTURE(dayAlone, riseAndSet, riseAndSetAlone);
 BENCHMARK_CAPTURE(dayAlone, all, EventChoice());
 
+double heightOverHorizon(Body body, Instant at) {
+  const double altitude = position(sanFrancisco, body, at)->altitude;
+  return altitude + (body == Body::sun ? 50.0 / 60 : 34.0 / 60 + 0.26);
+}
+
+/// The slow way: an altitude every ten minutes, and halving where it passes the horizon.
+void dayByTenMinutes(benchmark::State& state) {
+  constexpr Seconds step(600), close(0.1);
+  Instant start = sys_days(2024y / January / 1) + hours(8);
+  for (auto _ : state) {
+    for (const Body body : {Body::sun, Body::moon}) {
+      double before = heightOverHorizon(body, start);
+      for (Instant at = start; at < start + hours(24); at += step) {
+        const double after = heightOverHorizon(body, at + step);
+        Instant low = at, high = at + step;
+        while ((before < 0) != (after < 0) && high - low > close) {
+          const Instant middle = low + (high - low) / 2;
+          ((heightOverHorizon(body, middle) < 0) == (before < 0) ? low : high) = middle;
+        }
+        benchmark::DoNotOptimize(low);
+        before = after;
+      }
+    }
+    start += hours(24);
+  }
+}
+BENCHMARK(dayByTenMinutes);
+
 /// Sun and Moon of a moment.
 void positionOfBoth(benchmark::State& state) {
   Instant at = sys_days(2024y / January / 1);
