@@ -29,12 +29,7 @@ double sharedArea(double a, double b, double separation) {
 
 }  // namespace
 
-Separation::Separation(const Motion& a, const Motion& b) {
-  const Motion chord = direction(a) - direction(b);
-  angle = 2 * std::asin(length(chord.at) / 2);
-  product = dot(chord.at, chord.rate);
-  squaredSpeed = dot(chord.rate, chord.rate);
-}
+Separation::Separation(const Motion& chord) : Approach(chord), angle(2 * std::asin(length(chord.at) / 2)) {}
 
 bool SolarDiscs::isCentral() const { return separation.angle < std::abs(inner); }
 
@@ -57,7 +52,7 @@ double SolarDiscs::obscuration() const {
 SolarDiscs solarDiscs(const Motion& toSun, const Motion& toMoon) {
   const double sunDistance = length(toSun.at), moonDistance = length(toMoon.at);
   const double sun = std::asin(sunRadius / sunDistance);
-  return {Separation(toMoon, toSun), sun + std::asin(outerMoonRadius / moonDistance),
+  return {Separation(direction(toMoon) - direction(toSun)), sun + std::asin(outerMoonRadius / moonDistance),
           sun - std::asin(innerMoonRadius / moonDistance)};
 }
 
@@ -76,8 +71,8 @@ EarthShadow earthShadow(const Motion& sun, const Motion& moon) {
   const double shadow =
       danjonEnlargement * std::asin(earthRadius / moonDistance) + std::asin(earthRadius / sunDistance);
   const double sunSemidiameter = std::asin(sunRadius / sunDistance);
-  return {Separation(moon, Motion{} - sun), shadow - sunSemidiameter, shadow + sunSemidiameter,
-          std::asin(outerMoonRadius / moonDistance)};
+  return {Separation(direction(moon) - direction(Motion{} - sun)), shadow - sunSemidiameter,
+          shadow + sunSemidiameter, std::asin(outerMoonRadius / moonDistance)};
 }
 
 }  // namespace almanac

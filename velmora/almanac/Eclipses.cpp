@@ -49,7 +49,7 @@ class ShadowOnEarth {
 /// When the axis begins (side −1) or ceases (side 1) to meet the Earth; `seconds` is a moment at which it
 /// does.
 double endOfCentralLine(const EclipseSky& sky, double seconds, double side) {
-  double inside = seconds, outside = seconds + side * 4 * 3600;
+  double inside = seconds, outside = side * EclipseSky::longestHalf;
   while (std::abs(outside - inside) > 1) {
     const double middle = (inside + outside) / 2;
     (ShadowOnEarth(sky, middle).isOnEarth() ? inside : outside) = middle;
