@@ -5,16 +5,16 @@
 #include <numbers>
 
 #include <velmora/almanac/Disc.h>
+#include <velmora/almanac/Observer.h>
 
 namespace [[gnu::visibility("hidden")]] velmora {
 namespace almanac {
 namespace {
 
-// The radii of the "Five Millennium Canon of Solar Eclipses" (Espenak and Meeus), kilometres, as the Sun's.
-constexpr double earthRadius = 6378.137;  // of the equator
-// 1738.1 with the mountains of the limb, 1736.6 by its valleys, through which the last of the Sun shines.
-constexpr double outerMoonRadius = 0.272508 * earthRadius;
-constexpr double innerMoonRadius = 0.272281 * earthRadius;
+// The Moon's radii of the "Five Millennium Canon of Solar Eclipses" (Espenak and Meeus): 1738.1 km with the
+// mountains of the limb, 1736.6 km by its valleys, through which the last of the Sun shines.
+constexpr double outerMoonRadius = 0.272508 * equatorialRadius;
+constexpr double innerMoonRadius = 0.272281 * equatorialRadius;
 constexpr double danjonEnlargement = 1.01;
 
 /// The area that two circles share.
@@ -68,8 +68,8 @@ double EarthShadow::magnitude(EclipseKind kind) const {
 
 EarthShadow earthShadow(const Motion& sun, const Motion& moon) {
   const double sunDistance = length(sun.at), moonDistance = length(moon.at);
-  const double shadow =
-      danjonEnlargement * std::asin(earthRadius / moonDistance) + std::asin(earthRadius / sunDistance);
+  const double shadow = danjonEnlargement * std::asin(equatorialRadius / moonDistance) +
+                        std::asin(equatorialRadius / sunDistance);
   const double sunSemidiameter = std::asin(sunRadius / sunDistance);
   return {Separation(direction(moon) - direction(Motion{} - sun)), shadow - sunSemidiameter,
           shadow + sunSemidiameter, std::asin(outerMoonRadius / moonDistance)};

@@ -8,12 +8,12 @@
 #include <velmora/almanac/EclipseDiscs.h>
 #include <velmora/almanac/EclipseSky.h>
 #include <velmora/almanac/Lunation.h>
+#include <velmora/almanac/Observer.h>
 
 namespace velmora::almanac {
 namespace {
 
-constexpr double earthRadius = 6378.137;                    // km, of the equator
-constexpr double polarScale = 1 / (1 - 1 / 298.257223563);  // makes the ellipsoid of WGS84 a sphere
+constexpr double polarScale = 1 / (1 - flattening);  // makes the Earth a sphere
 
 Vector scaled(const Vector& v) { return {v.x, v.y, v.z * polarScale}; }
 Vector unscaled(const Vector& v) { return {v.x, v.y, v.z / polarScale}; }
@@ -30,14 +30,14 @@ class ShadowOnEarth {
   }
 
   /// Whether the axis meets the Earth.
-  bool isOnEarth() const { return length(_nearest) < earthRadius; }
+  bool isOnEarth() const { return length(_nearest) < equatorialRadius; }
 
   /// The discs as seen from where the axis meets the day side, or, where it misses, from the limb nearest to
   /// it.
   SolarDiscs discs() const {
-    const double squaredHeight = earthRadius * earthRadius - dot(_nearest, _nearest);
+    const double squaredHeight = equatorialRadius * equatorialRadius - dot(_nearest, _nearest);
     const Vector place = unscaled(isOnEarth() ? _nearest + std::sqrt(squaredHeight) * _direction
-                                              : (earthRadius / length(_nearest)) * _nearest);
+                                              : (equatorialRadius / length(_nearest)) * _nearest);
     return solarDiscs({_sun - place, {}}, {_moon - place, {}});
   }
 
@@ -110,7 +110,7 @@ std::optional<Eclipse> eclipseAt(Quarter quarter) {
       eclipse.body == Body::sun ? setSolar(eclipse, *sky, seconds) : setLunar(eclipse, *sky, seconds);
   if (!isEclipse) return std::nullopt;
   const Vector across = sky->offset(eclipse.body, seconds).at;
-  eclipse.gamma = std::copysign(length(across) / earthRadius, across.z);
+  eclipse.gamma = std::copysign(length(across) / equatorialRadius, across.z);
   eclipse.maximum = sky->instant(seconds);
   eclipse.saros = saros(quarter, eclipse.body);
   return eclipse;
