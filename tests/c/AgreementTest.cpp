@@ -117,6 +117,46 @@ TEST(CInterface, NextSunriseInThePolarNightIsWeeksAway) {
   expectSame(rise, *expected);
 }
 
+TEST(CInterface, ManyPlacesAtOnceAreAsEachAlone) {
+  const velmora_place places[] = {helsinki, tromso, {-33.87, 151.21, 0}, {90, 0, 0}};
+  const double start = unixSeconds(juneDay);
+  velmora_place_day days[4];
+  ASSERT_EQ(velmora_at_places(places, 4, start, start + secondsPerDay, nullptr, 2, days), VELMORA_OK);
+  for (int i = 0; i < 4; ++i) {
+    const auto alone = almanac::day({places[i].latitude, places[i].longitude, 0}, juneDay, juneDay + 24h,
+                                    {.twilight = false, .transits = false});
+    ASSERT_TRUE(alone);
+    EXPECT_EQ(days[i].daylight, alone->daylight.count());
+    EXPECT_EQ(days[i].darkness, alone->darkness.count());
+    EXPECT_EQ(days[i].sun, static_cast<int>(alone->sun));
+    EXPECT_EQ(days[i].moon, static_cast<int>(alone->moon));
+    int events = 0;
+    for (const double at : {days[i].sun_rise, days[i].sun_set, days[i].moon_rise, days[i].moon_set}) {
+      events += !std::isnan(at);
+    }
+    EXPECT_EQ(events, static_cast<int>(alone->events.size()));
+  }
+  EXPECT_EQ(days[1].sun, VELMORA_UP_ALL_DAY);
+  EXPECT_TRUE(std::isnan(days[1].sun_rise));
+  EXPECT_EQ(velmora_at_places(places, 4, start, start + secondsPerDay, nullptr, 0, days),
+            VELMORA_BAD_ARGUMENT);
+}
+
+TEST(CInterface, CitiesAreTheTables) {
+  velmora_city cities[8];
+  size_t count = 0;
+  ASSERT_EQ(velmora_cities("munich", cities, 8, &count), VELMORA_OK);
+  ASSERT_EQ(count, 1U);
+  EXPECT_STREQ(cities[0].zone, "Europe/Berlin");
+  EXPECT_STREQ(cities[0].country, "DE");
+  EXPECT_NEAR(cities[0].latitude, 48.14, 0.02);
+  EXPECT_GT(cities[0].people, 1000000);
+  ASSERT_EQ(velmora_cities("Portland", cities, 8, &count), VELMORA_OK);
+  EXPECT_GT(count, 1U);
+  ASSERT_EQ(velmora_cities("Nowhere at all", cities, 8, &count), VELMORA_OK);
+  EXPECT_EQ(count, 0U);
+}
+
 TEST(CInterface, CrossingsAreTheAlmanacs) {
   velmora_crossing crossings[4];
   size_t count = 0;
@@ -215,7 +255,8 @@ TEST(CInterface, TotalEclipseOfApril2024SeenFromMazatlan) {
   EXPECT_EQ(local.visible_from, local.contacts[0].at);
   ASSERT_EQ(velmora_seen_from(&eclipses[0], &helsinki, &local), VELMORA_OK);  // below its horizon
   EXPECT_EQ(local.is_visible, 0);
-  EXPECT_TRUE(std::isnan(local.visible_from) && std::isnan(local.best.at) && std::isnan(local.best_magnitude));
+  EXPECT_TRUE(std::isnan(local.visible_from) && std::isnan(local.best.at) &&
+              std::isnan(local.best_magnitude));
   const velmora_place southPole = {-90, 0, 0};
   EXPECT_EQ(velmora_seen_from(&eclipses[0], &southPole, &local), VELMORA_NONE);
 }

@@ -26,6 +26,17 @@ TEST(CInterfaceLayout, Date) {
   EXPECT_AT(velmora_date, day, 8);
 }
 
+TEST(CInterfaceLayout, City) {
+  EXPECT_EQ(sizeof(velmora_city), 352U);
+  EXPECT_AT(velmora_city, latitude, 0);
+  EXPECT_AT(velmora_city, longitude, 8);
+  EXPECT_AT(velmora_city, people, 16);
+  EXPECT_AT(velmora_city, name, 24);
+  EXPECT_AT(velmora_city, region, 152);
+  EXPECT_AT(velmora_city, country, 280);
+  EXPECT_AT(velmora_city, zone, 288);
+}
+
 TEST(CInterfaceLayout, Event) {
   EXPECT_EQ(sizeof(velmora_event), 32U);
   EXPECT_AT(velmora_event, at, 0);
@@ -53,6 +64,18 @@ TEST(CInterfaceLayout, Convention) {
   EXPECT_AT(velmora_convention, reserved, 4);
   EXPECT_AT(velmora_convention, horizon_refraction, 8);
   EXPECT_AT(velmora_convention, sun_semidiameter, 16);
+}
+
+TEST(CInterfaceLayout, PlaceDay) {
+  EXPECT_EQ(sizeof(velmora_place_day), 56U);
+  EXPECT_AT(velmora_place_day, sun_rise, 0);
+  EXPECT_AT(velmora_place_day, sun_set, 8);
+  EXPECT_AT(velmora_place_day, moon_rise, 16);
+  EXPECT_AT(velmora_place_day, moon_set, 24);
+  EXPECT_AT(velmora_place_day, daylight, 32);
+  EXPECT_AT(velmora_place_day, darkness, 40);
+  EXPECT_AT(velmora_place_day, sun, 48);
+  EXPECT_AT(velmora_place_day, moon, 52);
 }
 
 TEST(CInterfaceLayout, Crossing) {

@@ -49,7 +49,7 @@ Course::Course(const Sky& sky, ephemeris::Body body, const Observer& observer)
 }
 
 void Course::addPassages(const Level& level, std::size_t line, std::size_t firstSample,
-                         std::size_t lastSample, std::vector<Passage>& passages) const& {
+                         std::size_t lastSample, std::vector<Passage>& passages) const {
   const double curvature = level.isMeridian() ? curvatureBound(1) : _curvature;
   const double reach = curvature * Sky::sampleSeconds * Sky::sampleSeconds / 8;  // from both ends of a step
   double before = level.heightOf(sampled(firstSample));

@@ -41,9 +41,7 @@ class Course {
   /// from one stretch of samples to the next too, but that the meridian is passed upward alone. None is
   /// missed but such as come back within a quarter of a second.
   void addPassages(const Level& level, std::size_t line, std::size_t firstSample, std::size_t lastSample,
-                   std::vector<Passage>& passages) const&;
-  void addPassages(const Level& level, std::size_t line, std::size_t firstSample, std::size_t lastSample,
-                   std::vector<Passage>& passages) const&& = delete;
+                   std::vector<Passage>& passages) const;
 
   /// Whether the body is above the level at the first sample.
   bool startsAbove(const Level& level) const { return level.heightOf(sampled(0)) >= 0; }

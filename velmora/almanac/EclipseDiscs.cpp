@@ -5,16 +5,16 @@
 #include <numbers>
 
 #include <velmora/almanac/Disc.h>
-#include <velmora/almanac/Observer.h>
 
 namespace [[gnu::visibility("hidden")]] velmora {
 namespace almanac {
 namespace {
 
-// The Moon's radii of the "Five Millennium Canon of Solar Eclipses" (Espenak and Meeus): 1738.1 km with the
-// mountains of the limb, 1736.6 km by its valleys, through which the last of the Sun shines.
-constexpr double outerMoonRadius = 0.272508 * equatorialRadius;
-constexpr double innerMoonRadius = 0.272281 * equatorialRadius;
+// The radii of the "Five Millennium Canon of Solar Eclipses" (Espenak and Meeus), kilometres, as the Sun's.
+constexpr double earthRadius = 6378.137;  // of the equator
+// 1738.1 with the mountains of the limb, 1736.6 by its valleys, through which the last of the Sun shines.
+constexpr double outerMoonRadius = 0.272508 * earthRadius;
+constexpr double innerMoonRadius = 0.272281 * earthRadius;
 constexpr double danjonEnlargement = 1.01;
 
 /// The area that two circles share.
@@ -29,7 +29,12 @@ double sharedArea(double a, double b, double separation) {
 
 }  // namespace
 
-Separation::Separation(const Motion& chord) : Approach(chord), angle(2 * std::asin(length(chord.at) / 2)) {}
+Separation::Separation(const Motion& a, const Motion& b) {
+  const Motion chord = direction(a) - direction(b);
+  angle = 2 * std::asin(length(chord.at) / 2);
+  product = dot(chord.at, chord.rate);
+  squaredSpeed = dot(chord.rate, chord.rate);
+}
 
 bool SolarDiscs::isCentral() const { return separation.angle < std::abs(inner); }
 
@@ -52,7 +57,7 @@ double SolarDiscs::obscuration() const {
 SolarDiscs solarDiscs(const Motion& toSun, const Motion& toMoon) {
   const double sunDistance = length(toSun.at), moonDistance = length(toMoon.at);
   const double sun = std::asin(sunRadius / sunDistance);
-  return {Separation(direction(toMoon) - direction(toSun)), sun + std::asin(outerMoonRadius / moonDistance),
+  return {Separation(toMoon, toSun), sun + std::asin(outerMoonRadius / moonDistance),
           sun - std::asin(innerMoonRadius / moonDistance)};
 }
 
@@ -68,11 +73,11 @@ double EarthShadow::magnitude(EclipseKind kind) const {
 
 EarthShadow earthShadow(const Motion& sun, const Motion& moon) {
   const double sunDistance = length(sun.at), moonDistance = length(moon.at);
-  const double shadow = danjonEnlargement * std::asin(equatorialRadius / moonDistance) +
-                        std::asin(equatorialRadius / sunDistance);
+  const double shadow =
+      danjonEnlargement * std::asin(earthRadius / moonDistance) + std::asin(earthRadius / sunDistance);
   const double sunSemidiameter = std::asin(sunRadius / sunDistance);
-  return {Separation(direction(moon) - direction(Motion{} - sun)), shadow - sunSemidiameter,
-          shadow + sunSemidiameter, std::asin(outerMoonRadius / moonDistance)};
+  return {Separation(moon, Motion{} - sun), shadow - sunSemidiameter, shadow + sunSemidiameter,
+          std::asin(outerMoonRadius / moonDistance)};
 }
 
 }  // namespace almanac

@@ -1,18 +1,18 @@
 #pragma once
 
-#include <velmora/almanac/EclipseSky.h>
 #include <velmora/almanac/Eclipses.h>
 #include <velmora/almanac/Vectors.h>
 
 namespace [[gnu::visibility("hidden")]] velmora {
 namespace almanac {
 
-/// Two directions that pass each other in the sky: radians and seconds.
-struct Separation : Approach {
+/// Two centres that pass each other in the sky: radians and seconds.
+struct Separation {
   double angle;
+  double product;       ///< of the angle and its rate: 0 where they are nearest to each other
+  double squaredSpeed;  ///< of one centre past the other
 
-  /// Of two unit vectors whose difference is given.
-  explicit Separation(const Motion& chord);
+  Separation(const Motion& a, const Motion& b);
 };
 
 /// The Sun and the Moon before each other as seen from a point. Angles in radians.

@@ -1,32 +1,64 @@
 #include <velmora/almanac/EclipseSky.h>
 
-#include <algorithm>
 #include <cmath>
 
 namespace [[gnu::visibility("hidden")]] velmora {
 namespace almanac {
+namespace {
 
+using ephemeris::Apparent;
 using ephemeris::Body;
-using ephemeris::Paths;
 
-EclipseSky::EclipseSky(const Paths& paths, Sky::Blocks blocks, Instant middle)
-    : _sky(paths, blocks), _middle(middle), _middleAfterStart((middle - _sky.timeOf(0)).count()) {}
+/// Half of what lies between two of the four places, seconds.
+constexpr double halfStep = 4000;
+
+/// Radians that the Earth turns in a second of UT1 from the equinox.
+constexpr double turnPerSecond = 7.292115855e-5;
+
+Vector vectorOf(const Apparent& place) {
+  const double inEquator = place.distance * std::cos(place.declination);
+  return {inEquator * std::cos(place.rightAscension), inEquator * std::sin(place.rightAscension),
+          place.distance * std::sin(place.declination)};
+}
+
+}  // namespace
+
+Motion EclipseSky::Cubic::at(double seconds) const {
+  const double t = seconds / halfStep;
+  const auto& c = coefficients;
+  return {c[0] + t * (c[1] + t * (c[2] + t * c[3])),
+          (1 / halfStep) * (c[1] + t * (2 * c[2] + (3 * t) * c[3]))};
+}
+
+/// The cubic through the places three and one half steps before and after the middle.
+std::optional<EclipseSky::Cubic> EclipseSky::path(Body body, Instant middle) {
+  std::array<Instant, 4> instants;
+  for (int i = 0; i < 4; ++i)
+    instants[static_cast<std::size_t>(i)] = middle + Seconds((2 * i - 3) * halfStep);
+  if (!ephemeris::covers(instants.front()) || !ephemeris::covers(instants.back())) return std::nullopt;
+  std::array<Apparent, 4> places;
+  ephemeris::apparent(body, instants, places);
+  const Vector a = vectorOf(places[0]), b = vectorOf(places[1]), c = vectorOf(places[2]),
+               d = vectorOf(places[3]);
+  const Vector outer = a + d, inner = b + c, outerRise = d - a, innerRise = c - b;
+  return Cubic{{(1.0 / 16) * (9 * inner - outer), (1.0 / 48) * (27 * innerRise - outerRise),
+                (1.0 / 16) * (outer - inner), (1.0 / 48) * (outerRise - 3 * innerRise)}};
+}
 
 std::optional<EclipseSky> EclipseSky::around(Instant middle) {
-  if (!ephemeris::covers(middle)) return std::nullopt;
-  const Sky::Blocks blocks = Sky::blocksOf(middle - Seconds(longestHalf), middle + Seconds(longestHalf));
-  const auto paths =
-      Paths::over(Sky::startOfBlock(blocks.first), Sky::startOfBlock(blocks.first + blocks.count));
-  if (!paths) return std::nullopt;
-  return EclipseSky(*paths, blocks, middle);
+  const auto sun = path(Body::sun, middle), moon = path(Body::moon, middle);
+  if (!sun || !moon) return std::nullopt;
+  EclipseSky sky;
+  sky._middle = middle;
+  sky._sun = *sun;
+  sky._moon = *moon;
+  const ephemeris::Nutation nutation = ephemeris::nutation(middle);
+  sky._siderealTime =
+      ephemeris::meanSiderealTime(middle) + nutation.longitude * std::cos(nutation.trueObliquity);
+  return sky;
 }
 
-Motion EclipseSky::motion(Body body, double seconds) const {
-  const double afterStart = secondsAfterFirstSample(seconds);
-  const double last = static_cast<double>(_sky.sampleCount() - 2);
-  const double sample = std::clamp(std::floor(afterStart / Sky::sampleSeconds), 0.0, last);
-  return _sky.motion(body, static_cast<std::size_t>(sample), afterStart - sample * Sky::sampleSeconds);
-}
+double EclipseSky::siderealTime(double seconds) const { return _siderealTime + turnPerSecond * seconds; }
 
 Motion EclipseSky::offset(Body eclipsed, double seconds) const {
   const Motion moonMotion = moon(seconds), sunMotion = sun(seconds);
@@ -37,7 +69,12 @@ Motion EclipseSky::offset(Body eclipsed, double seconds) const {
 }
 
 double EclipseSky::greatest(Body eclipsed) const {
-  return nearestTime([&](double seconds) { return Approach(offset(eclipsed, seconds)); });
+  double seconds = 0;
+  for (int step = 0; step < 4; ++step) {
+    const Motion across = offset(eclipsed, seconds);
+    seconds -= dot(across.at, across.rate) / dot(across.rate, across.rate);
+  }
+  return seconds;
 }
 
 }  // namespace almanac

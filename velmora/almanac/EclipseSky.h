@@ -1,39 +1,26 @@
 #pragma once
 
-#include <algorithm>
-#include <cmath>
+#include <array>
 #include <optional>
 
-#include <velmora/almanac/Sky.h>
 #include <velmora/almanac/Vectors.h>
 
 namespace [[gnu::visibility("hidden")]] velmora {
 namespace almanac {
 
-/// Two points that pass each other. Where they are nearest to each other the product is zero.
-struct Approach {
-  double product;       ///< of their distance and its change a second
-  double squaredSpeed;  ///< of one past the other
-
-  explicit Approach(const Motion& apart)
-      : product(dot(apart.at, apart.rate)), squaredSpeed(dot(apart.rate, apart.rate)) {}
-};
-
-/// The sky in the hours around an eclipse. Times are seconds after a middle, which is about the eclipse's
-/// maximum; all of the eclipse lies within `longestHalf` of it, at any place.
+/// The Sun and the Moon as seen from the centre of the Earth in the hours around an eclipse: vectors of the
+/// true equator and equinox, kilometres, as polynomials of the seconds after a middle. Cubics through four
+/// places from 3⅓ hours before to 3⅓ hours after it miss the Moon by less than 0.004″ between them.
 class EclipseSky {
  public:
-  static constexpr double longestHalf = 4 * 3600;
-
   /// None where the hours are not covered.
   static std::optional<EclipseSky> around(Instant middle);
 
   Instant instant(double seconds) const { return _middle + Seconds(seconds); }
-
-  /// Kilometres from the centre of the Earth, in the frame that turns with it.
-  Motion sun(double seconds) const { return motion(ephemeris::Body::sun, seconds); }
-  Motion moon(double seconds) const { return motion(ephemeris::Body::moon, seconds); }
-  Motion motion(ephemeris::Body body, double seconds) const;
+  Motion sun(double seconds) const { return _sun.at(seconds); }
+  Motion moon(double seconds) const { return _moon.at(seconds); }
+  /// The angle of the true equinox from the meridian of Greenwich, radians.
+  double siderealTime(double seconds) const;
 
   /// From the centre of the Earth across to the axis of the Moon's shadow, or, where the Moon is eclipsed,
   /// from the axis of the Earth's shadow across to the Moon.
@@ -41,35 +28,17 @@ class EclipseSky {
   /// When the offset is shortest.
   double greatest(ephemeris::Body eclipsed) const;
 
-  /// The samples of the sky, and where the time lies among them.
-  const Sky& sky() const { return _sky; }
-  double secondsAfterFirstSample(double seconds) const { return _middleAfterStart + seconds; }
-
  private:
-  EclipseSky(const ephemeris::Paths& paths, Sky::Blocks blocks, Instant middle);
+  struct Cubic {
+    std::array<Vector, 4> coefficients;
+    Motion at(double seconds) const;
+  };
+  static std::optional<Cubic> path(ephemeris::Body body, Instant middle);
 
-  Sky _sky;
-  Instant _middle;
-  double _middleAfterStart;
+  Instant _middle{};
+  Cubic _sun, _moon;
+  double _siderealTime = 0;  // of the middle
 };
-
-/// When the two are nearest to each other, within `longestHalf`: from an even motion, then by secants.
-template <typename ApproachAt>
-double nearestTime(const ApproachAt& approachAt) {
-  double seconds = 0;
-  Approach now = approachAt(seconds);
-  double slope = now.squaredSpeed;
-  for (int count = 0; count < 20; ++count) {
-    const double next =
-        std::clamp(seconds - now.product / slope, -EclipseSky::longestHalf, EclipseSky::longestHalf);
-    const double step = next - seconds, before = now.product;
-    seconds = next;
-    if (std::abs(step) < 0.001) break;
-    now = approachAt(seconds);
-    slope = (now.product - before) / step;
-  }
-  return seconds;
-}
 
 }  // namespace almanac
 }  // namespace velmora

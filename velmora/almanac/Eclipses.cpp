@@ -8,12 +8,12 @@
 #include <velmora/almanac/EclipseDiscs.h>
 #include <velmora/almanac/EclipseSky.h>
 #include <velmora/almanac/Lunation.h>
-#include <velmora/almanac/Observer.h>
 
 namespace velmora::almanac {
 namespace {
 
-constexpr double polarScale = 1 / (1 - flattening);  // makes the Earth a sphere
+constexpr double earthRadius = 6378.137;                    // km, of the equator
+constexpr double polarScale = 1 / (1 - 1 / 298.257223563);  // makes the ellipsoid of WGS84 a sphere
 
 Vector scaled(const Vector& v) { return {v.x, v.y, v.z * polarScale}; }
 Vector unscaled(const Vector& v) { return {v.x, v.y, v.z / polarScale}; }
@@ -30,14 +30,14 @@ class ShadowOnEarth {
   }
 
   /// Whether the axis meets the Earth.
-  bool isOnEarth() const { return length(_nearest) < equatorialRadius; }
+  bool isOnEarth() const { return length(_nearest) < earthRadius; }
 
   /// The discs as seen from where the axis meets the day side, or, where it misses, from the limb nearest to
   /// it.
   SolarDiscs discs() const {
-    const double squaredHeight = equatorialRadius * equatorialRadius - dot(_nearest, _nearest);
+    const double squaredHeight = earthRadius * earthRadius - dot(_nearest, _nearest);
     const Vector place = unscaled(isOnEarth() ? _nearest + std::sqrt(squaredHeight) * _direction
-                                              : (equatorialRadius / length(_nearest)) * _nearest);
+                                              : (earthRadius / length(_nearest)) * _nearest);
     return solarDiscs({_sun - place, {}}, {_moon - place, {}});
   }
 
@@ -49,7 +49,7 @@ class ShadowOnEarth {
 /// When the axis begins (side −1) or ceases (side 1) to meet the Earth; `seconds` is a moment at which it
 /// does.
 double endOfCentralLine(const EclipseSky& sky, double seconds, double side) {
-  double inside = seconds, outside = side * EclipseSky::longestHalf;
+  double inside = seconds, outside = seconds + side * 4 * 3600;
   while (std::abs(outside - inside) > 1) {
     const double middle = (inside + outside) / 2;
     (ShadowOnEarth(sky, middle).isOnEarth() ? inside : outside) = middle;
@@ -110,7 +110,7 @@ std::optional<Eclipse> eclipseAt(Quarter quarter) {
       eclipse.body == Body::sun ? setSolar(eclipse, *sky, seconds) : setLunar(eclipse, *sky, seconds);
   if (!isEclipse) return std::nullopt;
   const Vector across = sky->offset(eclipse.body, seconds).at;
-  eclipse.gamma = std::copysign(length(across) / equatorialRadius, across.z);
+  eclipse.gamma = std::copysign(length(across) / earthRadius, across.z);
   eclipse.maximum = sky->instant(seconds);
   eclipse.saros = saros(quarter, eclipse.body);
   return eclipse;

@@ -10,24 +10,33 @@
 namespace [[gnu::visibility("hidden")]] velmora {
 namespace almanac {
 
-/// The sky around an eclipse from a place, and the eclipsed body in it. Times are those of the eclipse's sky,
-/// which must outlive this.
+/// The eclipsed body in the sky of a place. Times are seconds after the middle of the eclipse's sky, which
+/// must outlive this.
 class LocalSky {
  public:
   LocalSky(const EclipseSky& sky, Body body, const Place& place);
 
-  /// A body from the place, in the frame that turns with the Earth.
-  Motion seen(Body body, double seconds) const { return _sky.motion(body, seconds) - _place; }
+  /// What moves as seen from the centre of the Earth, as it does from the place.
+  Motion seen(const Motion& geocentric, double seconds) const;
 
   EclipseMoment moment(double seconds) const;
-  /// When the eclipsed body rises or sets, in time order.
+  /// When the upper limb passes the horizon, in time order.
   std::vector<double> horizonPassages(double from, double to) const;
 
  private:
+  Local direction(double seconds) const;
+  double height(double seconds) const { return _horizon.heightOf(direction(seconds)); }
+
+  struct Sample {
+    double seconds, height;
+  };
+  void addPassages(const Sample& from, const Sample& to, std::vector<double>& passages) const;
+  double passage(Sample from, Sample to) const;
+
   const EclipseSky& _sky;
   Body _body;
   Observer _observer;
-  Motion _place;  // which is at rest
+  double _longitude;  // radians
   Level _horizon;
 };
 

@@ -4,6 +4,9 @@ namespace [[gnu::visibility("hidden")]] velmora {
 namespace almanac {
 namespace {
 
+// The ellipsoid of WGS84.
+constexpr double equatorialRadius = 6378.137;  // km
+constexpr double flattening = 1 / 298.257223563;
 constexpr double squaredEccentricity = flattening * (2 - flattening);
 
 }  // namespace

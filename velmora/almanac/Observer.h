@@ -10,10 +10,6 @@ namespace almanac {
 
 inline constexpr double degree = 0.017453292519943295;  ///< in radians
 
-// The ellipsoid of WGS84.
-inline constexpr double equatorialRadius = 6378.137;  ///< km
-inline constexpr double flattening = 1 / 298.257223563;
-
 /// A direction and distance in the sky of a place, kilometres.
 struct Local {
   double east = 0.0, north = 0.0, up = 0.0;

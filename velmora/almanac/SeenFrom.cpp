@@ -10,7 +10,10 @@
 namespace velmora::almanac {
 namespace {
 
-// Times are those of the sky of the eclipse.
+// Times are seconds after the middle of the sky, which is about the maximum.
+
+/// Everything of an eclipse lies within that time of its maximum.
+constexpr double longestHalf = 4 * 3600;
 
 /// How far two centres are from a contact: the square of their separation less that of the separation at the
 /// contact, and its change a second.
@@ -26,7 +29,7 @@ Gap gap(const Separation& separation, double atContact) {
 /// method, or by halving where a step would leave the stretch.
 template <typename GapAt>
 double contact(const GapAt& gapAt, double inside, double outside, double guess) {
-  for (double seconds = std::clamp(guess, std::min(inside, outside), std::max(inside, outside));;) {
+  for (double seconds = guess;;) {
     const Gap now = gapAt(seconds);
     (now.value < 0 ? inside : outside) = seconds;
     const auto [low, high] = std::minmax(inside, outside);
@@ -56,8 +59,8 @@ class Circumstances {
     };
     const double half =
         std::sqrt(std::max(0.0, -gapAt(_maximum).value) / _discsAt(_maximum).separation.squaredSpeed);
-    const double first = contact(gapAt, _maximum, -EclipseSky::longestHalf, _maximum - half);
-    const double last = contact(gapAt, _maximum, EclipseSky::longestHalf, _maximum + half);
+    const double first = contact(gapAt, _maximum, _maximum - longestHalf, _maximum - half);
+    const double last = contact(gapAt, _maximum, _maximum + longestHalf, _maximum + half);
     _local.contacts.push_back({before, _sky.moment(first)});
     _local.contacts.push_back({after, _sky.moment(last)});
     return {first, last};
@@ -93,12 +96,29 @@ class Circumstances {
   LocalEclipse& _local;
 };
 
+/// When the discs are nearest to each other. The first step is one of even motion, the others are secants.
+template <typename DiscsAt>
+double nearestTime(const DiscsAt& discsAt) {
+  double seconds = 0, step = 0;
+  Separation now = discsAt(seconds).separation;
+  double slope = now.squaredSpeed;
+  for (int count = 0; count < 20; ++count) {
+    step = std::clamp(seconds - now.product / slope, -longestHalf, longestHalf) - seconds;
+    if (std::abs(step) < 0.01) break;
+    const double before = now.product;
+    seconds += step;
+    now = discsAt(seconds).separation;
+    slope = (now.product - before) / step;
+  }
+  return seconds;
+}
+
 std::optional<LocalEclipse> solarSeenFrom(const EclipseSky& sky, const Place& place) {
   const LocalSky localSky(sky, Body::sun, place);
   const auto discsAt = [&](double seconds) {
-    return solarDiscs(localSky.seen(Body::sun, seconds), localSky.seen(Body::moon, seconds));
+    return solarDiscs(localSky.seen(sky.sun(seconds), seconds), localSky.seen(sky.moon(seconds), seconds));
   };
-  const double maximum = nearestTime([&](double seconds) { return discsAt(seconds).separation; });
+  const double maximum = nearestTime(discsAt);
   const SolarDiscs discs = discsAt(maximum);
   if (!discs.isEclipse()) return std::nullopt;
 

@@ -1,9 +1,9 @@
-#include <cstring>
 #include <filesystem>
 
 #include <velmora/Version.h>
 #include <velmora/astronomy/RiseAndSetCalc.h>
 #include <velmora/c/Answering.h>
+#include <velmora/c/CopiedText.h>
 #include <velmora/c/Zone.h>
 #include <velmora/foundation/GeoLocationData.h>
 #include <velmora/phases/MoonPhaseCalc.h>
@@ -33,12 +33,6 @@ std::shared_ptr<const YearTable> tableFor(int year) {
   auto table = tableOfYear(year);
   if (!table) throw Refusal{VELMORA_NO_DATA, "the table of " + std::to_string(year) + " cannot be read"};
   return table;
-}
-
-template <std::size_t size>
-void copyText(const std::string& text, char (&out)[size]) {
-  std::strncpy(out, text.c_str(), size - 1);
-  out[size - 1] = '\0';
 }
 
 velmora_calendar_day calendarDay(const PhaseItem& item, const MoonPhaseCalc::ImageCalendar& images) {

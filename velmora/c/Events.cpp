@@ -9,6 +9,7 @@ using namespace velmora::c;
 namespace {
 
 constexpr int kindsOfEvents = 9;
+constexpr std::uint32_t mostThreads = 1024;
 
 almanac::EventChoice choiceOfEvents(std::uint32_t choice) {
   constexpr std::uint32_t known = VELMORA_WITH_TWILIGHT | VELMORA_WITH_TRANSITS;
@@ -44,6 +45,25 @@ velmora_day dayOf(const almanac::Day& day, std::size_t firstEvent) {
           day.darkness.count(),
           firstEvent,
           day.events.size()};
+}
+
+double firstOf(const almanac::Day& day, almanac::Body body, almanac::EventKind kind) {
+  for (const almanac::Event& event : day.events) {
+    if (event.body == body && event.kind == kind) return secondsOf(event.at);
+  }
+  return none;
+}
+
+velmora_place_day placeDayOf(const almanac::Day& day) {
+  using enum almanac::EventKind;
+  return {firstOf(day, almanac::Body::sun, rise),
+          firstOf(day, almanac::Body::sun, set),
+          firstOf(day, almanac::Body::moon, rise),
+          firstOf(day, almanac::Body::moon, set),
+          day.daylight.count(),
+          day.darkness.count(),
+          static_cast<std::int32_t>(day.sun),
+          static_cast<std::int32_t>(day.moon)};
 }
 
 }  // namespace
@@ -86,6 +106,29 @@ velmora_status velmora_days(const velmora_place* place, const velmora_zone* zone
     const velmora_status ofDays = fill(made, days, day_capacity, day_count, "days", same);
     const velmora_status ofEvents = fill(happening, events, event_capacity, event_count, "events", same);
     return ofDays == VELMORA_OK ? ofEvents : ofDays;
+  });
+}
+
+velmora_status velmora_at_places(const velmora_place* places, size_t count, double start, double end,
+                                 const velmora_convention* convention, uint32_t threads,
+                                 velmora_place_day* days) {
+  return answering([&] {
+    const auto [from, to] = coveredInterval(start, end);
+    checkRoom(places, count, "places");
+    checkRoom(days, count, "days");
+    if (threads == 0 || threads > mostThreads) {
+      throw Refusal{VELMORA_BAD_ARGUMENT, "threads lies outside 1 to 1024"};
+    }
+    std::vector<almanac::Place> taken;
+    taken.reserve(count);
+    for (std::size_t i = 0; i < count; ++i) taken.push_back(placeOf(places + i));
+    const auto keep = [&](std::size_t place, const almanac::Day& day) { days[place] = placeDayOf(day); };
+    const almanac::EventChoice riseAndSet = {.twilight = false, .transits = false};
+    if (!almanac::forEachPlace(taken, from, to, keep, almanac::onThreads(threads), riseAndSet,
+                               conventionOf(convention))) {
+      throw Refusal{VELMORA_BAD_ARGUMENT, "the interval is empty"};
+    }
+    return VELMORA_OK;
   });
 }
 

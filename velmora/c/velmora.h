@@ -83,6 +83,22 @@ typedef struct velmora_date {
 VELMORA_API velmora_status velmora_civil_day(const velmora_zone* zone, velmora_date date, double* start,
                                              double* end);
 
+/** A city of the shipped table, texts in UTF-8 and zero-terminated. */
+typedef struct velmora_city {
+  double latitude, longitude;
+  int64_t people;   /**< how many live there; 0 where that is unknown */
+  char name[128];   /**< its own: "Portland" */
+  char region[128]; /**< state or province, in English: "Maine"; may be empty */
+  char country[8];  /**< two letters: "US" */
+  char zone[64];    /**< of its clocks: "America/New_York" */
+} velmora_city;
+
+/**
+ * The cities of that name, freely spelled, the most populous first: "Portland", "Portland, Maine", "Kiev".
+ */
+VELMORA_API velmora_status velmora_cities(const char* name, velmora_city* cities, size_t capacity,
+                                          size_t* count);
+
 /* ---- Events of a day -------------------------------------------------------------------------------- */
 
 typedef enum velmora_body { VELMORA_SUN = 0, VELMORA_MOON = 1 } velmora_body;
@@ -152,6 +168,21 @@ VELMORA_API velmora_status velmora_days(const velmora_place* place, const velmor
                                         const velmora_convention* convention, velmora_day* days,
                                         size_t day_capacity, size_t* day_count, velmora_event* events,
                                         size_t event_capacity, size_t* event_count);
+
+/** The day of a place among many; instants are NaN where there is no such event. */
+typedef struct velmora_place_day {
+  double sun_rise, sun_set, moon_rise, moon_set; /**< the first of each */
+  double daylight, darkness;                     /**< seconds, as in velmora_day */
+  int32_t sun, moon;                             /**< velmora_all_day */
+} velmora_place_day;
+
+/**
+ * What happens in [start, end) at each of `count` places, a map of the world for instance, shared among that
+ * many threads of the operation's own (1: the caller's alone).
+ */
+VELMORA_API velmora_status velmora_at_places(const velmora_place* places, size_t count, double start,
+                                             double end, const velmora_convention* convention,
+                                             uint32_t threads, velmora_place_day* days);
 
 /** The first such event after the instant within a year; VELMORA_NONE if there is none. */
 VELMORA_API velmora_status velmora_next(const velmora_place* place, int32_t body, int32_t kind, double after,
