@@ -5,6 +5,11 @@ function __velmora_offers
     set -l command (string match -rv '^(-|$)' -- "$words[2]")
     set -l help ($program $command --help 2>/dev/null); or return
 
+    if contains -- $words[-1] --city --tz
+        $program --complete (string sub -s 3 -- $words[-1]) (commandline -ct | string trim -c '"\'' | string unescape)
+        return
+    end
+
     # An option that takes a value shows its name in capitals; one that takes a few words tells them when it is
     # given another.
     if contains -- $words[-1] (string replace -fr '^  (--\S+) [A-Z].*' '$1' -- $help)

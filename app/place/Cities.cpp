@@ -11,6 +11,7 @@ namespace {
 
 constexpr std::size_t mostChoices = 8;
 constexpr std::size_t mostNeighbours = 3;
+constexpr std::size_t mostOffered = 50;
 
 CityTable wholeTable() {
   CityTable table = CityTable::shipped();
@@ -58,6 +59,27 @@ City cityNamed(const std::string& spelling) {
                    fullNames(table.nearest(spelling, mostNeighbours)) + "; any other place: lat and lon");
   throw BadInput("city " + quote(spelling) + " may be " + choices(found) +
                  "; add the region or country, as here");
+}
+
+std::vector<std::string> citiesBeginning(const std::string& beginning) {
+  const CityTable table = CityTable::shipped();
+  const auto nameTaken = [&](const City& city) {
+    const auto named = table.named(city.name);
+    return named.size() == 1 && named[0] == city ? city.name : fullName(city);
+  };
+  const auto cities = table.matches(beginning, mostOffered);
+  std::vector<std::string> offered;
+  for (const City& city : cities)
+    if (searchForm(city.name).starts_with(searchForm(beginning))) offered.push_back(nameTaken(city));
+  if (offered.empty() && !cities.empty()) return {nameTaken(cities[0])};
+  return offered;
+}
+
+std::vector<std::string> zonesBeginning(const std::string& beginning) {
+  std::vector<std::string> offered = CityTable::shipped().zones();
+  std::erase_if(
+      offered, [&](const std::string& zone) { return !searchForm(zone).starts_with(searchForm(beginning)); });
+  return offered;
 }
 
 TimeZone zoneNamed(const std::string& identifier) {

@@ -9,6 +9,7 @@
 
 #include <app/program/Answer.h>
 #include <app/program/Batch.h>
+#include <app/program/Completion.h>
 #include <app/program/Help.h>
 #include <app/request/Command.h>
 #include <app/request/CommandLine.h>
@@ -66,8 +67,11 @@ int complain(const std::exception& error, ExitStatus status, std::ostream& err) 
 
 int run(const std::vector<std::string>& arguments, std::istream& in, std::ostream& out, std::ostream& err) {
   try {
-    const Request request = requestFromArguments(arguments);
-    answer(request, in, out);
+    if (asksForCompletion(arguments)) {
+      offer(arguments, out);
+    } else {
+      answer(requestFromArguments(arguments), in, out);
+    }
     checkWritten(out);
     return done;
   } catch (const BadInput& error) {

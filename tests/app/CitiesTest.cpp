@@ -64,6 +64,19 @@ TEST(Cities, AMisspeltOneIsToldWithItsNeighbours) {
   EXPECT_TRUE(message.ends_with("; any other place: lat and lon")) << message;
 }
 
+TEST(Cities, AreOfferedByNamesThatAreTakenAsTheyAre) {
+  using Names = std::vector<std::string>;
+  EXPECT_EQ(citiesBeginning("helsink"), Names{"Helsinki"});
+  EXPECT_EQ(citiesBeginning("Portland").front(), "Portland, Oregon, US");
+  EXPECT_EQ(citiesBeginning("Münche"), Names{"Munich"});
+  EXPECT_EQ(citiesBeginning("東京"), Names{"Tokyo"});
+  EXPECT_EQ(citiesBeginning("qqq"), Names());
+  for (const std::string& name : citiesBeginning("San"))
+    EXPECT_EQ(cityNamed(name).name, name.substr(0, name.find(',')));
+  EXPECT_EQ(zonesBeginning("Europe/Hel"), Names{"Europe/Helsinki"});
+  EXPECT_EQ(zonesBeginning("asia/cal"), Names{"Asia/Calcutta"});
+}
+
 TEST(Zones, OfOldAreKnownAndMisspeltOnesToldWithTheirNeighbours) {
   EXPECT_EQ(zoneNamed("Europe/Helsinki").name(), "Europe/Helsinki");
   EXPECT_TRUE(zoneNamed("Asia/Calcutta").name().starts_with("Asia/"));
