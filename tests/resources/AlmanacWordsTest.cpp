@@ -117,6 +117,18 @@ TEST(Words, AreInTheLanguageOfTheCurrentLocale) {
   EXPECT_EQ(sunset("fi_FI"), "Sunset");
 }
 
+TEST(Words, OfALanguageWithoutThemAreEnglishAndSoAreTheirDates) {
+  const auto localeFor = [](const std::string& locale) {
+    const ScopedLocale current(locale);
+    return localeOfWords().identifier();
+  };
+  EXPECT_EQ(localeFor("de_AT"), "de_AT");
+  EXPECT_EQ(localeFor("en_GB"), "en_GB");
+  EXPECT_EQ(localeFor("zh_HK"), "zh_HK");
+  EXPECT_EQ(localeFor("fi_FI"), "en_US");
+  EXPECT_EQ(localeFor("no locale"), "en_US");
+}
+
 TEST(Words, OfACountAreInItsPluralForm) {
   const auto inDays = [](const std::string& locale, std::int64_t count) {
     const ScopedLocale current(locale);

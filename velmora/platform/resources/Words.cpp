@@ -1,7 +1,7 @@
 #include <velmora/platform/resources/Words.h>
 
 #include <velmora/platform/resources/Bundle.h>
-#include <velmora/platform/time/Locale.h>
+#include <velmora/platform/resources/Languages.h>
 
 namespace velmora {
 namespace {
@@ -32,10 +32,19 @@ std::string words(std::string_view english, std::initializer_list<std::string_vi
 
 std::string wordsForCount(std::string_view english, std::int64_t count) {
   const std::string other(english);
-  const std::string form = other + " [" + Locale::current().pluralCategory(count) + "]";
+  const std::string form = other + " [" + localeOfWords().pluralCategory(count) + "]";
   const std::string text = Bundle::library().localizedString(form, "", table);
   return filled(text == form ? Bundle::library().localizedString(other, "", table) : text,
                 {std::to_string(count)});
+}
+
+Locale localeOfWords() {
+  const Bundle library = Bundle::library();
+  for (const std::string& language : preferredLanguages(Locale::current())) {
+    if (language == "en" && Locale::current().languageCode() != "en") break;  // comes last for everyone
+    if (library.pathForResource(table, "strings", language + ".lproj")) return Locale::current();
+  }
+  return Locale("en_US");
 }
 
 }  // namespace velmora

@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include <velmora/platform/time/Locale.h>
+
 namespace velmora {
 
 /// The words of an almanac in the language of the current locale, from the library's string tables
@@ -15,5 +17,9 @@ std::string words(std::string_view english, std::initializer_list<std::string_vi
 /// The same for a text that counts something, in the language's plural form for that many: the count stands
 /// at %1. "in %1 days": "in 1 day", "za 5 dni".
 std::string wordsForCount(std::string_view english, std::int64_t count);
+
+/// The locale that these words are written in, for the dates and times among them: the current one, or
+/// American English where its language has no words.
+Locale localeOfWords();
 
 }  // namespace velmora
