@@ -14,7 +14,9 @@ endif()
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM AND PROJECT_IS_TOP_LEVEL)
   set(CMAKE_C_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
-  set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
+  # It takes part in precompiled headers when told that macros and times in them do not matter.
+  set(CMAKE_CXX_COMPILER_LAUNCHER env
+    CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime ${CCACHE_PROGRAM})
 endif()
 
 # What every target of the project is compiled with. The astronomy is compared to the last bit, so no

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -13,6 +12,9 @@
 #include <velmora/platform/time/Locale.h>
 #include <velmora/platform/time/TimeZone.h>
 
+/// Compiled once for all tests, in AppTest.cpp.
+extern template class nlohmann::basic_json<nlohmann::ordered_map>;
+
 namespace velmora::app {
 
 /// What one run of the program left behind.
@@ -22,41 +24,17 @@ struct Outcome {
   std::string err;
 };
 
-inline Outcome runProgram(const std::vector<std::string>& arguments, const std::string& input = "") {
-  std::istringstream in(input);
-  std::ostringstream out, err;
-  const int status = run(arguments, in, out, err);
-  return {status, out.str(), err.str()};
-}
+Outcome runProgram(const std::vector<std::string>& arguments, const std::string& input = "");
 
-inline std::vector<std::string> linesOf(const std::string& text) {
-  std::vector<std::string> lines;
-  std::istringstream stream(text);
-  for (std::string line; std::getline(stream, line);) lines.push_back(line);
-  return lines;
-}
+std::vector<std::string> linesOf(const std::string& text);
 
-inline std::size_t charactersOf(const std::string& text) {
-  std::size_t count = 0;
-  for (const char byte : text) count += (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U ? 1 : 0;
-  return count;
-}
+std::size_t charactersOf(const std::string& text);
 
 /// Runs the program in American English, the process's zone UTC, at noon (UTC) of 20 June 2024.
 class AppTest : public ::testing::Test {
  protected:
-  static std::string answer(const std::vector<std::string>& arguments) {
-    const Outcome outcome = runProgram(arguments);
-    EXPECT_EQ(outcome.status, 0) << outcome.err;
-    EXPECT_EQ(outcome.err, "");
-    return outcome.out;
-  }
-
-  static Json json(std::vector<std::string> arguments) {
-    arguments.emplace_back("--json");
-    return Json::parse(answer(arguments));
-  }
-
+  static std::string answer(const std::vector<std::string>& arguments);
+  static Json json(std::vector<std::string> arguments);
   static Instant instant(const char* text) { return instantFromText(text).value(); }
 
  private:
