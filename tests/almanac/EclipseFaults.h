@@ -26,7 +26,7 @@ class EclipseFaults {
   using ContactName = almanac::ContactName;
 
   static std::vector<ContactName> namesOf(const LocalEclipse& local) {
-    using enum ContactName;
+    using enum almanac::ContactName;
     const bool isPartial = local.kind == EclipseKind::partial;
     if (local.body == almanac::Body::sun)
       return isPartial ? std::vector{C1, C4} : std::vector{C1, C2, C3, C4};
