@@ -81,7 +81,8 @@ class Circumstances {
     if (_local.maximum.isUp) return;
     _local.bestMagnitude = 0;
     for (const double passage : passages) {
-      const double magnitude = magnitudeOf(_discsAt(passage));
+      // Seconds from the maximum the shadow may still widen.
+      const double magnitude = std::min(magnitudeOf(_discsAt(passage)), _local.magnitude);
       if (magnitude <= _local.bestMagnitude) continue;
       _local.bestMagnitude = magnitude;
       _local.best = _sky.moment(passage);
