@@ -67,7 +67,7 @@ class EventFinder::Listing {
 
   /// A day at a time: its passages are enough to be found side by side, and few to be put into order.
   void run() {
-    constexpr std::size_t samplesOfDay = 12;
+    constexpr std::size_t samplesOfDay = 2 * Sky::samplesPerBlock;
     const std::size_t end = _sky.sampleCount() - 1;
     for (std::size_t sample = 0; sample < end; sample += samplesOfDay) {
       addEvents(sample, std::min(sample + samplesOfDay, end));

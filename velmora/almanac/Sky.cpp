@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include <velmora/ephemeris/PathData.h>
+
 namespace [[gnu::visibility("hidden")]] velmora {
 namespace almanac {
 
@@ -13,36 +15,37 @@ Sky::Blocks Sky::blocksOf(Instant start, Instant end) {
   return {first, past - first};
 }
 
-Sky::Sky(const ephemeris::Paths& paths, Blocks blocks) : _first(blocks.first) {
-  const std::size_t count = static_cast<std::size_t>(blocks.count) * samplesPerBlock + 1;
-  _turns.reserve(count);
+Sky::Sky(const ephemeris::Paths& paths, Blocks blocks)
+    : _first(blocks.first), _turns(static_cast<std::size_t>(blocks.count) * samplesPerBlock + 1) {
   const Turn step = Turn::ofSmall(turnPerSecond * sampleSeconds);
-  for (std::size_t sample = 0; sample < count; ++sample) {
-    if (sample % samplesPerBlock == 0) {
-      const double angle = ephemeris::meanSiderealTime(timeOf(sample));
-      _turns.push_back({std::cos(angle), std::sin(angle)});
-    } else {
-      _turns.push_back(_turns.back() + step);
-    }
+  std::vector<double> terrestrial(sampleCount());
+  for (std::size_t sample = 0; sample < sampleCount(); ++sample) {
+    const Instant at = timeOf(sample);
+    const ephemeris::Stretch& stretch = stretchAt(paths.data(), at);
+    terrestrial[sample] = terrestrialAt(stretch, at);
+    const bool begins = sample % samplesPerBlock == 0;
+    _turns[sample] =
+        begins ? Turn::of(siderealAt(stretch, at) * ephemeris::radiansOfTurn) : _turns[sample - 1] + step;
   }
-  _bodies = {over(paths, Body::sun), over(paths, Body::moon)};
+  _bodies = {over(paths, Body::sun, terrestrial), over(paths, Body::moon, terrestrial)};
 }
 
-Sky::BodyInSky Sky::over(const ephemeris::Paths& paths, Body body) const {
-  std::vector<Vector> places;  // in the frame of the stars
-  places.reserve(sampleCount());
-  BodyInSky result;
-  result.samples.reserve(sampleCount());
+Sky::BodyInSky Sky::over(const ephemeris::Paths& paths, Body body,
+                         const std::vector<double>& terrestrial) const {
+  BodyInSky result{std::vector<Piece>(sampleCount() / samplesPerBlock), std::vector<Vector>(sampleCount())};
+  std::array<Vector, samplesPerBlock + 1> v;  // of a block, in the frame of the stars
   for (std::size_t sample = 0; sample < sampleCount(); ++sample) {
-    places.push_back(paths.vector(body, timeOf(sample)));
-    result.samples.push_back(_turns[sample].applied(places.back()));
-  }
-  result.pieces.reserve(sampleCount() / samplesPerBlock);
-  for (const Vector* v = places.data(); v + samplesPerBlock < places.data() + places.size();
-       v += samplesPerBlock) {
-    result.pieces.push_back({.x = Quartic::through(v[0].x, v[1].x, v[2].x, v[3].x, v[4].x),
-                             .y = Quartic::through(v[0].y, v[1].y, v[2].y, v[3].y, v[4].y),
-                             .z = Quartic::through(v[0].z, v[1].z, v[2].z, v[3].z, v[4].z)});
+    const std::size_t inBlock = sample % samplesPerBlock;
+    const Vector place = vectorAt(paths.data(), body, terrestrial[sample]);
+    result.samples[sample] = _turns[sample].applied(place);
+    if (inBlock == 0 && sample > 0) {
+      v[samplesPerBlock] = place;
+      result.pieces[sample / samplesPerBlock - 1] = {
+          .x = Quartic::through(v[0].x, v[1].x, v[2].x, v[3].x, v[4].x),
+          .y = Quartic::through(v[0].y, v[1].y, v[2].y, v[3].y, v[4].y),
+          .z = Quartic::through(v[0].z, v[1].z, v[2].z, v[3].z, v[4].z)};
+    }
+    v[inBlock] = place;
   }
   return result;
 }

@@ -8,6 +8,7 @@
 #include <velmora/almanac/Quartic.h>
 #include <velmora/almanac/Vectors.h>
 #include <velmora/ephemeris/Ephemeris.h>
+#include <velmora/ephemeris/Sines.h>
 #include <velmora/platform/time/Instant.h>
 
 namespace [[gnu::visibility("hidden")]] velmora {
@@ -17,15 +18,15 @@ namespace almanac {
 /// that of the precession in right ascension (IAU 2006).
 inline constexpr double turnPerSecond = 7.29211514670698e-5 + 7.0856e-12;
 
-/// The Sun and the Moon in the frame that turns with the Earth, the same for every place: samples every two
-/// hours, and any moment between them. Samples and blocks of them lie on a grid that is fixed in time, so
-/// that what is found between two samples never depends on the interval that was asked for.
+/// The Sun and the Moon in the frame that turns with the Earth, the same for every place: samples every
+/// three hours, and any moment between them. Samples and blocks of them lie on a grid that is fixed in time,
+/// so that what is found between two samples never depends on the interval that was asked for.
 class Sky {
  public:
-  static constexpr double sampleSeconds = 7200;
+  static constexpr double sampleSeconds = 10800;
   static constexpr std::size_t samplesPerBlock = 4;
   static constexpr double blockSeconds = sampleSeconds * samplesPerBlock;
-  static constexpr std::int64_t maximumBlocks = 96;  ///< of one sky: 32 days
+  static constexpr std::int64_t maximumBlocks = 64;  ///< of one sky: 32 days
   static constexpr std::size_t maximumSamples = maximumBlocks * samplesPerBlock + 1;
 
   /// The blocks that a stretch of time touches, numbered from 1970.
@@ -67,15 +68,12 @@ class Sky {
   struct Turn {
     double cosine, sine;
 
-    /// Of up to 0.6 radians, by Taylor's series.
+    static Turn of(double x) { return {std::cos(x), std::sin(x)}; }
+    /// Of up to 0.8 radians, by Taylor's series.
     static Turn ofSmall(double x) {
-      const double s = x * x;
-      constexpr double c2 = -1.0 / 2, c4 = 1.0 / 24, c6 = -1.0 / 720, c8 = 1.0 / 40320, c10 = -1.0 / 3628800,
-                       c12 = 1.0 / 479001600, c14 = -1.0 / 87178291200;
-      constexpr double s3 = -1.0 / 6, s5 = 1.0 / 120, s7 = -1.0 / 5040, s9 = 1.0 / 362880,
-                       s11 = -1.0 / 39916800, s13 = 1.0 / 6227020800;
-      return {1 + s * (c2 + s * (c4 + s * (c6 + s * (c8 + s * (c10 + s * (c12 + s * c14)))))),
-              x + x * s * (s3 + s * (s5 + s * (s7 + s * (s9 + s * (s11 + s * s13)))))};
+      const double xx = x * x;
+      return {ephemeris::polynomial(ephemeris::taylorOfCosine, xx),
+              x * ephemeris::polynomial(ephemeris::taylorOfSine, xx)};
     }
     Turn operator+(const Turn& b) const {
       return {cosine * b.cosine - sine * b.sine, sine * b.cosine + cosine * b.sine};
@@ -85,7 +83,7 @@ class Sky {
     }
   };
   /// A block of a path in the frame of the stars, where all is slow, over the number of samples since its
-  /// start: 0.0001″ of the Moon at most from the path itself.
+  /// start: 0.0004″ of the Moon at most from the path itself.
   struct Piece {
     Quartic x, y, z;
   };
@@ -95,7 +93,9 @@ class Sky {
   };
 
   const BodyInSky& of(ephemeris::Body body) const { return _bodies[static_cast<std::size_t>(body)]; }
-  BodyInSky over(const ephemeris::Paths& paths, ephemeris::Body body) const;
+  /// Samples at those seconds of Terrestrial Time.
+  BodyInSky over(const ephemeris::Paths& paths, ephemeris::Body body,
+                 const std::vector<double>& terrestrial) const;
 
   std::int64_t _first;
   std::vector<Turn> _turns;  ///< at each sample
