@@ -2,63 +2,91 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
+#include <cstddef>
 #include <limits>
-#include <numbers>
 
 #include <velmora/almanac/Disc.h>
-#include <velmora/almanac/Observer.h>
 #include <velmora/almanac/Refraction.h>
+#include <velmora/almanac/Topocentric.h>
+#include <velmora/ephemeris/Sines.h>
+#include <velmora/ephemeris/TimeScales.h>
 
 namespace velmora::almanac {
 namespace {
 
-using ephemeris::Apparent;
-using ephemeris::Vector;
+using ephemeris::angleOf;
+using ephemeris::Doubles;
+using ephemeris::Geocentric;
+using ephemeris::lane;
+using ephemeris::laneCount;
+using ephemeris::nearestWhole;
+using ephemeris::selectLess;
 
-constexpr double turn = 2 * std::numbers::pi;
-constexpr double radiansPerHour = 15 * degree;
+constexpr double degreesOfRadian = 1 / degree;
+constexpr double turn = ephemeris::radiansOfTurn;
 
-double positiveAngle(double angle) {
-  const double positive = angle < 0 ? angle + turn : angle;
-  return positive < turn ? positive : positive - turn;
+/// The fields of `Position`, at one time or at several side by side.
+template <class Number>
+struct Fields {
+  Number rightAscension, declination, distance;
+  Number topocentricRightAscension, topocentricDeclination, topocentricDistance;
+  Number azimuth, altitude, apparentAltitude, semidiameter;
+};
+
+/// The angle within a whole turn, which is given in the unit of the angle.
+template <class Number>
+Number positive(const Number& angle, double wholeTurn) {
+  const Number zero{}, positive = selectLess(angle, zero, angle + wholeTurn, angle);
+  return selectLess(positive, zero + wholeTurn, positive,
+                    zero);  // a tiny negative angle rounds up to the turn
 }
 
-/// Greenwich apparent sidereal time, radians.
-double apparentSiderealTime(Instant at) {
-  const ephemeris::Nutation nutation = ephemeris::nutation(at);
-  return positiveAngle(ephemeris::meanSiderealTime(at) +
-                       nutation.longitude * std::cos(nutation.trueObliquity));
+template <class Number>
+Number length(const Number& a, const Number& b) {
+  return ephemeris::squareRoot(a * a + b * b);
 }
 
-Local seenFrom(const Observer& observer, const Apparent& place, double siderealTime) {
-  const double outward = place.distance * std::cos(place.declination);
-  const double east = place.rightAscension - siderealTime;  // of Greenwich
-  return observer.seen(
-      {outward * std::cos(east), outward * std::sin(east), place.distance * std::sin(place.declination)});
+/// Degrees; the series of the arcsine, of which the argument is less than 0.005.
+template <class Number>
+Number semidiameterOf(Body body, const Number& distance) {
+  const Number s = (Number{} + radiusOf(body)) / distance, ss = s * s;
+  return s * (1.0 + ss * (1.0 / 6 + ss * (3.0 / 40))) * degreesOfRadian;
 }
 
-Position positionOf(const Observer& observer, double longitude, Body body, const Apparent& place,
-                    double siderealTime) {
-  const Local local = seenFrom(observer, place, siderealTime);
-  const double level = std::hypot(local.east, local.north), distance = std::hypot(level, local.up);
-  const double altitude = std::atan2(local.up, level) / degree;
-  const double outward = observer.cosLatitude * local.up - observer.sinLatitude * local.north;
-  const double northward = observer.sinLatitude * local.up + observer.cosLatitude * local.north;
-  const double rightAscension =
-      std::remainder(siderealTime + longitude * degree + std::atan2(local.east, outward), turn);
+template <class Number>
+Fields<Number> fieldsOf(const Observer& observer, Body body, const Geocentric<Number>& there,
+                        const Number& meanMeridian) {
+  const Number meridian = meanMeridian + there.equationOfTheEquinoxes;
+  const auto local = fromPlace(observer, there, meridian);
+  const Number level = length(local.east, local.north), distance = length(level, local.up);
+  const Number altitude = angleOf(local.up, level) * degreesOfRadian;
+  const Number hourAngle = angleOf(local.east, local.outward) * (1 / turn);  // to the east, turns
+  const Number rightAscension = meridian - nearestWhole(meridian) + hourAngle;
+  constexpr double hours = 24, degrees = 360;
   return {
-      .rightAscension = place.rightAscension / radiansPerHour,
-      .declination = place.declination / degree,
-      .distance = place.distance,
-      .topocentricRightAscension = positiveAngle(rightAscension) / radiansPerHour,
-      .topocentricDeclination = std::atan2(northward, std::hypot(outward, local.east)) / degree,
+      .rightAscension = positive(angleOf(there.y, there.x) * (hours / turn), hours),
+      .declination = angleOf(there.z, length(there.x, there.y)) * degreesOfRadian,
+      .distance = there.distance,
+      .topocentricRightAscension = positive((rightAscension - nearestWhole(rightAscension)) * hours, hours),
+      .topocentricDeclination = angleOf(local.northward, length(local.outward, local.east)) * degreesOfRadian,
       .topocentricDistance = distance,
-      .azimuth = azimuthOf(local),
+      .azimuth = positive(angleOf(local.east, local.north) * degreesOfRadian, degrees),
       .altitude = altitude,
-      .apparentAltitude = apparentAltitude(altitude),
-      .semidiameter = std::asin(radiusOf(body) / distance) / degree,
-  };
+      .apparentAltitude = altitude + refractionOf(altitude),
+      .semidiameter = semidiameterOf(body, distance)};
+}
+
+Position positionOf(const Fields<Doubles>& f, std::size_t i) {
+  return {lane(f.rightAscension, i),
+          lane(f.declination, i),
+          lane(f.distance, i),
+          lane(f.topocentricRightAscension, i),
+          lane(f.topocentricDeclination, i),
+          lane(f.topocentricDistance, i),
+          lane(f.azimuth, i),
+          lane(f.altitude, i),
+          lane(f.apparentAltitude, i),
+          lane(f.semidiameter, i)};
 }
 
 Position none() {
@@ -66,65 +94,35 @@ Position none() {
   return {nan, nan, nan, nan, nan, nan, nan, nan, nan, nan};
 }
 
-double dot(const Local& a, const Local& b) { return a.east * b.east + a.north * b.north + a.up * b.up; }
-
-Local cross(const Local& a, const Local& b) {
-  return {a.north * b.up - a.up * b.north, a.up * b.east - a.east * b.up,
-          a.east * b.north - a.north * b.east};
-}
-
-/// The angle at a body from the north of the sky by its east to another direction, radians.
-double positionAngle(const Observer& observer, const Local& body, const Local& other) {
-  const Local pole{0, observer.cosLatitude, observer.sinLatitude};
-  const Local east = cross(pole, body), north = cross(body, east);
-  return std::atan2(dot(other, east) * body.distance(), dot(other, north));
-}
-
 }  // namespace
 
 std::optional<Position> position(const Place& place, Body body, Instant at) {
-  const auto apparent = ephemeris::apparent(body, at);
-  if (!apparent || !isValid(place)) return std::nullopt;
-  return positionOf(Observer(place), place.longitude, body, *apparent, apparentSiderealTime(at));
+  if (!isValid(place) || !ephemeris::covers(at)) return std::nullopt;
+  const auto there = geocentric(body, ephemeris::terrestrialCenturies(at));
+  const auto f = fieldsOf(Observer(place), body, there, meanMeridian(place, at));
+  return Position{f.rightAscension,         f.declination,         f.distance, f.topocentricRightAscension,
+                  f.topocentricDeclination, f.topocentricDistance, f.azimuth,  f.altitude,
+                  f.apparentAltitude,       f.semidiameter};
 }
 
 void positions(const Place& place, Body body, std::span<const Instant> instants, std::span<Position> out) {
   if (!isValid(place)) return std::fill(out.begin(), out.end(), none());
   const Observer observer(place);
-  std::array<Apparent, 64> part;
-  for (std::size_t first = 0; first < instants.size(); first += part.size()) {
-    const auto some = instants.subspan(first, std::min(part.size(), instants.size() - first));
-    ephemeris::apparent(body, some, std::span(part).first(some.size()));
-    for (std::size_t k = 0; k < some.size(); ++k) {
-      out[first + k] = ephemeris::covers(some[k]) ? positionOf(observer, place.longitude, body, part[k],
-                                                               apparentSiderealTime(some[k]))
-                                                  : none();
+  for (std::size_t first = 0; first < instants.size(); first += laneCount) {
+    const std::size_t count = std::min(instants.size() - first, laneCount);
+    std::array<double, laneCount> centuries{}, meridians{};
+    for (std::size_t i = 0; i < count; ++i) {
+      const Instant at = instants[first + i];
+      if (!ephemeris::covers(at)) continue;
+      centuries[i] = ephemeris::terrestrialCenturies(at);
+      meridians[i] = meanMeridian(place, at);
+    }
+    const auto there = geocentric(body, ephemeris::doublesOf(centuries.data()));
+    const auto f = fieldsOf(observer, body, there, ephemeris::doublesOf(meridians.data()));
+    for (std::size_t i = 0; i < count; ++i) {
+      out[first + i] = ephemeris::covers(instants[first + i]) ? positionOf(f, i) : none();
     }
   }
-}
-
-std::optional<Illumination> illumination(const Place& place, Instant at) {
-  const auto moon = ephemeris::apparent(Body::moon, at), sun = ephemeris::apparent(Body::sun, at);
-  if (!moon || !sun || !isValid(place)) return std::nullopt;
-  const Observer observer(place);
-  const double siderealTime = apparentSiderealTime(at);
-  const Local toMoon = seenFrom(observer, *moon, siderealTime),
-              toSun = seenFrom(observer, *sun, siderealTime);
-  const Local lit{toSun.east - toMoon.east, toSun.north - toMoon.north, toSun.up - toMoon.up};
-  const Local back{-toMoon.east, -toMoon.north, -toMoon.up};
-  const double phaseAngle = std::atan2(std::sqrt(dot(cross(lit, back), cross(lit, back))), dot(lit, back));
-  const double elongation = positiveAngle(moon->longitude - sun->longitude);
-  const double brightLimb = positionAngle(observer, toMoon, toSun);
-  const double parallactic = positionAngle(observer, toMoon, {0, 0, 1});
-  return Illumination{
-      .fraction = (1 + std::cos(phaseAngle)) / 2,
-      .isWaxing = elongation < turn / 2,
-      .elongation = elongation / degree,
-      .phaseAngle = phaseAngle / degree,
-      .brightLimbAngle = positiveAngle(brightLimb) / degree,
-      .parallacticAngle = parallactic / degree,
-      .tilt = positiveAngle(std::remainder(brightLimb - parallactic, turn)) / degree,
-  };
 }
 
 }  // namespace velmora::almanac

@@ -1,19 +1,10 @@
 #include <velmora/almanac/Refraction.h>
 
-#include <algorithm>
-#include <cmath>
-
-#include <velmora/almanac/Observer.h>
 #include <velmora/almanac/Positions.h>
 
 namespace velmora::almanac {
 
-double refraction(double trueAltitude) {
-  if (trueAltitude <= lowestRefracted) return 0;
-  // In the zenith the formula as printed is −0.0014′.
-  const double minutes = 1.02 / std::tan((trueAltitude + 10.3 / (trueAltitude + 5.11)) * degree);
-  return std::max(minutes, 0.0) / 60;
-}
+double refraction(double trueAltitude) { return refractionOf(trueAltitude); }
 
 }  // namespace velmora::almanac
 

@@ -2,6 +2,7 @@
 #include <limits>
 
 #include <velmora/ephemeris/Evaluation.h>
+#include <velmora/ephemeris/Geocentric.h>
 #include <velmora/ephemeris/TimeScales.h>
 
 namespace velmora::ephemeris {
@@ -21,15 +22,11 @@ Number positive(const Number& angle) {
 
 template <class Number>
 Fields<Number> fieldsAt(Body body, const Number& centuries) {
-  const auto angles = anglesAt(centuries);
-  const auto tilted = tilt(centuries, angles);
-  const auto place = ecliptical(body, centuries, angles);
-  const Number longitude = place.longitude + tilted.longitude;
-  const auto direction = equatorial(longitude, place.latitude, tilted.trueObliquity);
-  const Number inEquator = squareRoot(direction.x * direction.x + direction.y * direction.y);
-  return {positive(angleOf(direction.y, direction.x)), angleOf(direction.z, inEquator),
-          positive((longitude - nearestWhole(longitude)) * radiansOfTurn), place.latitude * radiansOfTurn,
-          place.distance};
+  const auto place = geocentric(body, centuries);
+  const Number inEquator = squareRoot(place.x * place.x + place.y * place.y);
+  return {positive(angleOf(place.y, place.x)), angleOf(place.z, inEquator),
+          positive((place.longitude - nearestWhole(place.longitude)) * radiansOfTurn),
+          place.latitude * radiansOfTurn, place.distance};
 }
 
 constexpr double nan = std::numeric_limits<double>::quiet_NaN();

@@ -5,7 +5,8 @@
 namespace [[gnu::visibility("hidden")]] velmora {
 namespace ephemeris {
 
-/// Mean sidereal time at Greenwich in turns, counted from a day near J2000 on; not for other folders.
+/// Mean sidereal time at Greenwich in turns, counted from a day near J2000 on. For the ephemeris and
+/// the almanac.
 double siderealTurns(Instant instant);
 
 }  // namespace ephemeris

@@ -3,6 +3,7 @@
 
 #include <velmora/ephemeris/EarthRotation.h>
 #include <velmora/ephemeris/Evaluation.h>
+#include <velmora/ephemeris/Geocentric.h>
 #include <velmora/ephemeris/PathData.h>
 
 namespace velmora::ephemeris {
@@ -52,15 +53,12 @@ constexpr Square shares = [] {
 
 /// The places of the body at eight times in the frame of `Paths::vector`.
 Rectangular<Doubles> placesAt(Body body, const Doubles& centuries) {
-  const auto angles = anglesAt(centuries);
-  const auto tilted = tilt(centuries, angles);
-  const auto place = ecliptical(body, centuries, angles);
-  const auto direction = equatorial(place.longitude + tilted.longitude, place.latitude, tilted.trueObliquity);
+  const auto place = geocentric(body, centuries);
   // The equation of the equinoxes, of which the cube is nothing.
-  const Doubles turn = tilted.longitude * cosineAndSine(tilted.trueObliquity).re * radiansOfTurn;
+  const Doubles turn = place.equationOfTheEquinoxes * radiansOfTurn;
   const Doubles cosine = 1.0 - 0.5 * turn * turn;
-  return {(direction.x * cosine + direction.y * turn) * place.distance,
-          (direction.y * cosine - direction.x * turn) * place.distance, direction.z * place.distance};
+  return {(place.x * cosine + place.y * turn) * place.distance,
+          (place.y * cosine - place.x * turn) * place.distance, place.z * place.distance};
 }
 
 Segment segmentOf(Body body, double number) {
