@@ -47,22 +47,23 @@ enum class ContactName { C1, C2, C3, C4, P1, U1, U2, U3, U4, P4 };
 
 /// A moment of an eclipse as seen from a place.
 struct EclipseMoment {
-  Instant at{};
+  Instant at{};           ///< when
   double altitude = 0.0;  ///< apparent (refracted) altitude of the centre, degrees; as `Position`'s
   double azimuth = 0.0;   ///< degrees [0, 360), north is zero and east is +90°
   bool isUp = false;      ///< whether part of the eclipsed body is above the horizon
   friend bool operator==(const EclipseMoment&, const EclipseMoment&) = default;
 };
 
+/// A contact and when it is.
 struct Contact {
-  ContactName name = ContactName::C1;
-  EclipseMoment moment;
+  ContactName name = ContactName::C1;  ///< which one
+  EclipseMoment moment;                ///< when it is, and where the eclipsed body stands
   friend bool operator==(const Contact&, const Contact&) = default;
 };
 
 /// An eclipse as it is from a place, whether above its horizon or below.
 struct LocalEclipse {
-  Body body = Body::sun;
+  Body body = Body::sun;                    ///< the eclipsed one
   EclipseKind kind = EclipseKind::partial;  ///< there: solar total, annular or partial; never hybrid
   /// At the maximum there. Solar: the ratio of the diameters where it is total or annular, else the covered
   /// part of the Sun's diameter. Lunar: as `Eclipse` says.
@@ -76,9 +77,10 @@ struct LocalEclipse {
   /// is at some time of the partial and total phase, of a penumbral eclipse at some time of its penumbral
   /// phase.
   bool isVisible = false;
-  /// First and last instant at which something of it can be seen; equal to the contacts unless the body rises
-  /// or sets in between. Default where nothing is visible.
-  Instant visibleFrom{}, visibleTo{};
+  /// First instant at which something of it can be seen: a contact, unless the body rises or sets in between.
+  /// Default where nothing is visible.
+  Instant visibleFrom{};
+  Instant visibleTo{};  ///< the last one, likewise
   /// The most that is seen: the maximum if the body is up then, else the moment of rising or setting. Default
   /// where nothing is visible.
   EclipseMoment best;

@@ -18,6 +18,7 @@ namespace velmora::almanac {
 
 using ephemeris::Body;
 
+/// What a body does: rise, set or pass the meridian; for the Sun, twilight begins or ends.
 enum class EventKind {
   rise,
   set,
@@ -32,7 +33,7 @@ enum class EventKind {
 
 /// Something that a body does at an instant. Twilight is the Sun's.
 struct Event {
-  Instant at{};
+  Instant at{};  ///< when
   Body body = Body::sun;
   EventKind kind = EventKind::rise;
   double azimuth = 0.0;   ///< degrees [0, 360), north is zero and east is +90°
@@ -46,7 +47,8 @@ enum class AllDay { no, up, down };
 
 /// What happens in the half-open interval [start, end).
 struct Day {
-  Instant start{}, end{};
+  Instant start{};            ///< the first instant of it
+  Instant end{};              ///< the first after it
   std::vector<Event> events;  ///< in time order, of the kinds asked for
   AllDay sun = AllDay::no;
   AllDay moon = AllDay::no;
@@ -98,7 +100,8 @@ bool forEachPlace(std::span<const Place> places, Instant start, Instant end, con
 
 /// The half-open [start, end).
 struct Interval {
-  Instant start{}, end{};
+  Instant start{};  ///< the first instant of it
+  Instant end{};    ///< the first after it
   friend bool operator==(const Interval&, const Interval&) = default;
 };
 
@@ -108,7 +111,7 @@ std::optional<Interval> civilDay(const TimeZone& zone, std::chrono::year_month_d
 
 /// When the centre of a body passes an altitude.
 struct Crossing {
-  Instant at{};
+  Instant at{};           ///< when
   double azimuth = 0.0;   ///< degrees [0, 360)
   bool isRising = false;  ///< upward
   friend bool operator==(const Crossing&, const Crossing&) = default;

@@ -6,11 +6,12 @@
 
 namespace velmora::almanac {
 
+/// The four that calendars name.
 enum class PrincipalPhase { newMoon, firstQuarter, fullMoon, lastQuarter };
 
 /// The instant at which the apparent longitudes of Moon and Sun differ by a whole number of quarters.
 struct PhaseEvent {
-  Instant at{};
+  Instant at{};  ///< when
   PrincipalPhase phase = PrincipalPhase::newMoon;
   friend bool operator==(const PhaseEvent&, const PhaseEvent&) = default;
 };
@@ -20,7 +21,7 @@ std::vector<PhaseEvent> phases(Instant from, Instant to);
 
 /// The Moon nearest to or farthest from the centre of the Earth.
 struct Apsis {
-  Instant at{};
+  Instant at{};  ///< when
   bool isPerigee = false;
   double distance = 0.0;  ///< km
   friend bool operator==(const Apsis&, const Apsis&) = default;
@@ -29,11 +30,12 @@ struct Apsis {
 /// The apsides of the Moon in [from, to), in time order; cut as above.
 std::vector<Apsis> apsides(Instant from, Instant to);
 
+/// The beginnings of the seasons, named by their months since they differ by hemisphere.
 enum class Season { marchEquinox, juneSolstice, septemberEquinox, decemberSolstice };
 
 /// The instant at which the Sun's apparent longitude is a whole number of quarters.
 struct SeasonEvent {
-  Instant at{};
+  Instant at{};  ///< when
   Season season = Season::marchEquinox;
   friend bool operator==(const SeasonEvent&, const SeasonEvent&) = default;
 };

@@ -21,7 +21,7 @@ struct Convention {
   /// The point of the disc that rises.
   enum class Limb { upper, center, lower };
 
-  Limb limb = Limb::upper;
+  Limb limb = Limb::upper;                 ///< that point
   double horizonRefraction = 34.0 / 60.0;  ///< degrees, at the horizon; −2..2
   double sunSemidiameter = 16.0 / 60.0;  ///< degrees, the Sun's at every distance, −2..2; the Moon's is true
 

@@ -71,9 +71,9 @@ VELMORA_API velmora_status velmora_zone_offset(const velmora_zone* zone, double 
 
 /** A day on the calendar (Gregorian). */
 typedef struct velmora_date {
-  int32_t year;
+  int32_t year;  /**< 1900..2100 */
   int32_t month; /**< 1..12 */
-  int32_t day;   /**< 1.. */
+  int32_t day;   /**< 1 to 31 */
 } velmora_date;
 
 /**
@@ -85,7 +85,8 @@ VELMORA_API velmora_status velmora_civil_day(const velmora_zone* zone, velmora_d
 
 /** A city of the shipped table, texts in UTF-8 and zero-terminated. */
 typedef struct velmora_city {
-  double latitude, longitude;
+  double latitude;  /**< degrees, north positive */
+  double longitude; /**< degrees, east positive */
   int64_t people;   /**< how many live there; 0 where that is unknown */
   char name[128];   /**< its own: "Portland" */
   char region[128]; /**< state or province, in English: "Maine"; may be empty */
@@ -126,22 +127,23 @@ enum { VELMORA_RISE_AND_SET = 0, VELMORA_WITH_TWILIGHT = 1, VELMORA_WITH_TRANSIT
 
 /** Something that a body does. */
 typedef struct velmora_event {
-  double at;
-  int32_t body; /**< velmora_body */
-  int32_t kind; /**< velmora_event_kind */
-  double azimuth;
+  double at;       /**< the instant */
+  int32_t body;    /**< velmora_body */
+  int32_t kind;    /**< velmora_event_kind */
+  double azimuth;  /**< from north to east */
   double altitude; /**< apparent (refracted), of the centre */
 } velmora_event;
 
 /** What happens in [start, end). Its events stand in the list filled beside it. */
 typedef struct velmora_day {
-  double start, end;
-  int32_t sun;     /**< velmora_all_day */
-  int32_t moon;    /**< velmora_all_day */
-  double daylight; /**< seconds for which the Sun is up */
-  double darkness; /**< seconds for which the Sun's centre is below -18 degrees */
-  uint64_t first_event;
-  uint64_t event_count;
+  double start;         /**< its first instant */
+  double end;           /**< the first instant after it */
+  int32_t sun;          /**< velmora_all_day */
+  int32_t moon;         /**< velmora_all_day */
+  double daylight;      /**< seconds for which the Sun is up */
+  double darkness;      /**< seconds for which the Sun's centre is below -18 degrees */
+  uint64_t first_event; /**< number of its first event in the list */
+  uint64_t event_count; /**< how many events it has */
 } velmora_day;
 
 /** Where a body counts as risen; null wherever a convention is taken stands for what national offices print.
@@ -171,9 +173,14 @@ VELMORA_API velmora_status velmora_days(const velmora_place* place, const velmor
 
 /** The day of a place among many; instants are NaN where there is no such event. */
 typedef struct velmora_place_day {
-  double sun_rise, sun_set, moon_rise, moon_set; /**< the first of each */
-  double daylight, darkness;                     /**< seconds, as in velmora_day */
-  int32_t sun, moon;                             /**< velmora_all_day */
+  double sun_rise;  /**< first sunrise */
+  double sun_set;   /**< first sunset */
+  double moon_rise; /**< first moonrise */
+  double moon_set;  /**< first moonset */
+  double daylight;  /**< seconds for which the Sun is up */
+  double darkness;  /**< seconds for which the Sun is below -18 degrees */
+  int32_t sun;      /**< velmora_all_day */
+  int32_t moon;     /**< velmora_all_day */
 } velmora_place_day;
 
 /**
@@ -190,10 +197,10 @@ VELMORA_API velmora_status velmora_next(const velmora_place* place, int32_t body
 
 /** A passage of an altitude. */
 typedef struct velmora_crossing {
-  double at;
-  double azimuth;
+  double at;         /**< the instant */
+  double azimuth;    /**< from north to east */
   int32_t is_rising; /**< 1 upward, 0 downward */
-  int32_t reserved;
+  int32_t reserved;  /**< 0, for later */
 } velmora_crossing;
 
 /** Every passage of the apparent altitude, -90..90, by the body's centre in [from, to). */
@@ -206,12 +213,16 @@ VELMORA_API velmora_status velmora_crossings(const velmora_place* place, int32_t
 /** Where a body stands. Apparent places of the true equator and equinox of date; right ascensions in hours.
  */
 typedef struct velmora_position {
-  double right_ascension, declination, distance; /**< from the centre of the Earth; kilometres */
-  double topocentric_right_ascension, topocentric_declination, topocentric_distance; /**< from the place */
-  double azimuth;
-  double altitude;          /**< without refraction */
-  double apparent_altitude; /**< refracted; below -1 as without */
-  double semidiameter;      /**< of the disc, degrees */
+  double right_ascension;             /**< hours, geocentric */
+  double declination;                 /**< geocentric */
+  double distance;                    /**< from the centre of the Earth, kilometres */
+  double topocentric_right_ascension; /**< hours, from the place */
+  double topocentric_declination;     /**< from the place */
+  double topocentric_distance;        /**< from the place, kilometres */
+  double azimuth;                     /**< from north to east */
+  double altitude;                    /**< without refraction */
+  double apparent_altitude;           /**< refracted; below -1 as without */
+  double semidiameter;                /**< of the disc, degrees */
 } velmora_position;
 
 /** The body's position at each of `count` instants; every field NaN where one is not answered. */
@@ -220,14 +231,14 @@ VELMORA_API velmora_status velmora_positions(const velmora_place* place, int32_t
 
 /** How the Moon is lit. */
 typedef struct velmora_illumination {
-  double fraction;   /**< lit part of the disc, 0..1 */
-  double elongation; /**< of the Moon's longitude from the Sun's, 0..360: 0 new, 90 first quarter */
-  double phase_angle;
+  double fraction;          /**< lit part of the disc, 0..1 */
+  double elongation;        /**< of the Moon's longitude from the Sun's, 0..360: 0 new, 90 first quarter */
+  double phase_angle;       /**< Sun, Moon, observer: 0..180 */
   double bright_limb_angle; /**< position angle of the lit limb's middle, from north to east */
-  double parallactic_angle;
+  double parallactic_angle; /**< from the north of the sky to the zenith */
   double tilt;       /**< of the lit limb from straight up as seen from the place, counterclockwise, 0..360 */
   int32_t is_waxing; /**< 1 or 0 */
-  int32_t reserved;
+  int32_t reserved;  /**< 0, for later */
 } velmora_illumination;
 
 /** How the Moon is lit at each of `count` instants; every number NaN where one is not answered. */
@@ -238,9 +249,9 @@ VELMORA_API velmora_status velmora_illuminations(const velmora_place* place, con
 
 /** An instant and what it is of its kind. */
 typedef struct velmora_moment {
-  double at;
-  int32_t kind;
-  int32_t reserved;
+  double at;        /**< the instant */
+  int32_t kind;     /**< which one, as the operation says */
+  int32_t reserved; /**< 0, for later */
 } velmora_moment;
 
 /** Principal phases in [from, to); kind: 0 new moon, 1 first quarter, 2 full moon, 3 last quarter. */
@@ -254,10 +265,10 @@ VELMORA_API velmora_status velmora_seasons(double from, double to, velmora_momen
 
 /** The Moon nearest to the centre of the Earth (is_perigee 1) or farthest from it (0). */
 typedef struct velmora_apsis {
-  double at;
-  double distance; /**< kilometres */
-  int32_t is_perigee;
-  int32_t reserved;
+  double at;          /**< the instant */
+  double distance;    /**< kilometres */
+  int32_t is_perigee; /**< 1 at the perigee, 0 at the apogee */
+  int32_t reserved;   /**< 0, for later */
 } velmora_apsis;
 
 VELMORA_API velmora_status velmora_apsides(double from, double to, velmora_apsis* apsides, size_t capacity,
@@ -275,13 +286,13 @@ typedef enum velmora_eclipse_kind {
 
 /** An eclipse of the whole Earth. */
 typedef struct velmora_eclipse {
-  double maximum;
+  double maximum;   /**< when it is greatest */
   double magnitude; /**< as published: solar covered part of the diameter or ratio of the diameters */
   double gamma;     /**< least distance of the shadow's axis, equatorial radii, north positive */
   int32_t body;     /**< the eclipsed one: velmora_body */
   int32_t kind;     /**< velmora_eclipse_kind */
-  int32_t saros;
-  int32_t reserved;
+  int32_t saros;    /**< number of its series */
+  int32_t reserved; /**< 0, for later */
 } velmora_eclipse;
 
 /** The eclipses whose maximum lies in [from, to). */
@@ -304,26 +315,27 @@ typedef enum velmora_contact {
 
 /** A moment of an eclipse at a place; `at` is NaN where there is none. */
 typedef struct velmora_eclipse_moment {
-  double at;
+  double at;       /**< the instant */
   double altitude; /**< apparent, of the eclipsed body's centre */
-  double azimuth;
+  double azimuth;  /**< from north to east */
   int32_t is_up;   /**< 1 if part of the body is above the horizon, else 0 */
   int32_t contact; /**< velmora_contact; -1 where it is none */
 } velmora_eclipse_moment;
 
 /** An eclipse as it is from a place, above its horizon or below. */
 typedef struct velmora_local_eclipse {
-  int32_t body;
-  int32_t kind; /**< as seen from there; never hybrid */
-  double magnitude;
-  double obscuration; /**< solar: covered part of the disc's area, 0..1; lunar NaN */
-  velmora_eclipse_moment maximum;
-  velmora_eclipse_moment contacts[6];
-  int32_t contact_count;
-  int32_t is_visible;              /**< 1 if something of it can be seen */
-  double visible_from, visible_to; /**< NaN where nothing is */
-  velmora_eclipse_moment best;     /**< when most of it is seen */
-  double best_magnitude;           /**< NaN where nothing is */
+  int32_t body;                       /**< the eclipsed one: velmora_body */
+  int32_t kind;                       /**< as seen from there; never hybrid */
+  double magnitude;                   /**< at the maximum there, as published */
+  double obscuration;                 /**< solar: covered part of the disc's area, 0..1; lunar NaN */
+  velmora_eclipse_moment maximum;     /**< when it is greatest */
+  velmora_eclipse_moment contacts[6]; /**< in time order; those that there are not have no instant */
+  int32_t contact_count;              /**< how many of them there are */
+  int32_t is_visible;                 /**< 1 if something of it can be seen */
+  double visible_from;         /**< first instant at which something can be seen; NaN where nothing is */
+  double visible_to;           /**< the last one */
+  velmora_eclipse_moment best; /**< when most of it is seen */
+  double best_magnitude;       /**< NaN where nothing is */
 } velmora_local_eclipse;
 
 /** The eclipse from the place; VELMORA_NONE where the Moon's penumbra never touches it. */
@@ -353,12 +365,19 @@ VELMORA_API velmora_status velmora_calendar_month(const velmora_zone* zone, int3
 
 /** The calendar's rise and set record of a day, found by its fixed search. Minutes from local midnight. */
 typedef struct velmora_rise_set_record {
-  int32_t moon_rise, moon_set, sun_rise, sun_set; /**< -1 for none */
-  int32_t day_length;
-  int32_t reserved;
+  int32_t moon_rise;  /**< first moonrise */
+  int32_t moon_set;   /**< first moonset */
+  int32_t sun_rise;   /**< first sunrise */
+  int32_t sun_set;    /**< first sunset */
+  int32_t day_length; /**< sunset minus sunrise, by the calendar's rules */
+  int32_t reserved;   /**< 0, for later */
   /** Clock texts "05:48", "05:48 **" of the next day, "--:--" or "--" for none; zero-terminated. */
-  char moon_rise_text[16], moon_set_text[16], sun_rise_text[16], sun_set_text[16], twilight_begin_text[16],
-      twilight_end_text[16];
+  char moon_rise_text[16];      /**< moonrise */
+  char moon_set_text[16];       /**< moonset */
+  char sun_rise_text[16];       /**< sunrise */
+  char sun_set_text[16];        /**< sunset */
+  char twilight_begin_text[16]; /**< dawn */
+  char twilight_end_text[16];   /**< dusk */
 } velmora_rise_set_record;
 
 /** The record of a day; twilight: 0 civil, 1 nautical, 2 astronomical. */

@@ -31,6 +31,8 @@ struct Stretch {
 };
 
 struct PathData {
+  [[gnu::visibility("hidden")]] ~PathData() = default;
+
   Instant from{}, to{};
   double firstMoonSegment = 0.0, firstSunSegment = 0.0;  ///< their numbers
   std::vector<Segment> moonSegments, sunSegments;
