@@ -171,7 +171,8 @@ std::vector<Crossing> crossings(const Place& place, Body body, double altitude, 
   std::vector<Crossing> found;
   forEachSky(pathsOver(interval), interval, [&](const Sky& sky) {
     std::vector<Passage> passages;
-    Course(sky, body, observer).addPassages(level, 0, 0, sky.sampleCount() - 1, passages);
+    const Course course(sky, body, observer);  // the passages point to it
+    course.addPassages(level, 0, 0, sky.sampleCount() - 1, passages);
     find(passages);
     for (const Passage& passage : passages) {
       const Instant at = sky.timeOf(passage.sample) + Seconds(passage.seconds);
