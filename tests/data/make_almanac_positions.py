@@ -15,8 +15,12 @@ COUNT, KM_PER_AU = 1500, 149597870.7
 
 
 def seen(tt, body, latitude, hour_angle_of_zero):
-    """Right ascension, declination (degrees), distance (km), azimuth from the north, altitude."""
-    right_ascension, declination, distance = position(body, EQUATORIAL | TOPOCENTRIC, tt)[:3]
+    """Right ascension, declination (degrees), distance (km), azimuth from the north, altitude.
+
+    With light time the distance would include the way of the Earth meanwhile, up to 38 km for the Moon.
+    """
+    right_ascension, declination = position(body, EQUATORIAL | TOPOCENTRIC, tt)[:2]
+    distance = position(body, EQUATORIAL | TOPOCENTRIC | TRUE_PLACE, tt)[2]
     h, d, p = radians(hour_angle_of_zero - right_ascension), radians(declination), radians(latitude)
     south, west = cos(h) * sin(p) - tan(d) * cos(p), sin(h)
     altitude = asin(sin(p) * sin(d) + cos(p) * cos(d) * cos(h))

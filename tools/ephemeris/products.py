@@ -18,7 +18,7 @@ def number(combination):
 
 
 class Plan:
-    """The steps, pairs of places of nodes. The angles are the first nodes, each step's two follow the earlier."""
+    """The steps, pairs of places of nodes. The first nodes are the angles and then 1; each step's two follow."""
 
     def __init__(self, combinations):
         self.steps = []
@@ -26,7 +26,7 @@ class Plan:
         self._places = {}       # by the absolute number
         self._reached = set()   # absolute numbers that one step makes
         self._missing = {abs(number(k)): k for k in sorted(combinations)}
-        for angle in range(len(UNITS)): self._own(tuple(int(angle == other) for other in range(len(UNITS))))
+        for angle in range(len(UNITS) + 1): self._own(tuple(int(angle == other) for other in range(len(UNITS))))
         while self._missing:
             if not any(self._take_best(wanted, 2) for wanted in self._wanted()):
                 if not any([self._take_best(wanted, 0) for wanted in self._wanted()]): self._take_stepping_stone()

@@ -56,13 +56,21 @@ class Search:
             if not found: raise RuntimeError("no combination explains what is left")
             self._add(found)
 
-    def strongest(self, count):
-        """That many terms, refitted: coefficients of the polynomial, terms, their (cosine, sine), the residual."""
+    def strongest(self, count, negligible):
+        """That many terms, refitted: coefficients of the polynomial, terms, their (cosine, sine), the residual.
+
+        A cosine or a sine that is negligible is left out.
+        """
         head = self.degree + 1
         pairs = self.coefficients[head:].reshape(-1, 2)
         order = np.argsort(-np.hypot(*pairs.T), kind="stable")[:count]
         columns = np.concatenate([np.arange(head), np.ravel(head + 2 * order[:, None] + np.arange(2))])
-        coefficients = np.linalg.solve(self.gram[np.ix_(columns, columns)], self.right[columns])
+        used = np.ones(len(columns), bool)
+        for _ in range(2):
+            coefficients = np.zeros(len(columns))
+            some = columns[used]
+            coefficients[used] = np.linalg.solve(self.gram[np.ix_(some, some)], self.right[some])
+            used[head:] = np.abs(coefficients[head:]) >= negligible
         residual = self.values - coefficients @ self.columns[columns]
         return coefficients[:head], [self.terms[i] for i in order], coefficients[head:].reshape(-1, 2), residual
 

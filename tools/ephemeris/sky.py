@@ -6,6 +6,7 @@ import numpy as np
 
 SUN, MOON, NUTATION = 0, 1, -1
 EPHEMERIS_FILES = 2
+TRUE_PLACE = 16
 WITHOUT_NUTATION = 64
 DIRECTORY = b"/usr/share/libswe/ephe"
 J2000 = 2451545.0
@@ -29,12 +30,20 @@ def _calc(body, julian_dates, flags):
     return rows.T
 
 
-def apparent(body, julian_dates):
-    """Longitude and latitude in degrees and distance in au at dates of Terrestrial Time, one row each.
+def direction(body, julian_dates):
+    """Apparent longitude and latitude in degrees at dates of Terrestrial Time, one row each.
 
     Mean ecliptic and equinox of date. Light time and aberration are in them, nutation is not.
     """
-    return _calc(body, julian_dates, EPHEMERIS_FILES | WITHOUT_NUTATION)[0:3]
+    return _calc(body, julian_dates, EPHEMERIS_FILES | WITHOUT_NUTATION)[0:2]
+
+
+def distance(body, julian_dates):
+    """From the centre of the Earth at the instant itself, in au.
+
+    With light time the library's includes the way of the Earth while the light travels, 38 km for the Moon.
+    """
+    return _calc(body, julian_dates, EPHEMERIS_FILES | TRUE_PLACE)[2]
 
 
 def nutation(julian_dates):

@@ -72,8 +72,8 @@ class Sky {
     /// Of up to 0.8 radians, by Taylor's series.
     static Turn ofSmall(double x) {
       const double xx = x * x;
-      return {ephemeris::polynomial(ephemeris::taylorOfCosine, xx),
-              x * ephemeris::polynomial(ephemeris::taylorOfSine, xx)};
+      return {ephemeris::polynomial(ephemeris::taylorOfCosine<double>, xx),
+              x * ephemeris::polynomial(ephemeris::taylorOfSine<double>, xx)};
     }
     Turn operator+(const Turn& b) const {
       return {cosine * b.cosine - sine * b.sine, sine * b.cosine + cosine * b.sine};

@@ -1,26 +1,22 @@
 #pragma once
 
-#include <algorithm>
 #include <array>
 #include <cstddef>
-#include <span>
 
 #include <velmora/ephemeris/Ephemeris.h>
-
-#include <velmora/ephemeris/SeriesTables.h>
-#include <velmora/ephemeris/Sines.h>
+#include <velmora/ephemeris/Nodes.h>
 
 namespace [[gnu::visibility("hidden")]] velmora {
 namespace ephemeris {
 
 // Where a body stands, for one instant or for eight side by side with the same bits; not for other folders.
 
-/// The cosines and sines of the angles at a time, in both precisions.
+/// The cosines and sines of the angles at a time: of the Moon's and the Sun's in double precision, which
+/// large terms need, and of all in single precision.
 template <class Number>
 struct Angles {
-  using Small = decltype(inFloat(Number{}));
-  std::array<Complex<Number>, angleCount> large;
-  std::array<Complex<Small>, angleCount> small;
+  std::array<Complex<Number>, largeAngleCount> large;
+  std::array<Complex<Single<Number>>, angleCount> small;
 };
 
 /// The angles at `centuries` of Terrestrial Time from J2000.
@@ -28,57 +24,41 @@ template <class Number>
 Angles<Number> anglesAt(const Number& centuries) {
   Angles<Number> result;
   for (std::size_t i = 0; i < angleCount; ++i) {
-    result.large[i] = cosineAndSine(polynomial(anglePolynomials[i], centuries));
-    result.small[i] = {inFloat(result.large[i].re), inFloat(result.large[i].im)};
+    const Number turns = polynomial(anglePolynomials[i], centuries);
+    if (i < largeAngleCount) {
+      result.large[i] = cosineAndSine(turns);
+      result.small[i] = {inSingle(result.large[i].re), inSingle(result.large[i].im)};
+    } else {
+      result.small[i] = cosineAndSineOfPart<float>(inSingle(turns - nearestWhole(turns)));
+    }
   }
   return result;
 }
 
-template <class Real, class Number>
-Number total(std::span<const Term<Real>> terms, const Complex<Number>* nodes) {
-  const auto value = [&](const Term<Real>& term) {
-    return nodes[term.node].re * term.cosine + nodes[term.node].im * term.sine;
-  };
-  Number a{}, b{}, c{}, d{};  // four sums, so that none waits for another
-  for (const Term<Real>* term = terms.data(); term != terms.data() + terms.size(); term += termsTogether) {
-    a = a + value(term[0]);
-    b = b + value(term[1]);
-    c = c + value(term[2]);
-    d = d + value(term[3]);
-  }
-  return (a + b) + (c + d);
-}
+template <class Number>
+using Coordinates = std::array<Number, mostCoordinates>;
 
-/// What each part of a series comes to, its cosines and sines made from those of the angles.
-template <class Real, class Number>
-std::array<Number, 2 * mostCoordinates> totals(const Sums<Real>& sums,
-                                               const std::array<Complex<Number>, angleCount>& angles) {
-  std::array<Complex<Number>, mostNodes> nodes;
-  Complex<Number>* next = std::copy(angles.begin(), angles.end(), nodes.data());
-  for (const Product& product : sums.products) {
-    const Complex<Number> a = nodes[product.first], b = nodes[product.second];
-    const Number rr = a.re * b.re, ii = a.im * b.im, ir = a.im * b.re, ri = a.re * b.im;
-    *next++ = {rr - ii, ir + ri};
-    *next++ = {rr + ii, ir - ri};
+/// Adds a part of a series.
+template <class Real, class Summand, std::size_t count, class Number>
+void add(const Part<Real>& part, const std::array<Complex<Summand>, count>& angles, const Number& centuries,
+         Coordinates<Number>& coordinates) {
+  const Nodes<Summand> nodes(angles, part.products);
+  for (const Sum<Real>& sum : part.sums) {
+    const Number value = inDouble<Number>(nodes.total(sum));
+    Number& coordinate = coordinates[sum.coordinate];
+    coordinate = coordinate + (sum.isTimesT ? value * centuries : value);
   }
-  std::array<Number, 2 * mostCoordinates> results;
-  for (std::size_t i = 0; i < results.size(); ++i) results[i] = total(sums.terms[i], nodes.data());
-  return results;
 }
 
 /// The coordinates in the units of the table.
 template <class Number>
-std::array<Number, mostCoordinates> coordinates(const Series& series, const Number& centuries,
-                                                const Angles<Number>& angles) {
-  const auto large = totals(series.large, angles.large);
-  const auto small = totals(series.small, angles.small);
-  std::array<Number, mostCoordinates> results;
-  for (std::size_t i = 0; i < mostCoordinates; ++i) {
-    const auto growing = large[2 * i + 1] + inDouble(small[2 * i + 1]);
-    results[i] = polynomial(series.polynomials[i], centuries) + large[2 * i] + inDouble(small[2 * i]) +
-                 growing * centuries;
-  }
-  return results;
+Coordinates<Number> coordinatesOf(const Series& series, const Number& centuries,
+                                  const Angles<Number>& angles) {
+  Coordinates<Number> result;
+  for (std::size_t i = 0; i < mostCoordinates; ++i) result[i] = polynomial(series.polynomials[i], centuries);
+  add(series.large, angles.large, centuries, result);
+  add(series.small, angles.small, centuries, result);
+  return result;
 }
 
 /// Nutation and the obliquity, turns.
@@ -94,7 +74,7 @@ Tilt<Number> tilt(const Number& centuries, const Angles<Number>& angles) {
   static constexpr std::array<double, 6> meanObliquity = {84381.406,  -46.836769,   -0.0001831,
                                                           0.00200340, -0.000000576, -0.0000000434};
   constexpr double unitsOfTurn = 10000.0 * arcsecondsOfTurn;
-  const auto nutation = coordinates(nutationSeries, centuries, angles);
+  const auto nutation = coordinatesOf(nutationSeries, centuries, angles);
   const Number mean = polynomial(meanObliquity, centuries) * (1 / arcsecondsOfTurn);
   const Number obliquity = nutation[1] * (1 / unitsOfTurn);
   return {nutation[0] * (1 / unitsOfTurn), obliquity, mean + obliquity};
@@ -109,7 +89,7 @@ struct Ecliptical {
 template <class Number>
 Ecliptical<Number> ecliptical(Body body, const Number& centuries, const Angles<Number>& angles) {
   constexpr double unitsOfTurn = 1000.0 * arcsecondsOfTurn;
-  const auto place = coordinates(body == Body::sun ? sunSeries : moonSeries, centuries, angles);
+  const auto place = coordinatesOf(body == Body::sun ? sunSeries : moonSeries, centuries, angles);
   const double kilometres = body == Body::sun ? 1.0 : 0.01;
   return {place[0] * (1 / unitsOfTurn), place[1] * (1 / unitsOfTurn), place[2] * kilometres};
 }

@@ -26,7 +26,20 @@ Geocentric<Number> evaluated(Body body, const Number& centuries) {
 
 Geocentric<double> geocentric(Body body, double centuries) { return evaluated(body, centuries); }
 
-Geocentric<Doubles> geocentric(Body body, const Doubles& centuries) { return evaluated(body, centuries); }
+Geocentric<Doubles> geocentric(Body body, const Doubles& centuries) {
+  Geocentric<Doubles> result;
+  inLanes([&](auto lanes) {
+    const auto all = evaluated(body, doublesOf<typename decltype(lanes)::Doubles>(centuries));
+    result = {doublesOf(all.x),
+              doublesOf(all.y),
+              doublesOf(all.z),
+              doublesOf(all.distance),
+              doublesOf(all.longitude),
+              doublesOf(all.latitude),
+              doublesOf(all.equationOfTheEquinoxes)};
+  });
+  return result;
+}
 
 }  // namespace ephemeris
 }  // namespace velmora

@@ -2,85 +2,171 @@
 
 #include <cmath>
 #include <cstddef>
+#include <type_traits>
 
 namespace [[gnu::visibility("hidden")]] velmora {
 namespace ephemeris {
 
-// Numbers of eight instants side by side; not for other folders.
+// Numbers of eight instants side by side, in vectors of the processor; for the ephemeris and the almanac.
 
-/// Twice as many numbers as a half has, a number being worked on like any other. A scalar stands for the same
-/// number everywhere.
-template <class Half, class Real>
+inline constexpr std::size_t laneCount = 8;
+
+/// As many numbers as fill a vector, worked on like one. A scalar stands for the same number everywhere.
+template <class Real, std::size_t bytes>
+struct Pack {
+  static constexpr std::size_t count = bytes / sizeof(Real);
+  using Scalar = Real;
+  using Vector [[gnu::vector_size(bytes)]] = Real;
+  Vector numbers;
+
+  Real operator[](std::size_t index) const { return numbers[index]; }
+  void set(std::size_t index, Real number) { numbers[index] = number; }
+
+  friend Pack operator+(const Pack& a, const Pack& b) { return {a.numbers + b.numbers}; }
+  friend Pack operator-(const Pack& a, const Pack& b) { return {a.numbers - b.numbers}; }
+  friend Pack operator*(const Pack& a, const Pack& b) { return {a.numbers * b.numbers}; }
+  friend Pack operator/(const Pack& a, const Pack& b) { return {a.numbers / b.numbers}; }
+  friend Pack operator+(const Pack& a, Real b) { return {a.numbers + b}; }
+  friend Pack operator-(const Pack& a, Real b) { return {a.numbers - b}; }
+  friend Pack operator*(const Pack& a, Real b) { return {a.numbers * b}; }
+  friend Pack operator+(Real a, const Pack& b) { return {a + b.numbers}; }
+  friend Pack operator-(Real a, const Pack& b) { return {a - b.numbers}; }
+  friend Pack operator*(Real a, const Pack& b) { return {a * b.numbers}; }
+};
+
+/// Twice as many numbers as a half has.
+template <class Half>
 struct Twice {
+  static constexpr std::size_t count = 2 * Half::count;
+  using Scalar = typename Half::Scalar;
   Half low, high;
+
+  Scalar operator[](std::size_t index) const {
+    return index < Half::count ? low[index] : high[index - Half::count];
+  }
+  void set(std::size_t index, Scalar number) {
+    index < Half::count ? low.set(index, number) : high.set(index - Half::count, number);
+  }
 
   friend Twice operator+(const Twice& a, const Twice& b) { return {a.low + b.low, a.high + b.high}; }
   friend Twice operator-(const Twice& a, const Twice& b) { return {a.low - b.low, a.high - b.high}; }
   friend Twice operator*(const Twice& a, const Twice& b) { return {a.low * b.low, a.high * b.high}; }
   friend Twice operator/(const Twice& a, const Twice& b) { return {a.low / b.low, a.high / b.high}; }
-  friend Twice operator+(const Twice& a, Real b) { return {a.low + b, a.high + b}; }
-  friend Twice operator-(const Twice& a, Real b) { return {a.low - b, a.high - b}; }
-  friend Twice operator*(const Twice& a, Real b) { return {a.low * b, a.high * b}; }
-  friend Twice operator+(Real a, const Twice& b) { return {a + b.low, a + b.high}; }
-  friend Twice operator-(Real a, const Twice& b) { return {a - b.low, a - b.high}; }
-  friend Twice operator*(Real a, const Twice& b) { return {a * b.low, a * b.high}; }
+  friend Twice operator+(const Twice& a, Scalar b) { return {a.low + b, a.high + b}; }
+  friend Twice operator-(const Twice& a, Scalar b) { return {a.low - b, a.high - b}; }
+  friend Twice operator*(const Twice& a, Scalar b) { return {a.low * b, a.high * b}; }
+  friend Twice operator+(Scalar a, const Twice& b) { return {a + b.low, a + b.high}; }
+  friend Twice operator-(Scalar a, const Twice& b) { return {a - b.low, a - b.high}; }
+  friend Twice operator*(Scalar a, const Twice& b) { return {a * b.low, a * b.high}; }
 };
-
-using TwoDoubles [[gnu::vector_size(16)]] = double;
-using FourFloats [[gnu::vector_size(16)]] = float;
-
-inline constexpr std::size_t laneCount = 8;
-using Doubles = Twice<Twice<TwoDoubles, double>, double>;
-using Floats = Twice<FourFloats, float>;
-
-inline double lane(const Doubles& numbers, std::size_t index) {
-  const auto& half = index < 4 ? numbers.low : numbers.high;
-  return index % 4 < 2 ? half.low[index % 2] : half.high[index % 2];
-}
-
-inline Doubles doublesOf(const double* x) {
-  return {{TwoDoubles{x[0], x[1]}, TwoDoubles{x[2], x[3]}}, {TwoDoubles{x[4], x[5]}, TwoDoubles{x[6], x[7]}}};
-}
-
-inline void store(const Doubles& numbers, double* out) {
-  for (std::size_t i = 0; i < laneCount; ++i) out[i] = lane(numbers, i);
-}
-
-// What a sum is computed in, from what its angles are given in, and back.
-
-inline float inFloat(double number) { return static_cast<float>(number); }
-inline FourFloats inFloat(const Twice<TwoDoubles, double>& x) {
-  return FourFloats{static_cast<float>(x.low[0]), static_cast<float>(x.low[1]), static_cast<float>(x.high[0]),
-                    static_cast<float>(x.high[1])};
-}
-inline Floats inFloat(const Doubles& x) { return {inFloat(x.low), inFloat(x.high)}; }
-
-inline double inDouble(float number) { return number; }
-inline Twice<TwoDoubles, double> inDouble(const FourFloats& x) {
-  return {TwoDoubles{x[0], x[1]}, TwoDoubles{x[2], x[3]}};
-}
-inline Doubles inDouble(const Floats& x) { return {inDouble(x.low), inDouble(x.high)}; }
-
-// What a mathematics library has for one number.
-
-inline TwoDoubles squareRoot(const TwoDoubles& x) { return TwoDoubles{std::sqrt(x[0]), std::sqrt(x[1])}; }
-inline double squareRoot(double x) { return std::sqrt(x); }
-template <class Half>
-Twice<Half, double> squareRoot(const Twice<Half, double>& x) {
-  return {squareRoot(x.low), squareRoot(x.high)};
-}
 
 /// `yes` where a < b, `no` elsewhere.
 inline double selectLess(double a, double b, double yes, double no) { return a < b ? yes : no; }
-inline TwoDoubles selectLess(const TwoDoubles& a, const TwoDoubles& b, const TwoDoubles& yes,
-                             const TwoDoubles& no) {
-  return a < b ? yes : no;
+template <class Real, std::size_t bytes>
+Pack<Real, bytes> selectLess(const Pack<Real, bytes>& a, const Pack<Real, bytes>& b,
+                             const Pack<Real, bytes>& yes, const Pack<Real, bytes>& no) {
+  return {a.numbers < b.numbers ? yes.numbers : no.numbers};
 }
 template <class Half>
-Twice<Half, double> selectLess(const Twice<Half, double>& a, const Twice<Half, double>& b,
-                               const Twice<Half, double>& yes, const Twice<Half, double>& no) {
+Twice<Half> selectLess(const Twice<Half>& a, const Twice<Half>& b, const Twice<Half>& yes,
+                       const Twice<Half>& no) {
   return {selectLess(a.low, b.low, yes.low, no.low), selectLess(a.high, b.high, yes.high, no.high)};
 }
+
+inline double squareRoot(double x) { return std::sqrt(x); }
+template <class Real, std::size_t bytes>
+Pack<Real, bytes> squareRoot(const Pack<Real, bytes>& x) {
+  Pack<Real, bytes> result;
+  for (std::size_t i = 0; i < Pack<Real, bytes>::count; ++i) result.numbers[i] = std::sqrt(x.numbers[i]);
+  return result;
+}
+template <class Half>
+Twice<Half> squareRoot(const Twice<Half>& x) {
+  return {squareRoot(x.low), squareRoot(x.high)};
+}
+
+/// The eight, in vectors that every processor has, or in those of twice the size.
+struct Narrow {
+  using Doubles = Twice<Twice<Pack<double, 16>>>;
+  using Floats = Twice<Pack<float, 16>>;
+};
+struct Wide {
+  using Doubles = Twice<Pack<double, 32>>;
+  using Floats = Pack<float, 32>;
+};
+
+/// The type of single precision beside one of double precision.
+template <class Number>
+struct InSingle;
+template <>
+struct InSingle<double> {
+  using Type = float;
+};
+template <>
+struct InSingle<Narrow::Doubles> {
+  using Type = Narrow::Floats;
+};
+template <>
+struct InSingle<Wide::Doubles> {
+  using Type = Wide::Floats;
+};
+template <class Number>
+using Single = typename InSingle<Number>::Type;
+
+inline float inSingle(double x) { return static_cast<float>(x); }
+template <class Number>
+Single<Number> inSingle(const Number& x) {
+  Single<Number> result;
+  for (std::size_t i = 0; i < laneCount; ++i) result.set(i, static_cast<float>(x[i]));
+  return result;
+}
+
+template <class Number>
+Number inDouble(const Number& x) {
+  return x;
+}
+template <class Number>
+Number inDouble(const Single<Number>& x) {
+  if constexpr (std::is_same_v<Number, double>) {
+    return x;
+  } else {
+    Number result;
+    for (std::size_t i = 0; i < laneCount; ++i) result.set(i, x[i]);
+    return result;
+  }
+}
+
+/// The eight as they are handed around.
+using Doubles = Narrow::Doubles;
+
+inline double lane(const Doubles& numbers, std::size_t index) { return numbers[index]; }
+
+/// Eight numbers in a row, or eight in vectors of another size.
+template <class Number = Doubles, class Numbers>
+Number doublesOf(const Numbers& numbers) {
+  Number result;
+  for (std::size_t i = 0; i < laneCount; ++i) result.set(i, numbers[i]);
+  return result;
+}
+
+#if defined(__x86_64__) && !defined(__clang__)  // which does not inline all of it
+template <class Work>
+[[gnu::target("avx2"), gnu::flatten]] void inWideLanes(const Work& work) {
+  work(Wide());
+}
+
+/// Does work(Narrow()) or work(Wide()), which give the same bits.
+template <class Work>
+void inLanes(const Work& work) {
+  static const bool isWide = __builtin_cpu_supports("avx2");
+  isWide ? inWideLanes(work) : work(Narrow());
+}
+#else
+template <class Work>
+void inLanes(const Work& work) {
+  work(Narrow());
+}
+#endif
 
 }  // namespace ephemeris
 }  // namespace velmora

@@ -34,34 +34,48 @@ constexpr Number nearestWhole(const Number& x) {
 }
 
 /// The sum of the powers of x with these coefficients, the constant first.
-template <class Number, std::size_t count>
-constexpr Number polynomial(const std::array<double, count>& coefficients, const Number& x) {
-  Number sum = coefficients[count - 1] * x + coefficients[count - 2];
+template <class Number, class Real, std::size_t count>
+constexpr Number polynomial(const std::array<Real, count>& coefficients, const Number& x) {
+  Number sum = x * coefficients[count - 1] + coefficients[count - 2];
   for (std::size_t i = count - 2; i-- > 0;) sum = sum * x + coefficients[i];
   return sum;
 }
 
-/// Taylor's coefficients 1, −1 / (n (n + 1)), … of the even powers, of cos x for n = 1, of sin x / x for n
+/// Taylor's coefficients 1, −1 / (n (n + 1)), … of the even powers: of cos x for n = 1, of sin x / x for n
 /// = 2.
-template <std::size_t count>
-constexpr std::array<double, count> taylorOfEvenPowers(double n) {
-  std::array<double, count> coefficients{1.0};
-  for (std::size_t i = 1; i < count; ++i, n += 2) coefficients[i] = -coefficients[i - 1] / (n * (n + 1));
+template <class Real, std::size_t count>
+constexpr std::array<Real, count> taylorOfEvenPowers(double n) {
+  std::array<Real, count> coefficients{};
+  double coefficient = 1;
+  for (Real& rounded : coefficients) {
+    rounded = static_cast<Real>(coefficient);
+    coefficient /= -n * (n + 1);
+    n += 2;
+  }
   return coefficients;
 }
 
-inline constexpr auto taylorOfCosine = taylorOfEvenPowers<9>(1);
-inline constexpr auto taylorOfSine = taylorOfEvenPowers<8>(2);
+/// As many coefficients as the precision needs up to π/4.
+template <class Real>
+inline constexpr auto taylorOfCosine = taylorOfEvenPowers<Real, sizeof(Real) + 1>(1);
+template <class Real>
+inline constexpr auto taylorOfSine = taylorOfEvenPowers<Real, sizeof(Real)>(2);
 
-/// Cosine and sine of an angle in turns, with an error of some 10^-15. Taylor's series of a quarter of the
-/// angle, doubled twice.
+/// Cosine and sine of an angle from −1/2 to 1/2 turn, with an error of up to 32 halves of the last bit.
+/// Taylor's series of a quarter of the angle, doubled twice.
+template <class Real, class Number>
+constexpr Complex<Number> cosineAndSineOfPart(const Number& turns) {
+  const Number x = turns * static_cast<Real>(radiansOfTurn / 4);  // −π/4..π/4
+  const Number xx = x * x;
+  const Number sine = x * polynomial(taylorOfSine<Real>, xx), cosine = polynomial(taylorOfCosine<Real>, xx);
+  const Number sineOfHalf = sine * cosine * Real(2), cosineOfHalf = Real(1) - sine * sine * Real(2);
+  return {Real(1) - sineOfHalf * sineOfHalf * Real(2), sineOfHalf * cosineOfHalf * Real(2)};
+}
+
+/// Cosine and sine of an angle in turns.
 template <class Number>
 constexpr Complex<Number> cosineAndSine(const Number& turns) {
-  const Number x = (turns - nearestWhole(turns)) * (radiansOfTurn / 4);  // −π/4..π/4
-  const Number xx = x * x;
-  const Number sine = x * polynomial(taylorOfSine, xx), cosine = polynomial(taylorOfCosine, xx);
-  const Number sineOfHalf = 2.0 * sine * cosine, cosineOfHalf = 1.0 - 2.0 * sine * sine;
-  return {1.0 - 2.0 * sineOfHalf * sineOfHalf, 2.0 * sineOfHalf * cosineOfHalf};
+  return cosineAndSineOfPart<double>(turns - nearestWhole(turns));
 }
 
 inline constexpr double tangentOf16th = 0.198912367379658007;  ///< of π/16
@@ -84,7 +98,7 @@ template <class Number>
 Number smallArctangent(const Number& tangent) {
   static constexpr auto coefficients = chebyshevOfArctangent<11>(tangentOf16th);
   const Number t = tangent * (1 / tangentOf8th);
-  const Number w = 4.0 * t * t - 2.0;
+  const Number w = t * t * 4.0 - 2.0;
   Number before{}, sum = before + coefficients.back();  // Clenshaw's
   for (std::size_t n = coefficients.size() - 1; n-- > 0;) {
     const Number next = w * sum - before + coefficients[n];
