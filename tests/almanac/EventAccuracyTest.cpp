@@ -82,13 +82,13 @@ void compareWith(const std::string& table, ErrorSummary& before, ErrorSummary& a
 }
 
 TEST(EventAccuracy, OfFiveThousandDaysUpTo66Degrees) {
-  ErrorSummary before("events up to 66°, 1900 to 2049", " s", 2), after("from 2050", " s", 3);
+  ErrorSummary before("events up to 66°, 1900 to 2049", " s", 1), after("from 2050", " s", 1);
   compareWith("almanac_events_middle.txt", before, after);
   before.print();
   after.print();
   EXPECT_GT(before.count() + after.count(), 50000);
-  EXPECT_LE(before.rms(), 0.15);
-  EXPECT_LE(after.rms(), 0.15);
+  EXPECT_LE(before.rms(), 0.05);
+  EXPECT_LE(after.rms(), 0.05);
 }
 
 TEST(EventAccuracy, OfTwoThousandDaysNearThePoles) {
@@ -99,8 +99,8 @@ TEST(EventAccuracy, OfTwoThousandDaysNearThePoles) {
   before.print();
   after.print();
   EXPECT_GT(before.count() + after.count(), 8000);
-  EXPECT_LE(before.rms(), 1);
-  EXPECT_LE(after.rms(), 1);
+  EXPECT_LE(before.rms(), 0.5);
+  EXPECT_LE(after.rms(), 0.5);
 }
 
 TEST(EventAccuracy, BySecondOpinion) {

@@ -59,8 +59,8 @@ double turned(double angle) { return std::remainder(angle, 360.0); }
 
 TEST(PositionAccuracy, AsSeenFromAPlace) {
   ErrorSummary sun("the Sun in the sky of a place", "°", 0.0005),
-      moon("the Moon in the sky of a place", "°", 0.002);
-  ErrorSummary equatorial("topocentric right ascension and declination", "°", 0.002);
+      moon("the Moon in the sky of a place", "°", 0.0005);
+  ErrorSummary equatorial("topocentric right ascension and declination", "°", 0.0005);
   ErrorSummary distance("topocentric distance of the Moon", " km", 5);
   for (TableRow& table : tableRows("almanac_positions.txt")) {
     const Row row = read(table);
@@ -81,8 +81,8 @@ TEST(PositionAccuracy, AsSeenFromAPlace) {
 }
 
 TEST(PositionAccuracy, OfTheMoonsLightAndItsAngles) {
-  ErrorSummary fraction("lit part", "", 2e-5), phase("phase angle", "°", 0.002);
-  ErrorSummary limb("position angle of the lit limb", "°", 0.05), parallactic("parallactic angle", "°", 0.05);
+  ErrorSummary fraction("lit part", "", 1e-5), phase("phase angle", "°", 0.0005);
+  ErrorSummary limb("position angle of the lit limb", "°", 0.002), parallactic("parallactic angle", "°", 0.002);
   for (TableRow& table : tableRows("almanac_positions.txt")) {
     const Row row = read(table);
     const auto light = illumination(row.place, row.at);

@@ -49,15 +49,17 @@ Course::Course(const Sky& sky, ephemeris::Body body, const Observer& observer)
 }
 
 void Course::addPassages(const Level& level, std::size_t line, std::size_t firstSample,
-                         std::size_t lastSample, std::vector<Passage>& passages) const {
+                         std::size_t lastSample, std::vector<Passage>& passages) const& {
   const double curvature = level.isMeridian() ? curvatureBound(1) : _curvature;
   const double reach = curvature * Sky::sampleSeconds * Sky::sampleSeconds / 8;  // from both ends of a step
-  double before = level.heightOf(sampled(firstSample));
+  Values heights;  // all of them first: several at a time
+  for (std::size_t sample = firstSample; sample <= lastSample; ++sample) {
+    heights[sample] = level.heightOf(sampled(sample));
+  }
   for (std::size_t sample = firstSample; sample < lastSample; ++sample) {
-    const double after = level.heightOf(sampled(sample + 1));
-    const bool isFar = std::min(before, after) > reach || std::max(before, after) < -reach;
-    if (!isFar) scan({level, line, sample, curvature}, {0, before}, {Sky::sampleSeconds, after}, passages);
-    before = after;
+    const double before = heights[sample], after = heights[sample + 1];
+    if ((before > reach && after > reach) || (before < -reach && after < -reach)) continue;
+    scan({level, line, sample, curvature}, {0, before}, {Sky::sampleSeconds, after}, passages);
   }
 }
 

@@ -39,9 +39,11 @@ class Course {
 
   /// Appends the passages of the level between two samples, in time order. Upward and downward alternate,
   /// from one stretch of samples to the next too, but that the meridian is passed upward alone. None is
-  /// missed but such as come back within a quarter of a second.
+  /// missed but such as come back within a quarter of a second. They refer to the course and to the level.
   void addPassages(const Level& level, std::size_t line, std::size_t firstSample, std::size_t lastSample,
-                   std::vector<Passage>& passages) const;
+                   std::vector<Passage>& passages) const&;
+  void addPassages(const Level& level, std::size_t line, std::size_t firstSample, std::size_t lastSample,
+                   std::vector<Passage>& passages) const&& = delete;
 
   /// Whether the body is above the level at the first sample.
   bool startsAbove(const Level& level) const { return level.heightOf(sampled(0)) >= 0; }

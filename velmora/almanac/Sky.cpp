@@ -1,5 +1,6 @@
 #include <velmora/almanac/Sky.h>
 
+#include <algorithm>
 #include <cmath>
 
 #include <velmora/ephemeris/PathData.h>
@@ -19,13 +20,15 @@ Sky::Sky(const ephemeris::Paths& paths, Blocks blocks)
     : _first(blocks.first), _turns(static_cast<std::size_t>(blocks.count) * samplesPerBlock + 1) {
   const Turn step = Turn::ofSmall(turnPerSecond * sampleSeconds);
   std::vector<double> terrestrial(sampleCount());
-  for (std::size_t sample = 0; sample < sampleCount(); ++sample) {
-    const Instant at = timeOf(sample);
-    const ephemeris::Stretch& stretch = stretchAt(paths.data(), at);
-    terrestrial[sample] = terrestrialAt(stretch, at);
-    const bool begins = sample % samplesPerBlock == 0;
-    _turns[sample] =
-        begins ? Turn::of(siderealAt(stretch, at) * ephemeris::radiansOfTurn) : _turns[sample - 1] + step;
+  for (std::size_t first = 0; first < sampleCount(); first += samplesPerBlock) {
+    const Instant start = timeOf(first);
+    const ephemeris::Stretch& stretch = stretchAt(paths.data(), start);  // which ends with a block
+    _turns[first] = Turn::of(siderealAt(stretch, start) * ephemeris::radiansOfTurn);
+    const std::size_t past = std::min(first + samplesPerBlock, sampleCount());
+    for (std::size_t sample = first; sample < past; ++sample) {
+      if (sample > first) _turns[sample] = _turns[sample - 1] + step;
+      terrestrial[sample] = terrestrialAt(stretch, timeOf(sample));
+    }
   }
   _bodies = {over(paths, Body::sun, terrestrial), over(paths, Body::moon, terrestrial)};
 }
