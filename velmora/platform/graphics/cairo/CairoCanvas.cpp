@@ -9,6 +9,7 @@
 
 #include <velmora/platform/graphics/cairo/CairoDrawing.h>
 #include <velmora/platform/graphics/cairo/CairoEncoder.h>
+#include <velmora/platform/graphics/cairo/CairoFrame.h>
 #include <velmora/platform/graphics/cairo/CairoImage.h>
 #include <velmora/platform/graphics/cairo/CairoPath.h>
 #include <velmora/platform/graphics/cairo/CairoText.h>
@@ -121,7 +122,7 @@ void CairoCanvas::drawGlyph(const AttributedText& text, std::size_t glyph, Point
 void CairoCanvas::drawGlyphRange(const AttributedText& text, std::size_t first, std::size_t end,
                                  Point topLeft) {
   const bool isPlaceable =
-      _drawing->frameAfter(AffineTransform::translation(topLeft.x, topLeft.y)).has_value();
+      frameAfter(_drawing->context(), AffineTransform::translation(topLeft.x, topLeft.y)).has_value();
   if (!_drawing->isReady() || !isPlaceable) return;
   const auto line = PangoTextEngine::shared().line(text);
   for (const GlyphRun& run : glyphRuns(*line, text, first, std::min(end, line->glyphs.size()), topLeft)) {

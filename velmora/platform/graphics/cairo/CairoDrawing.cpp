@@ -1,11 +1,17 @@
 #include <velmora/platform/graphics/cairo/CairoDrawing.h>
 
 #include <algorithm>
-#include <array>
-#include <cmath>
+#include <cstdint>
+#include <variant>
+#include <vector>
 
+#include <velmora/platform/graphics/cairo/CairoColor.h>
 #include <velmora/platform/graphics/cairo/CairoEncoder.h>
+#include <velmora/platform/graphics/cairo/CairoFrame.h>
+#include <velmora/platform/graphics/cairo/CairoImage.h>
 #include <velmora/platform/graphics/cairo/CairoPath.h>
+#include <velmora/platform/graphics/cairo/KeptShapes.h>
+#include <velmora/platform/graphics/cairo/OverlayPixels.h>
 #include <velmora/platform/time/NumberText.h>
 
 namespace [[gnu::visibility("hidden")]] velmora {
@@ -40,15 +46,32 @@ CairoSurface refusedSurface() {
   return CairoSurface(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, -1, -1));
 }
 
-cairo_operator_t cairoOperator(BlendMode mode) {
-  switch (mode) {
-    case BlendMode::overlay:
-      return CAIRO_OPERATOR_OVERLAY;
-    case BlendMode::clear:
-      return CAIRO_OPERATOR_CLEAR;
-    default:
-      return CAIRO_OPERATOR_OVER;
-  }
+enum class Kind : std::uint64_t { fill, stroke, glyphs, image };
+
+ShapeKey keyOf(Kind kind) {
+  ShapeKey key;
+  key.add(static_cast<std::uint64_t>(kind));
+  return key;
+}
+
+/// The phase of the dashes comes last.
+std::vector<double> dashesOf(cairo_t* context) {
+  std::vector<double> dashes(static_cast<std::size_t>(cairo_get_dash_count(context)) + 1);
+  cairo_get_dash(context, dashes.data(), &dashes.back());
+  return dashes;
+}
+
+/// How far a line reaches beyond its path: half its width, and at corners as far as a miter may stand out.
+double reachOfLine(const Path& path, double lineWidth) {
+  constexpr double longestMiter = 10;
+  const bool hasCorners = path.elements().size() > 2;
+  return lineWidth / 2 * (hasCorners ? longestMiter : 1);
+}
+
+bool isCurved(const Path& path) {
+  const std::vector<Path::Element> elements = path.elements();
+  return std::any_of(elements.begin(), elements.end(),
+                     [](const auto& element) { return std::holds_alternative<Path::Curve>(element); });
 }
 
 }  // namespace
@@ -60,7 +83,9 @@ CairoCanvas::Drawing::Drawing(PictureFormat pictureFormat, Size pictureSize, dou
       background(pictureBackground),
       sizeError(checkedSize(format, size, scale)),
       _surface(sizeError ? refusedSurface() : makeSurface(format, size, scale)),
-      _context(cairo_create(_surface.get())) {
+      _context(cairo_create(_surface.get())),
+      _states(context()),
+      _painted(background) {
   cairo_set_tolerance(context(), curveTolerance(format, scale));
   cairo_set_line_width(context(), 1);
   if (format == PictureFormat::png) cairo_scale(context(), scale, scale);
@@ -70,79 +95,43 @@ CairoCanvas::Drawing::~Drawing() {
   cairo_surface_finish(surface());  // Cairo's SVG holds on to the record and would never free what is in it
 }
 
-void CairoCanvas::Drawing::save() {
-  cairo_save(context());
-  _states.push_back(state());
-  state().kind = State::Kind::save;
-}
-
 void CairoCanvas::Drawing::restore() {
-  if (state().kind == State::Kind::save) popState();
+  if (state().kind == DrawingStates::State::Kind::save) endState();
 }
 
 void CairoCanvas::Drawing::beginGroup(double alpha) {
   finishPendingClear();
-  State inside = state();
-  inside.kind = State::Kind::group;
-  inside.alpha = 1;
-  inside.blendMode = BlendMode::normal;
-  inside.layer.reset();
-  const bool canDrawThrough = alpha == 1 && !isPainted(visiblePixels());
-  if (canDrawThrough) {
-    cairo_save(context());
-  } else {
-    cairo_push_group(context());
-    cairo_reset_clip(context());  // the clip applies when the layer is laid down
-    inside.clip.reset();
-    _layers.emplace_back();
-    inside.layer = alpha;
-  }
-  _states.push_back(inside);
+  const bool canDrawThrough = alpha == 1 && !_painted.isPainted(visiblePixels(context()));
+  if (canDrawThrough) return _states.beginGroup();
+  _states.beginLayer(alpha);
+  _painted.begin();
 }
 
 void CairoCanvas::Drawing::endGroup() {
-  const auto isGroup = [](const State& s) { return s.kind == State::Kind::group; };
-  if (std::none_of(_states.begin(), _states.end(), isGroup)) return;
-  while (!isGroup(state())) popState();
-  popState();
+  if (!_states.isInGroup()) return;
+  while (state().kind != DrawingStates::State::Kind::group) endState();
+  endState();
 }
 
 void CairoCanvas::Drawing::endAll() {
-  while (_states.size() > 1) popState();
+  while (state().kind != DrawingStates::State::Kind::base) endState();
   finishPendingClear();
 }
 
-void CairoCanvas::Drawing::popState() {
+void CairoCanvas::Drawing::endState() {
   finishPendingClear();
-  const std::optional<double> layer = state().kind == State::Kind::group ? state().layer : std::nullopt;
-  _states.pop_back();
-  if (!layer) return cairo_restore(context());
-
-  cairo_pop_group_to_source(context());
-  cairo_set_operator(context(), CAIRO_OPERATOR_OVER);
-  cairo_paint_with_alpha(context(), *layer);
-  const Layer painted = std::move(_layers.back());
-  _layers.pop_back();
-  for (const Paint& paint : painted) _layers.back().push_back({paint.box, {}, {}});
+  const bool isLaidDown = _states.end();
+  if (isLaidDown) _painted.end();
 }
 
 void CairoCanvas::Drawing::transform(const AffineTransform& step) {
   finishPendingClear();
-  if (const auto frame = frameAfter(step)) {
-    cairo_set_matrix(context(), &*frame);
-  } else {
-    state().isCollapsed = true;
-  }
+  _states.transform(step);
 }
 
-std::optional<cairo_matrix_t> CairoCanvas::Drawing::frameAfter(const AffineTransform& t) const {
-  const cairo_matrix_t step = {t.a, t.b, t.c, t.d, t.tx, t.ty};
-  cairo_matrix_t frame;
-  cairo_get_matrix(context(), &frame);
-  cairo_matrix_multiply(&frame, &step, &frame);
-  const double area = frame.xx * frame.yy - frame.xy * frame.yx;
-  if (area == 0 || !std::isfinite(area) || !std::isfinite(frame.x0) || !std::isfinite(frame.y0)) return {};
-  return frame;
+void CairoCanvas::Drawing::clip(const Path& path) {
+  finishPendingClear();
+  _states.clip(path);
 }
 
 bool CairoCanvas::Drawing::isReady() {
@@ -150,50 +139,125 @@ bool CairoCanvas::Drawing::isReady() {
   return !state().isCollapsed;
 }
 
-void CairoCanvas::Drawing::setPaint(const Color& color) {
-  cairo_set_source_rgba(context(), color.red, color.green, color.blue, color.alpha * state().alpha);
-  cairo_set_operator(context(), cairoOperator(state().blendMode));
-}
+void CairoCanvas::Drawing::notePaint(const Rect& box) { _painted.note(visiblePixels(context(), box)); }
 
-Rect CairoCanvas::Drawing::inPixels(const Rect& rect) const {
-  Path corners;
-  const std::array<Point, 4> points = {{{rect.minX(), rect.minY()},
-                                        {rect.maxX(), rect.minY()},
-                                        {rect.maxX(), rect.maxY()},
-                                        {rect.minX(), rect.maxY()}}};
-  for (Point point : points) {
-    cairo_user_to_device(context(), &point.x, &point.y);
-    corners.moveTo(point);
+void CairoCanvas::Drawing::fill(const Path& path) {
+  const DrawingStates::State& s = state();
+  if (s.blendMode == BlendMode::clear) return clear(path);
+  const bool isOpaque = s.blendMode == BlendMode::normal && s.fill.alpha >= 1 && s.alpha >= 1;
+  if (isOpaque && _pendingClear == path) _pendingClear.reset();
+  const auto box = path.boundingBox();
+  if (!isReady() || !box) return;
+  _states.setPaint(s.fill);
+  cover(path, *box);
+  notePaint(*box);
+  if (!isOpaque || format == PictureFormat::png) return;
+  if (const auto rectangle = uprightRectangle(frameOf(context()), path)) {
+    _painted.noteFilled(_states.clipped(*rectangle).value_or(Rect()), s.fill);
   }
-  const Rect box = *corners.boundingBox();
-  const double left = std::floor(box.minX()), top = std::floor(box.minY());
-  return {left, top, std::ceil(box.maxX()) - left, std::ceil(box.maxY()) - top};
 }
 
-Rect CairoCanvas::Drawing::visiblePixels() const {
-  cairo_matrix_t frame;
-  cairo_get_matrix(context(), &frame);
-  double left = 0, top = 0, right = 0, bottom = 0;
-  cairo_identity_matrix(context());
-  cairo_clip_extents(context(), &left, &top, &right, &bottom);
-  cairo_set_matrix(context(), &frame);
-  return {left, top, right - left, bottom - top};
+void CairoCanvas::Drawing::clear(const Path& path) {
+  const auto box = path.boundingBox();
+  if (!isReady() || !box || !_painted.isPainted(visiblePixels(context(), *box))) return;
+  _pendingClear = path;
+  if (format == PictureFormat::png) finishPendingClear();
 }
 
-bool CairoCanvas::Drawing::isPainted(const Rect& pixels) const {
-  return std::any_of(_layers.back().begin(), _layers.back().end(),
-                     [&](const Paint& paint) { return !pixels.intersection(paint.box).isEmpty(); });
+void CairoCanvas::Drawing::finishPendingClear() {
+  if (!_pendingClear) return;
+  const Rect box = *_pendingClear->boundingBox();
+  const auto shown =
+      format == PictureFormat::png ? std::nullopt : _painted.colorBelow(visiblePixels(context(), box));
+  setSource(context(), shown.value_or(Color::clear()));
+  cairo_set_operator(context(), shown ? CAIRO_OPERATOR_OVER : CAIRO_OPERATOR_CLEAR);
+  cover(*_pendingClear, box);
+  _pendingClear.reset();
 }
 
-std::optional<Color> CairoCanvas::Drawing::colorBelow(const Rect& pixels) const {
-  const auto isThere = [&](const Paint& paint) { return !pixels.intersection(paint.box).isEmpty(); };
-  for (auto layer = _layers.rbegin() + 1; layer != _layers.rend(); ++layer) {
-    const auto topmost = std::find_if(layer->rbegin(), layer->rend(), isThere);
-    if (topmost == layer->rend()) continue;
-    const bool coversAll = topmost->filled.intersection(pixels) == pixels;
-    return coversAll ? std::optional(topmost->color) : std::nullopt;
-  }
-  return background.alpha >= 1 ? std::optional(background) : std::nullopt;
+void CairoCanvas::Drawing::cover(const Path& path, const Rect& box) {
+  drawFigure(keyOf(Kind::fill), path, box, [&] {
+    setPath(context(), path);
+    cairo_fill(context());
+  });
+}
+
+void CairoCanvas::Drawing::stroke(const Path& path) {
+  const auto box = path.boundingBox();
+  if (!isReady() || !box) return;
+  const double width = cairo_get_line_width(context()), reach = reachOfLine(path, width);
+  const Rect reached = box->inset(-reach, -reach);
+  _states.setPaint(state().stroke);
+  notePaint(reached);
+  ShapeKey key = keyOf(Kind::stroke);
+  key.add(width);
+  const std::vector<double> dashes = dashesOf(context());
+  key.add(dashes.size());
+  for (const double length : dashes) key.add(length);
+  drawFigure(key, path, reached, [&] {
+    setPath(context(), path);
+    cairo_stroke(context());
+  });
+}
+
+/// Figures of straight lines take no longer to draw than to lay down.
+void CairoCanvas::Drawing::drawFigure(const ShapeKey& key, const Path& path, const Rect& box,
+                                      const std::function<void()>& draw) {
+  if (format != PictureFormat::png || !isCurved(path)) return drawOnce(box, draw);
+  drawKept(context(), {key, outlineInPixels(context(), path), box, CAIRO_CONTENT_ALPHA, draw},
+           state().clip.get());
+}
+
+void CairoCanvas::Drawing::drawGlyphs(const GlyphRun& run, std::uint64_t lineSerial) {
+  const Rect box = inkBox(context(), run);
+  _states.setPaint(run.color);
+  notePaint(box);
+  if (format != PictureFormat::png) return drawOnce(box, [&] { showCharacters(context(), run); });
+  ShapeKey key = keyOf(Kind::glyphs);
+  key.add(lineSerial);
+  key.add(run.first);
+  key.add(run.glyphs.size());
+  key.add(run.glyphs.front().x);
+  key.add(run.glyphs.front().y);
+  drawKept(context(), {key, {}, box, CAIRO_CONTENT_ALPHA, [&] { fillOutlines(context(), run); }},
+           state().clip.get());
+}
+
+void CairoCanvas::Drawing::drawImage(const Image& image, const Rect& rect) {
+  if (state().blendMode == BlendMode::clear) return clear(Path::rect(rect));
+  const auto [width, height] = image.pixelSize();
+  const AffineTransform intoRect = {rect.width / static_cast<double>(width),   0,      0,
+                                    rect.height / static_cast<double>(height), rect.x, rect.y};
+  if (!isReady() || !frameAfter(context(), intoRect)) return;
+  const double alpha = state().alpha;
+  _states.setPaint(Color::black());
+  notePaint(rect);
+  const auto draw = [&] { paintImage(context(), image, rect, alpha); };
+  if (format != PictureFormat::png) return drawOnce(rect, draw);
+  ShapeKey key = keyOf(Kind::image);
+  key.add(image.serial());
+  key.add(rect);
+  key.add(alpha);
+  drawKept(context(), {key, {}, rect, CAIRO_CONTENT_COLOR_ALPHA, draw}, state().clip.get());
+}
+
+void CairoCanvas::Drawing::drawOnce(const Rect& box, const std::function<void()>& draw) {
+  const bool isOverlay = cairo_get_operator(context()) == CAIRO_OPERATOR_OVERLAY;
+  if (format != PictureFormat::png && isOverlay) return drawOverlay(box, draw);
+  draw();
+}
+
+void CairoCanvas::Drawing::drawOverlay(const Rect& box, const std::function<void()>& draw) {
+  const Rect area = visiblePixels(context(), box);
+  if (area.isEmpty()) return;
+  const CairoSurface backdrop(cairo_surface_reference(cairo_get_group_target(context())));
+  cairo_set_operator(context(), CAIRO_OPERATOR_OVER);
+  cairo_push_group(context());
+  const CairoSurface paint(cairo_surface_reference(cairo_get_group_target(context())));
+  draw();
+  cairo_pattern_destroy(cairo_pop_group(context()));
+  layDown(context(), overlaid(paint.get(), backdrop.get(), area).get(), CAIRO_CONTENT_COLOR_ALPHA,
+          area.origin());
 }
 
 }  // namespace velmora
