@@ -1,5 +1,14 @@
+#include <optional>
+#include <random>
+#include <sstream>
+#include <string>
+#include <string_view>
+
 #include <tests/service/ServiceTest.h>
+#include <velmora/platform/system/FileReading.h>
 #include <velmora/platform/system/Log.h>
+#include <velmora/platform/time/DateFormatter.h>
+#include <velmora/service/EclipseCatalogue.h>
 
 namespace velmora {
 namespace {
@@ -161,7 +170,79 @@ TEST_F(EclipseCatalogueReading, AQueryReadsUntilItSucceedsAndThenNoMore) {
   EXPECT_EQ(service().eventsData(), read);
 }
 
+/// What a formatter of the catalogue's dates reads in the text.
+std::optional<Instant> formatted(const std::string& text) {
+  DateFormatter formatter;
+  formatter.setTimeZone(*TimeZone::named("UTC"));
+  formatter.setDateFormat("MM/dd/yyyy HH:mm");
+  formatter.setLocale(Locale("en_US"));
+  return formatter.dateFromString(text);
+}
+
+/// What the catalogue reads in it.
+std::optional<Instant> inCatalogue(const std::string& text) {
+  const EclipseCatalogue eclipses = readEclipseCatalogue(text + ",TSE");
+  return eclipses.empty() ? std::nullopt : std::optional(eclipses.begin()->first);
+}
+
+TEST_F(EclipseCatalogueReading, EveryDayAndMinuteIsReadAsAFormatterDoes) {
+  const auto twoDigits = [](int number) {
+    return std::string(number < 10 ? "0" : "") + std::to_string(number);
+  };
+  for (const char* year : {"0000", "0001", "0100", "1582", "1900", "2000", "2023", "2024", "9999"}) {
+    for (int month = 0; month <= 13; ++month) {
+      for (int day = 0; day <= 32; ++day) {
+        const std::string text = twoDigits(month) + "/" + twoDigits(day) + "/" + year + " 18:17";
+        ASSERT_EQ(inCatalogue(text), formatted(text)) << text;
+      }
+    }
+  }
+  for (int hour = 0; hour <= 25; ++hour) {
+    for (int minute = 0; minute <= 61; ++minute) {
+      const std::string text = "04/08/2024 " + twoDigits(hour) + ":" + twoDigits(minute);
+      ASSERT_EQ(inCatalogue(text), formatted(text)) << text;
+    }
+  }
+}
+
+/// Exchanges, leaves out or puts in a few characters, mostly of those that stand in dates.
+std::string garbled(std::string text, std::mt19937& random) {
+  constexpr std::string_view characters = "0123456789/: -+.\tx";
+  for (auto changes = 1 + random() % 3; changes > 0; --changes) {
+    const std::size_t place = random() % (text.size() + 1);
+    const bool isPutIn = random() % 3 == 0, isLeftOut = random() % 3 == 0;
+    text.replace(place, isPutIn || place == text.size() ? 0 : 1,
+                 isLeftOut ? "" : std::string(1, characters[random() % characters.size()]));
+  }
+  return text;
+}
+
+TEST_F(EclipseCatalogueReading, GarbledDatesAreReadAsAFormatterDoes) {
+  std::mt19937 random(20240408);
+  int dates = 0;
+  for (int i = 0; i < 20000; ++i) {
+    const std::string text = garbled("04/08/2024 18:17", random);
+    const auto expected = formatted(text);
+    ASSERT_EQ(inCatalogue(text), expected) << text;
+    dates += expected ? 1 : 0;
+  }
+  EXPECT_GT(dates, 2000);
+  EXPECT_LT(dates, 18000);
+}
+
 using ShippedEclipses = ServiceTest;
+
+TEST_F(ShippedEclipses, AreReadAsAFormatterReadsThem) {
+  const auto text = readTextFile(*Bundle::library().pathForResource("Data/events", "txt"));
+  std::istringstream lines(text.value());
+  int count = 0;
+  for (std::string line; std::getline(lines, line); ++count) {
+    const std::string date = line.substr(0, line.find(','));
+    ASSERT_NE(formatted(date), std::nullopt) << line;
+    EXPECT_EQ(inCatalogue(date), formatted(date)) << line;
+  }
+  EXPECT_GT(count, 150);
+}
 
 TEST_F(ShippedEclipses, AreReadWithoutAComplaint) {
   const ScopedLogRecord log;
