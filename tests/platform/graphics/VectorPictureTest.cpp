@@ -250,6 +250,39 @@ TEST(VectorPicture, AHoleInALayerShowsWhatLiesBelowInSvg) {
   }
 }
 
+TEST(VectorPicture, SaysWhenItsPageBecamePixels) {
+  for (const PictureFormat format : {PictureFormat::svg, PictureFormat::pdf}) {
+    for (const Ground& ground : grounds()) {
+      CairoCanvas canvas(format, {100, 50}, 1, background);
+      canvas.setFillColor(below);
+      canvas.save();
+      ground.draw(canvas);
+      canvas.restore();
+      EXPECT_FALSE(canvas.becamePixels()) << ground.name;
+      canvas.beginGroup(0.5);
+      canvas.strokeLine({0, 50}, {100, 0});
+      canvas.clearRect(hole);
+      canvas.endGroup();
+      EXPECT_EQ(holdsImage(written(canvas)), canvas.becamePixels()) << ground.name;
+      EXPECT_EQ(canvas.becamePixels(), !ground.shown) << ground.name;
+    }
+  }
+}
+
+TEST(VectorPicture, DoesNotCountOverlayImagesOrAPngAsPagesOfPixels) {
+  CairoCanvas svg(PictureFormat::svg, {100, 50}), png(PictureFormat::png, {100, 50});
+  for (CairoCanvas* canvas : {&svg, &png}) {
+    canvas->fillRect({0, 0, 100, 50});
+    canvas->setBlendMode(BlendMode::overlay);
+    canvas->fillEllipse({20, 20, 10, 10});
+  }
+  png.clearRect(hole);
+  for (CairoCanvas* canvas : {&svg, &png}) {
+    written(*canvas);
+    EXPECT_FALSE(canvas->becamePixels());
+  }
+}
+
 TEST(VectorPicture, ATextAtNoPlaceLeavesNoTraceInSvg) {
   CairoCanvas blank(PictureFormat::svg, {100, 50}), canvas(PictureFormat::svg, {100, 50});
   TextLayout(AttributedText("14 Mar")).drawAtPoint(canvas, {std::nan(""), 10});

@@ -31,6 +31,8 @@ PictureError drawingError(cairo_status_t status) {
 CairoCanvas::CairoCanvas(PictureFormat format, Size size, double scale, Color background)
     : _drawing(std::make_unique<Drawing>(format, size, scale, background)) {}
 
+CairoCanvas::CairoCanvas(cairo_t* context, Size size) : _drawing(std::make_unique<Drawing>(context, size)) {}
+
 CairoCanvas::~CairoCanvas() = default;
 CairoCanvas::CairoCanvas(CairoCanvas&&) noexcept = default;
 CairoCanvas& CairoCanvas::operator=(CairoCanvas&&) noexcept = default;
@@ -50,10 +52,13 @@ std::optional<PictureError> CairoCanvas::error() const {
 }
 
 std::optional<PictureError> CairoCanvas::write(std::ostream& output) {
+  if (!_drawing->format)
+    return PictureError{PictureError::Kind::drawing,
+                        "what is drawn on a context of the host's is no picture"};
   _drawing->endAll();
   if (const auto failure = error()) return failure;
   const cairo_status_t status =
-      encode(_drawing->format, _drawing->surface(), _drawing->size, _drawing->background, output);
+      encode(*_drawing->format, _drawing->surface(), _drawing->size, _drawing->background, output);
   if (status == CAIRO_STATUS_SUCCESS && output.flush()) return std::nullopt;
   return drawingError(status == CAIRO_STATUS_SUCCESS ? CAIRO_STATUS_WRITE_ERROR : status);
 }
@@ -74,6 +79,8 @@ std::vector<std::uint8_t> CairoCanvas::pixels() const {
   if (_drawing->format != PictureFormat::png || error()) return {};
   return bytesOfSurface(_drawing->surface());
 }
+
+bool CairoCanvas::becamePixels() const { return _drawing->becamePixels(); }
 
 const std::set<std::string>& CairoCanvas::uncoveredCharacters() const { return _drawing->uncovered(); }
 

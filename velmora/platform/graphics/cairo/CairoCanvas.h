@@ -11,6 +11,9 @@
 
 #include <velmora/platform/graphics/Canvas.h>
 
+/// Cairo's context, by its own name.
+typedef struct _cairo cairo_t;
+
 namespace velmora {
 
 enum class PictureFormat { png, svg, pdf };
@@ -45,6 +48,14 @@ class CairoCanvas final : public Canvas {
 
   /// The background lies under everything and cannot be cleared.
   CairoCanvas(PictureFormat format, Size size, double scale = 1, Color background = Color::clear());
+
+  /// Draws on a context of the host's, like one that a window system hands out: in its frame, from its origin
+  /// on and within the size in points. Until the canvas is destroyed all of it lies on a layer of its own, so
+  /// that what is cleared shows what the context held before; then the context's alone clip applies to it. It
+  /// stays vector where the context's surface does. The context is to be left alone meanwhile, and is given
+  /// back in the state it had, but for its path.
+  CairoCanvas(cairo_t* context, Size size);
+
   ~CairoCanvas() override;
   CairoCanvas(CairoCanvas&&) noexcept;
   CairoCanvas& operator=(CairoCanvas&&) noexcept;
@@ -56,7 +67,7 @@ class CairoCanvas final : public Canvas {
   std::optional<PictureError> error() const;
 
   /// Ends the picture, saves and groups left open included, and writes it. Draw nothing afterwards;
-  /// write as often as needed.
+  /// write as often as needed. On a host's context there is no picture to write, which is an error.
   std::optional<PictureError> write(std::ostream& output);
 
   /// The same into a file, which is replaced in one step when the whole picture is written; on an error a
@@ -64,8 +75,12 @@ class CairoCanvas final : public Canvas {
   std::optional<PictureError> writeFile(const std::filesystem::path& path);
 
   /// The pixels of a PNG drawn so far, without the background and the open groups: rows from the top, in each
-  /// red, green, blue, alpha of 8 bits, premultiplied. Empty for other formats and after an error.
+  /// red, green, blue, alpha of 8 bits, premultiplied. Empty for other formats, on a host's
+  /// context and after an error.
   std::vector<std::uint8_t> pixels() const;
+
+  /// Whether an SVG or PDF that was written had to make pixels of its whole page, for a hole in it.
+  bool becamePixels() const;
 
   /// The characters drawn so far for which no installed face has a glyph.
   const std::set<std::string>& uncoveredCharacters() const;

@@ -1,6 +1,7 @@
 #include <velmora/platform/graphics/cairo/CairoDrawing.h>
 
 #include <algorithm>
+#include <cmath>
 #include <cstdint>
 #include <variant>
 #include <vector>
@@ -16,6 +17,9 @@
 
 namespace [[gnu::visibility("hidden")]] velmora {
 namespace {
+
+/// How far a corner may stand out, in widths of its line.
+constexpr double longestMiter = 10;
 
 /// The sides in what the limits count: pixels of a PNG, else points.
 Size limitedSize(PictureFormat format, Size size, double scale) {
@@ -37,8 +41,35 @@ std::optional<PictureError> checkedSize(PictureFormat format, Size size, double 
 
 /// How far a curve's pieces may be from it, in pixels: a tenth, or a twentieth of a point where that is more.
 /// Finer pieces cost much time and are not seen.
-double curveTolerance(PictureFormat format, double scale) {
-  return format == PictureFormat::png ? std::max(0.1, 0.05 * scale) : 0.1;
+double curveTolerance(double pixelsAPoint) { return std::max(0.1, 0.05 * pixelsAPoint); }
+
+double pixelsAPoint(cairo_t* context) {
+  const cairo_matrix_t frame = frameOf(context);
+  return std::sqrt(std::abs(frame.xx * frame.yy - frame.xy * frame.yx)) *
+         deviceScale(cairo_get_group_target(context));
+}
+
+bool isRecorded(cairo_surface_t* surface) {
+  switch (cairo_surface_get_type(surface)) {
+    case CAIRO_SURFACE_TYPE_PDF:
+    case CAIRO_SURFACE_TYPE_PS:
+    case CAIRO_SURFACE_TYPE_RECORDING:
+    case CAIRO_SURFACE_TYPE_SCRIPT:
+    case CAIRO_SURFACE_TYPE_SVG:
+      return true;
+    default:
+      return false;
+  }
+}
+
+/// What a host may have set otherwise.
+void setDefaults(cairo_t* context) {
+  cairo_set_antialias(context, CAIRO_ANTIALIAS_DEFAULT);
+  cairo_set_dash(context, nullptr, 0, 0);
+  cairo_set_fill_rule(context, CAIRO_FILL_RULE_WINDING);
+  cairo_set_line_cap(context, CAIRO_LINE_CAP_BUTT);
+  cairo_set_line_join(context, CAIRO_LINE_JOIN_MITER);
+  cairo_set_miter_limit(context, longestMiter);
 }
 
 /// A surface that Cairo refuses, so that drawing on it has no effect.
@@ -63,7 +94,6 @@ std::vector<double> dashesOf(cairo_t* context) {
 
 /// How far a line reaches beyond its path: half its width, and at corners as far as a miter may stand out.
 double reachOfLine(const Path& path, double lineWidth) {
-  constexpr double longestMiter = 10;
   const bool hasCorners = path.elements().size() > 2;
   return lineWidth / 2 * (hasCorners ? longestMiter : 1);
 }
@@ -81,18 +111,47 @@ CairoCanvas::Drawing::Drawing(PictureFormat pictureFormat, Size pictureSize, dou
     : format(pictureFormat),
       size(pictureSize),
       background(pictureBackground),
-      sizeError(checkedSize(format, size, scale)),
-      _surface(sizeError ? refusedSurface() : makeSurface(format, size, scale)),
+      sizeError(checkedSize(pictureFormat, size, scale)),
+      _surface(sizeError ? refusedSurface() : makeSurface(pictureFormat, size, scale)),
       _context(cairo_create(_surface.get())),
+      _isVector(format != PictureFormat::png),
+      _keepsShapes(!_isVector),
       _states(context()),
       _painted(background) {
-  cairo_set_tolerance(context(), curveTolerance(format, scale));
   cairo_set_line_width(context(), 1);
-  if (format == PictureFormat::png) cairo_scale(context(), scale, scale);
+  if (!_isVector) cairo_scale(context(), scale, scale);
+  cairo_set_tolerance(context(), curveTolerance(pixelsAPoint(context())));
+}
+
+CairoCanvas::Drawing::Drawing(cairo_t* host, Size hostSize)
+    : size(hostSize),
+      background(Color::clear()),
+      _context(cairo_reference(host)),
+      _isVector(isRecorded(cairo_get_group_target(host))),
+      _keepsShapes(cairo_surface_get_type(cairo_get_group_target(host)) == CAIRO_SURFACE_TYPE_IMAGE),
+      _states(host),
+      _painted(background) {
+  cairo_save(host);
+  cairo_new_path(host);
+  cairo_rectangle(host, 0, 0, size.width, size.height);
+  cairo_clip(host);
+  cairo_push_group(host);
+  cairo_reset_clip(host);  // it applies when the layer is laid down
+  setDefaults(host);
+  cairo_set_line_width(host, 1);
+  cairo_set_tolerance(host, curveTolerance(pixelsAPoint(host)));
 }
 
 CairoCanvas::Drawing::~Drawing() {
-  cairo_surface_finish(surface());  // Cairo's SVG holds on to the record and would never free what is in it
+  if (format) {
+    cairo_surface_finish(surface());  // Cairo's SVG holds on to the record and would never free what is in it
+  } else {
+    endAll();
+    cairo_pop_group_to_source(context());
+    cairo_set_operator(context(), CAIRO_OPERATOR_OVER);
+    cairo_paint(context());
+    cairo_restore(context());
+  }
 }
 
 void CairoCanvas::Drawing::restore() {
@@ -151,7 +210,7 @@ void CairoCanvas::Drawing::fill(const Path& path) {
   _states.setPaint(s.fill);
   cover(path, *box);
   notePaint(*box);
-  if (!isOpaque || format == PictureFormat::png) return;
+  if (!isOpaque || !_isVector) return;
   if (const auto rectangle = uprightRectangle(frameOf(context()), path)) {
     _painted.noteFilled(_states.clipped(*rectangle).value_or(Rect()), s.fill);
   }
@@ -161,14 +220,14 @@ void CairoCanvas::Drawing::clear(const Path& path) {
   const auto box = path.boundingBox();
   if (!isReady() || !box || !_painted.isPainted(visiblePixels(context(), *box))) return;
   _pendingClear = path;
-  if (format == PictureFormat::png) finishPendingClear();
+  if (!_isVector) finishPendingClear();
 }
 
 void CairoCanvas::Drawing::finishPendingClear() {
   if (!_pendingClear) return;
   const Rect box = *_pendingClear->boundingBox();
-  const auto shown =
-      format == PictureFormat::png ? std::nullopt : _painted.colorBelow(visiblePixels(context(), box));
+  const auto shown = _isVector ? _painted.colorBelow(visiblePixels(context(), box)) : std::nullopt;
+  if (_isVector && !shown) _becamePixels = true;
   setSource(context(), shown.value_or(Color::clear()));
   cairo_set_operator(context(), shown ? CAIRO_OPERATOR_OVER : CAIRO_OPERATOR_CLEAR);
   cover(*_pendingClear, box);
@@ -203,7 +262,7 @@ void CairoCanvas::Drawing::stroke(const Path& path) {
 /// Figures of straight lines take no longer to draw than to lay down.
 void CairoCanvas::Drawing::drawFigure(const ShapeKey& key, const Path& path, const Rect& box,
                                       const std::function<void()>& draw) {
-  if (format != PictureFormat::png || !isCurved(path)) return drawOnce(box, draw);
+  if (!_keepsShapes || !isCurved(path)) return drawOnce(box, draw);
   drawKept(context(), {key, outlineInPixels(context(), path), box, CAIRO_CONTENT_ALPHA, draw},
            state().clip.get());
 }
@@ -212,15 +271,16 @@ void CairoCanvas::Drawing::drawGlyphs(const GlyphRun& run, std::uint64_t lineSer
   const Rect box = inkBox(context(), run);
   _states.setPaint(run.color);
   notePaint(box);
-  if (format != PictureFormat::png) return drawOnce(box, [&] { showCharacters(context(), run); });
+  if (_isVector) return drawOnce(box, [&] { showCharacters(context(), run); });
+  const auto draw = [&] { fillOutlines(context(), run); };
+  if (!_keepsShapes) return draw();
   ShapeKey key = keyOf(Kind::glyphs);
   key.add(lineSerial);
   key.add(run.first);
   key.add(run.glyphs.size());
   key.add(run.glyphs.front().x);
   key.add(run.glyphs.front().y);
-  drawKept(context(), {key, {}, box, CAIRO_CONTENT_ALPHA, [&] { fillOutlines(context(), run); }},
-           state().clip.get());
+  drawKept(context(), {key, {}, box, CAIRO_CONTENT_ALPHA, draw}, state().clip.get());
 }
 
 void CairoCanvas::Drawing::drawImage(const Image& image, const Rect& rect) {
@@ -233,7 +293,7 @@ void CairoCanvas::Drawing::drawImage(const Image& image, const Rect& rect) {
   _states.setPaint(Color::black());
   notePaint(rect);
   const auto draw = [&] { paintImage(context(), image, rect, alpha); };
-  if (format != PictureFormat::png) return drawOnce(rect, draw);
+  if (!_keepsShapes) return drawOnce(rect, draw);
   ShapeKey key = keyOf(Kind::image);
   key.add(image.serial());
   key.add(rect);
@@ -243,7 +303,7 @@ void CairoCanvas::Drawing::drawImage(const Image& image, const Rect& rect) {
 
 void CairoCanvas::Drawing::drawOnce(const Rect& box, const std::function<void()>& draw) {
   const bool isOverlay = cairo_get_operator(context()) == CAIRO_OPERATOR_OVERLAY;
-  if (format != PictureFormat::png && isOverlay) return drawOverlay(box, draw);
+  if (_isVector && isOverlay) return drawOverlay(box, draw);
   draw();
 }
 

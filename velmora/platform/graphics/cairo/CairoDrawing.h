@@ -19,11 +19,13 @@ namespace [[gnu::visibility("hidden")]] velmora {
 class [[gnu::visibility("hidden")]] CairoCanvas::Drawing {
  public:
   Drawing(PictureFormat format, Size size, double scale, Color background);
+  /// On a host's context.
+  Drawing(cairo_t * host, Size size);
   ~Drawing();
   Drawing(const Drawing&) = delete;
   Drawing& operator=(const Drawing&) = delete;
 
-  const PictureFormat format;
+  const std::optional<PictureFormat> format;  ///< none on a host's context
   const Size size;
   const Color background;
   const std::optional<PictureError> sizeError;
@@ -48,6 +50,8 @@ class [[gnu::visibility("hidden")]] CairoCanvas::Drawing {
   void drawGlyphs(const GlyphRun& run, std::uint64_t lineSerial);
   void drawImage(const Image& image, const Rect& rect);
 
+  bool becamePixels() const { return _becamePixels; }
+
   /// To be asked before anything else is drawn: whether it shows.
   bool isReady();
 
@@ -67,8 +71,11 @@ class [[gnu::visibility("hidden")]] CairoCanvas::Drawing {
   void notePaint(const Rect& box);
   void finishPendingClear();
 
-  CairoSurface _surface;
+  CairoSurface _surface;  ///< none on a host's context
   CairoContext _context;
+  bool _isVector;     ///< the surface records what is drawn, so that it cannot clear
+  bool _keepsShapes;  ///< its pixels are like those of any other picture
+  bool _becamePixels = false;
   DrawingStates _states;
   PaintedLayers _painted;
   std::optional<Path> _pendingClear;  ///< waits to see whether the same path covers it at once

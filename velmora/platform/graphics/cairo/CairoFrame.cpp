@@ -31,6 +31,12 @@ cairo_matrix_t frameOf(cairo_t* context) {
   return frame;
 }
 
+double deviceScale(cairo_surface_t* surface) {
+  double x = 1, y = 1;
+  cairo_surface_get_device_scale(surface, &x, &y);
+  return x;
+}
+
 std::optional<cairo_matrix_t> frameAfter(cairo_t* context, const AffineTransform& t) {
   const cairo_matrix_t step = {t.a, t.b, t.c, t.d, t.tx, t.ty};
   cairo_matrix_t frame = frameOf(context);

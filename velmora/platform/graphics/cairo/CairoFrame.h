@@ -11,6 +11,9 @@ namespace [[gnu::visibility("hidden")]] velmora {
 
 cairo_matrix_t frameOf(cairo_t* context);
 
+/// How many pixels make one unit of the surface: two on many screens, on which "pixels" below are such units.
+double deviceScale(cairo_surface_t* surface);
+
 /// The frame that the step leads to from the current one; none if it has no area or is not finite.
 std::optional<cairo_matrix_t> frameAfter(cairo_t* context, const AffineTransform& step);
 

@@ -13,9 +13,10 @@ constexpr double largestKeptArea = 512 * 512;
 
 /// Where clips consist of parts, a group may be smaller than what was asked for, and begin further in.
 void countOffsetFrom(cairo_surface_t* group, Point origin) {
+  const double scale = deviceScale(group);
   Point offset;
   cairo_surface_get_device_offset(group, &offset.x, &offset.y);
-  cairo_surface_set_device_offset(group, offset.x + origin.x, offset.y + origin.y);
+  cairo_surface_set_device_offset(group, offset.x + origin.x * scale, offset.y + origin.y * scale);
 }
 
 /// Shapes that lie whole pixels apart, with the clips that touch them, share their key.
@@ -25,6 +26,7 @@ ShapeKey keyInPlace(cairo_t* context, const Shape& shape, const DrawingStates::C
   cairo_matrix_t frame = frameOf(context);
   ShapeKey key = shape.key;
   key.add(cairo_get_tolerance(context));
+  key.add(deviceScale(cairo_get_group_target(context)));
   key.add(pixels.width);
   key.add(pixels.height);
   if (shape.outline) {
