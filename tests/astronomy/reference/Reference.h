@@ -8,7 +8,8 @@
 #include <velmora/astronomy/RiseSetData.h>
 
 /// The engine written as its formulas are printed: every term with its own sine, every sample from its own
-/// arguments, every text by the standard library. Slow; the engine is compared with it.
+/// arguments, every text by the standard library. Where a body rises and sets is found by halving intervals,
+/// not by the engine's quadratic equations. Slow; the engine is compared with it.
 namespace velmora::reference {
 
 double frac(double x);

@@ -1,20 +1,19 @@
 #include <tests/astronomy/reference/Reference.h>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdio>
+#include <optional>
+#include <vector>
 
 namespace velmora::reference {
 namespace {
 
 constexpr double moon = 1.0, sun = 2.0;  // objects of sinAlt
 constexpr double radiansPerDegree = 0.0174532925;
-constexpr int lastHour = 48;  // of the search, counted from local midnight
-constexpr double hoursPerDay = 24.0;
-constexpr double minutesPerDay = 1440.0;
-constexpr double noEvent = -1.0;
-constexpr const char* neverText = "--";       // neither of the two events
-constexpr const char* missingText = "--:--";  // only the other event
+constexpr int hours = 48;  // that are searched from local midnight on
+constexpr std::int64_t minutesPerDay = 1440;
 
 // Sines of the altitudes at which the centre rises and sets.
 constexpr double sunriseThreshold = -0.01453808048588594;  // −0.833°: refraction 34′ and semi-diameter 16′
@@ -22,189 +21,159 @@ constexpr double moonriseThreshold = 0.00232710356629117;  // +8′: parallax le
 constexpr std::array twilightThresholds = {-0.1045284631486492, -0.20791169058366948,
                                            -0.3090169940335378};  // −6°, −12°, −18°
 
-/// The sine of a body's altitude at the whole hours after local midnight, each computed when first asked for.
-class HourlyAltitudes {
- public:
-  HourlyAltitudes(double body, double localMidnight, double longitude, double latitude)
-      : _body(body),
-        _localMidnight(localMidnight),
-        _longitude(longitude),
-        _cosLatitude(std::cos(latitude * radiansPerDegree)),
-        _sinLatitude(std::sin(latitude * radiansPerDegree)) {}
+/// The sine of a body's altitude at the whole hours after local midnight.
+using Altitudes = std::array<double, hours + 1>;
 
-  double at(int hour) {
-    for (; _known <= hour; ++_known) {
-      _sines[static_cast<std::size_t>(_known)] =
-          sinAlt(_body, _localMidnight, _known, _longitude, _cosLatitude, _sinLatitude);
-    }
-    return _sines[static_cast<std::size_t>(hour)];
+Altitudes altitudesOf(double body, double localMidnight, double longitude, double latitude) {
+  const double phi = latitude * radiansPerDegree;
+  Altitudes sines{};
+  for (std::size_t hour = 0; hour < sines.size(); ++hour) {
+    sines[hour] =
+        sinAlt(body, localMidnight, static_cast<double>(hour), longitude, std::cos(phi), std::sin(phi));
   }
+  return sines;
+}
 
- private:
-  double _body, _localMidnight, _longitude, _cosLatitude, _sinLatitude;
-  std::array<double, lastHour + 1> _sines;
-  int _known = 0;
+/// The parabola through (−1, before), (0, middle), (+1, after), as Lagrange wrote it.
+struct Parabola {
+  double before, middle, after;
+
+  double at(double x) const {
+    return before * x * (x - 1) / 2 + middle * (1 - x) * (1 + x) + after * x * (x + 1) / 2;
+  }
+  double slopeAt(double x) const { return before * (x - 0.5) - middle * 2 * x + after * (x + 0.5); }
 };
 
-/// Where the parabola through (−1, before), (0, middle), (+1, after) is zero within that span.
-struct Crossings {
-  int count = 0;
-  double first = 0.0, second = 0.0;
-  bool extremumBelow = false;  ///< whether the parabola turns below zero
+/// Where a function that is negative at one end of the span alone changes its sign, by halving the span until
+/// nothing is left between its ends.
+template <class Function>
+double signChange(double low, double high, const Function& function) {
+  const bool isNegativeAtLow = function(low) < 0;
+  for (double middle = (low + high) / 2; low < middle && middle < high; middle = (low + high) / 2) {
+    ((function(middle) < 0) == isNegativeAtLow ? low : high) = middle;
+  }
+  return high;
+}
+
+struct Crossing {
+  double time;  ///< in hours after local midnight
+  bool isRise;
+  bool isPaired;  ///< with another of the same parabola
 };
 
-Crossings crossings(double before, double middle, double after) {
-  const double a = 0.5 * (before + after) - middle;
-  const double b = 0.5 * (after - before);
-  const double discriminant = b * b - 4 * a * middle;
-  if (!(discriminant > 0)) return {};
+/// Those of one parabola around the hour: one if its ends differ in sign, else two if it turns beyond zero.
+void addCrossings(const Parabola& parabola, double hour, std::vector<Crossing>& found) {
+  const auto altitude = [&](double x) { return parabola.at(x); };
+  const bool beginsBelow = parabola.before < 0;
+  if (beginsBelow != (parabola.after < 0)) {
+    found.push_back({hour + signChange(-1, 1, altitude), beginsBelow, false});
+    return;
+  }
+  if ((parabola.slopeAt(-1) < 0) == (parabola.slopeAt(1) < 0)) return;
+  const double turn = signChange(-1, 1, [&](double x) { return parabola.slopeAt(x); });
+  if ((parabola.at(turn) < 0) == beginsBelow) return;
+  found.push_back({hour + signChange(-1, turn, altitude), beginsBelow, true});
+  found.push_back({hour + signChange(turn, 1, altitude), !beginsBelow, true});
+}
 
-  const double xe = -b / (2 * a);
-  const double dx = 0.5 * std::sqrt(discriminant) / std::abs(a);
-  Crossings found{.first = xe - dx, .second = xe + dx};
-  found.count = (std::abs(found.first) <= 1 ? 1 : 0) + (std::abs(found.second) <= 1 ? 1 : 0);
-  if (found.first < -1) found.first = found.second;
-  found.extremumBelow = (a * xe + b) * xe + middle < 0;
+/// Those of the two days, one parabola for each two hours.
+std::vector<Crossing> crossings(const Altitudes& altitudes, double threshold) {
+  std::vector<Crossing> found;
+  for (std::size_t hour = 1; hour < hours; hour += 2) {
+    addCrossings(
+        {altitudes[hour - 1] - threshold, altitudes[hour] - threshold, altitudes[hour + 1] - threshold},
+        static_cast<double>(hour), found);
+  }
   return found;
 }
 
-/// One rise and one set, in hours after local midnight; a time without its flag is no event.
+/// In hours after local midnight.
 struct Events {
-  bool hasRise = false, hasSet = false;
-  double rise = 0.0, set = 0.0;
-
-  bool none() const { return !hasRise && !hasSet; }
-  bool complete() const { return hasRise && hasSet; }
+  std::optional<double> rise, set;
 };
 
-/// Which set belongs to a rise.
-enum class SetRule {
-  first,      ///< the first of the day, even before the rise
-  afterRise,  ///< a rise makes the search forget the set before it
-};
-
-void keepRise(Events& events, double time, SetRule rule) {
-  if (events.hasRise || time > hoursPerDay) return;
-  events.rise = time;
-  events.hasRise = true;
-  if (rule == SetRule::afterRise) events.hasSet = false;
+/// The first rise of the day, and the first set, be it of the next day: of the Sun and its twilight the first
+/// after the rise, if there is a rise. A pair is no event, but lends its times to an event before it for as
+/// long as the other event is looked for.
+Events eventsOf(const std::vector<Crossing>& found, bool isSetAfterRise) {
+  const auto end = found.end();
+  const auto rise = std::find_if(found.begin(), end, [](const Crossing& crossing) {
+    return crossing.isRise && !crossing.isPaired && crossing.time <= 24;
+  });
+  const auto set =
+      std::find_if(isSetAfterRise && rise != end ? rise : found.begin(), end,
+                   [](const Crossing& crossing) { return !crossing.isRise && !crossing.isPaired; });
+  const auto last = std::max(rise, set);
+  const auto timeOf = [&](auto event) -> std::optional<double> {
+    if (event == end) return std::nullopt;
+    double time = event->time;
+    for (auto later = event; later != last; ++later) {
+      if (later->isPaired && later->isRise == event->isRise) time = later->time;
+    }
+    return time;
+  };
+  return {timeOf(rise), timeOf(set)};
 }
 
-void keepSet(Events& events, double time) {
-  if (events.hasSet) return;
-  events.set = time;
-  events.hasSet = true;
+std::int64_t minutesOf(double time) { return static_cast<std::int64_t>(std::floor(time * 60 + 0.5)); }
+
+bool isNextDay(double time) { return time > 24; }
+
+/// On the clock of its day.
+double onItsDay(double time) { return isNextDay(time) ? time - 24 : time; }
+
+/// Marked where the event falls on the next day; "--:--" when only the other one is there.
+std::string text(const std::optional<double>& time, double onClock) {
+  if (!time) return "--:--";
+  const std::int64_t minutes = minutesOf(onClock);
+  std::array<char, 32> clock{};
+  std::snprintf(clock.data(), clock.size(), "%02d:%02d%s", static_cast<int>(minutes / 60),
+                static_cast<int>(minutes % 60), isNextDay(*time) ? " **" : "");
+  return clock.data();
 }
 
-/// Two crossings within one step are stored but not flagged, by intent: a grazing pass counts only through a
-/// later single crossing.
-void storePair(Events& events, int hour, const Crossings& found) {
-  events.rise = hour + (found.extremumBelow ? found.second : found.first);
-  events.set = hour + (found.extremumBelow ? found.first : found.second);
-}
-
-/// Steps of two hours, each with a parabola through its three samples, until both events are found.
-Events search(HourlyAltitudes& altitudes, double threshold, SetRule rule) {
-  Events events;
-  double before = altitudes.at(0) - threshold;
-  for (int hour = 1; hour < lastHour && !events.complete(); hour += 2) {
-    const double middle = altitudes.at(hour) - threshold;
-    const double after = altitudes.at(hour + 1) - threshold;
-    const Crossings found = crossings(before, middle, after);
-    if (found.count == 1 && before < 0) keepRise(events, hour + found.first, rule);
-    if (found.count == 1 && !(before < 0)) keepSet(events, hour + found.first);
-    if (found.count == 2) storePair(events, hour, found);
-    before = after;
-  }
-  return events;
-}
-
-bool isNextDay(double time) { return time > hoursPerDay; }
-
-double onItsDay(double time) { return isNextDay(time) ? time - hoursPerDay : time; }
-
-struct ClockReading {
-  double hour, minute;
-};
-
-ClockReading clockReading(double hours) {
-  const double rounded = std::floor(hours * 60 + 0.5) / 60;
-  const double hour = std::floor(rounded);
-  return {hour, std::floor((rounded - hour) * 60 + 0.5)};
-}
-
-double minutesFromMidnight(double time) {
-  const ClockReading reading = clockReading(time);
-  return reading.hour * 60 + reading.minute;
-}
-
-std::string clockText(double hours) {
-  const ClockReading reading = clockReading(hours);
-  std::array<char, 32> text{};
-  std::snprintf(text.data(), text.size(), "%02d:%02d", static_cast<int>(reading.hour),
-                static_cast<int>(reading.minute));
-  return text.data();
-}
-
-/// The clock text, marked where the event falls on the next day.
-std::string eventText(double clockTime, bool nextDay) {
-  return clockText(clockTime) + (nextDay ? " **" : "");
-}
-
-/// A rise beyond hour 24 keeps its hours ("24:37 **"), a set does not; both as intended.
+/// A rise of the next day keeps its hours above 24.
 void writeTexts(const Events& events, std::string& riseText, std::string& setText) {
-  if (events.none()) return;
-  riseText = events.hasRise ? eventText(events.rise, isNextDay(events.rise)) : missingText;
-  setText = events.hasSet ? eventText(onItsDay(events.set), isNextDay(events.set)) : missingText;
+  const bool isNever = !events.rise && !events.set;
+  riseText = isNever ? "--" : text(events.rise, events.rise.value_or(0));
+  setText = isNever ? "--" : text(events.set, onItsDay(events.set.value_or(0)));
 }
 
-/// A sunset before its sunrise on the clock is one of the next day. By intent the clock decides here, so that
-/// a set of the next day at a later time than the rise counts as one of the same day.
-void writeSunMinutes(RiseSetData& record, const Events& sunEvents) {
-  const double rise = sunEvents.hasRise ? minutesFromMidnight(sunEvents.rise) : noEvent;
-  double set = sunEvents.hasSet ? minutesFromMidnight(onItsDay(sunEvents.set)) : noEvent;
-  if (set < rise && set != noEvent) set += minutesPerDay;
-  record.sunRiseMinutesFromMidnight = static_cast<std::int64_t>(rise);
-  record.sunSetMinutesFromMidnight = static_cast<std::int64_t>(set);
-  record.dayLengthMinutes =
-      static_cast<std::int64_t>((set == noEvent ? minutesPerDay : set) - (rise == noEvent ? 0 : rise));
+/// −1 for none. The clock decides whether a sunset belongs to the next day: one that reads earlier than the
+/// sunrise does.
+void writeSunMinutes(RiseSetData& record, const Events& events) {
+  std::int64_t rise = events.rise ? minutesOf(*events.rise) : -1;
+  std::int64_t set = events.set ? minutesOf(onItsDay(*events.set)) : -1;
+  if (events.set && set < rise) set += minutesPerDay;
+  record.sunRiseMinutesFromMidnight = rise;
+  record.sunSetMinutesFromMidnight = set;
+  record.dayLengthMinutes = (events.set ? set : minutesPerDay) - (events.rise ? rise : 0);
 }
 
-double moonSetMinutes(double time) {
-  return minutesFromMidnight(onItsDay(time)) + (isNextDay(time) ? minutesPerDay : 0);
-}
-
-void findSunAndTwilight(RiseSetData& record, int twilight, double mjd0, double offsetHours, double longitude,
-                        double latitude) {
-  HourlyAltitudes altitudes(sun, mjd0 - offsetHours / 24, longitude, latitude);
-  const Events sunEvents = search(altitudes, sunriseThreshold, SetRule::afterRise);
-  const double threshold = twilightThresholds[static_cast<std::size_t>(twilight)];
-  const Events twilightEvents = search(altitudes, threshold, SetRule::afterRise);
-  writeTexts(sunEvents, record.sunRiseText, record.sunSetText);
-  writeTexts(twilightEvents, record.twilightBeginText, record.twilightEndText);
-  writeSunMinutes(record, sunEvents);
-}
-
-void findMoonriseAndSet(RiseSetData& record, double mjd0, double offsetHours, double longitude,
-                        double latitude) {
-  HourlyAltitudes altitudes(moon, mjd0 - offsetHours / 24, longitude, latitude);
-  const Events events = search(altitudes, moonriseThreshold, SetRule::first);
-  writeTexts(events, record.moonRiseText, record.moonSetText);
-  record.moonRiseMinutesFromMidnight =
-      static_cast<std::int64_t>(events.hasRise ? minutesFromMidnight(events.rise) : noEvent);
+void writeMoonMinutes(RiseSetData& record, const Events& events) {
+  record.moonRiseMinutesFromMidnight = events.rise ? minutesOf(*events.rise) : -1;
+  record.moonSetMinutesFromMidnight = -1;
+  if (!events.set) return;
   record.moonSetMinutesFromMidnight =
-      static_cast<std::int64_t>(events.hasSet ? moonSetMinutes(events.set) : noEvent);
+      minutesOf(onItsDay(*events.set)) + (isNextDay(*events.set) ? minutesPerDay : 0);
 }
 
 }  // namespace
 
 RiseSetData compute(double mjd0, double offsetHours, double longitude, double latitude, int twilight) {
+  const double localMidnight = mjd0 - offsetHours / 24;
+  const Altitudes ofSun = altitudesOf(sun, localMidnight, longitude, latitude);
+  const Altitudes ofMoon = altitudesOf(moon, localMidnight, longitude, latitude);
+  const Events sunEvents = eventsOf(crossings(ofSun, sunriseThreshold), true);
+  const double dusk = twilightThresholds[static_cast<std::size_t>(twilight)];
+  const Events moonEvents = eventsOf(crossings(ofMoon, moonriseThreshold), false);
+
   RiseSetData record;
-  record.sunRiseText = record.sunSetText = neverText;
-  record.twilightBeginText = record.twilightEndText = neverText;
-  record.moonRiseText = record.moonSetText = neverText;
-  findSunAndTwilight(record, twilight, mjd0, offsetHours, longitude, latitude);
-  findMoonriseAndSet(record, mjd0, offsetHours, longitude, latitude);
+  writeTexts(sunEvents, record.sunRiseText, record.sunSetText);
+  writeTexts(eventsOf(crossings(ofSun, dusk), true), record.twilightBeginText, record.twilightEndText);
+  writeTexts(moonEvents, record.moonRiseText, record.moonSetText);
+  writeSunMinutes(record, sunEvents);
+  writeMoonMinutes(record, moonEvents);
   return record;
 }
 
