@@ -57,6 +57,8 @@ class CairoCanvas final : public Canvas {
   CairoCanvas(cairo_t* context, Size size);
 
   ~CairoCanvas() override;
+
+  /// A moved canvas takes the drawing along; what it leaves behind can only be destroyed or assigned to.
   CairoCanvas(CairoCanvas&&) noexcept;
   CairoCanvas& operator=(CairoCanvas&&) noexcept;
 
@@ -75,8 +77,8 @@ class CairoCanvas final : public Canvas {
   std::optional<PictureError> writeFile(const std::filesystem::path& path);
 
   /// The pixels of a PNG drawn so far, without the background and the open groups: rows from the top, in each
-  /// red, green, blue, alpha of 8 bits, premultiplied. Empty for other formats, on a host's
-  /// context and after an error.
+  /// red, green, blue, alpha of 8 bits, premultiplied. Empty for other formats, on a host's context and after
+  /// an error.
   std::vector<std::uint8_t> pixels() const;
 
   /// Whether an SVG or PDF that was written had to make pixels of its whole page, for a hole in it.
