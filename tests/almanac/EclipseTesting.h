@@ -17,7 +17,8 @@ using almanac::Body, almanac::ContactName, almanac::Eclipse, almanac::EclipseKin
     almanac::LocalEclipse, almanac::Place;
 
 inline Instant utc(int year, unsigned month, unsigned day, int hour = 0, int minute = 0, double second = 0) {
-  const std::chrono::sys_days date = std::chrono::year(year) / month / day;
+  const std::chrono::sys_days date =
+      std::chrono::year(year) / std::chrono::month(month) / std::chrono::day(day);
   return date + std::chrono::hours(hour) + std::chrono::minutes(minute) + Seconds(second);
 }
 

@@ -7,6 +7,7 @@
 #include <mutex>
 
 #include <velmora/phases/YearTable.h>
+#include <velmora/platform/system/FileReading.h>
 
 namespace [[gnu::visibility("hidden")]] velmora {
 
@@ -21,8 +22,7 @@ class KeptTables {
  private:
   struct Entry {
     std::filesystem::path path;
-    std::filesystem::file_time_type written{};
-    std::uintmax_t size = 0;
+    FileVersion version;
     Table table;
   };
 

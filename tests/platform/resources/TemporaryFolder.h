@@ -1,5 +1,9 @@
 #pragma once
 
+#ifdef __EMSCRIPTEN__
+#include <tests/wasm/HandedFolder.h>
+#else
+
 #include <gtest/gtest.h>
 
 #include <atomic>
@@ -46,3 +50,5 @@ class TemporaryFolder {
 };
 
 }  // namespace velmora
+
+#endif

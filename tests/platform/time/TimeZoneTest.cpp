@@ -2,14 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
-#include <filesystem>
-
-#include <tests/platform/resources/TemporaryFolder.h>
-#include <velmora/platform/time/ZoneDatabase.h>
-
-#include "ScopedEnvironment.h"
-
 namespace velmora {
 namespace {
 
@@ -59,22 +51,6 @@ TEST(TimeZone, KnowsNoOtherNames) {
   }
 }
 
-TEST(TimeZone, ANameWithoutAZoneIsLookedForAgain) {
-  const TemporaryFolder zones;
-  const ScopedEnvironment environment("TZDIR", zones.path().string());
-  EXPECT_FALSE(TimeZone::named("Lunar/Tranquility").has_value());
-  std::filesystem::create_directory(zones.path() / "Lunar");
-  std::filesystem::copy("/usr/share/zoneinfo/Asia/Tokyo", zones.path() / "Lunar/Tranquility");
-  EXPECT_EQ(offset("Lunar/Tranquility", utc(2024, 7, 1)), 9 * 3600);
-}
-
-TEST(TimeZone, AZoneOnceFoundStaysWithoutItsFile) {
-  const TimeZone tokyo = *TimeZone::named("Asia/Tokyo");
-  const TemporaryFolder empty;
-  const ScopedEnvironment environment("TZDIR", empty.path().string());
-  EXPECT_EQ(TimeZone::named("Asia/Tokyo"), tokyo);
-}
-
 TEST(TimeZone, FixedZonesAreNamedByTheirOffset) {
   EXPECT_EQ(TimeZone::fixed(0).name(), "GMT");
   EXPECT_EQ(TimeZone::fixed(-12600).name(), "GMT-03:30");
@@ -93,45 +69,6 @@ TEST(TimeZone, TheDefaultZoneIsPutBackAtTheEndOfAScope) {
   }
   EXPECT_EQ(TimeZone::defaultZone(), before);
   EXPECT_THROW(ScopedDefaultTimeZone("Nowhere"), std::invalid_argument);
-}
-
-TEST(TimeZone, TheEnvironmentNamesTheSystemsZone) {
-  const std::pair<const char*, const char*> cases[] = {
-      {"Asia/Tokyo", "Asia/Tokyo"},
-      {":Asia/Tokyo", "Asia/Tokyo"},
-      {"/usr/share/zoneinfo/Asia/Tokyo", "Asia/Tokyo"},
-      {":/usr/share/zoneinfo/Asia/Tokyo", "Asia/Tokyo"},
-      {"nonsense", "nonsense"},
-      {"", ""},
-  };
-  for (const auto& [variable, identifier] : cases) {
-    const ScopedEnvironment environment("TZ", variable);
-    EXPECT_EQ(ZoneDatabase::systemZoneIdentifier(), identifier);
-  }
-}
-
-TEST(TimeZone, TheSystemsOwnZoneFileStandsForTheConfiguredZone) {
-  std::string configured;
-  {
-    const ScopedEnvironment environment("TZ", std::nullopt);
-    configured = ZoneDatabase::systemZoneIdentifier();
-  }
-  const ScopedEnvironment environment("TZ", ":/etc/localtime");
-  EXPECT_EQ(ZoneDatabase::systemZoneIdentifier(), configured);
-}
-
-/// The default zone of a new process with that value of TZ.
-void exitSayingWhetherTheDefaultZoneIs(const char* expected, const char* variable) {
-  ::setenv("TZ", variable, 1);
-  std::exit(TimeZone::defaultZone().name() == expected ? 0 : 1);
-}
-
-TEST(TimeZoneDeathTest, TheDefaultZoneIsTheSystemsAndGMTWhereThatIsUnknown) {
-  GTEST_FLAG_SET(death_test_style, "threadsafe");  // a process of its own, in which nothing has been read yet
-  const auto success = testing::ExitedWithCode(0);
-  EXPECT_EXIT(exitSayingWhetherTheDefaultZoneIs("Asia/Tokyo", "Asia/Tokyo"), success, "");
-  EXPECT_EXIT(exitSayingWhetherTheDefaultZoneIs("GMT", "nonsense"), success, "");
-  EXPECT_EXIT(exitSayingWhetherTheDefaultZoneIs("GMT", ""), success, "");
 }
 
 TEST(TimeZone, WithoutAChoiceTheDefaultZoneIsTheSystemsAgain) {

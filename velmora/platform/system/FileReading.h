@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -14,6 +15,18 @@ inline constexpr std::size_t kMaximumResourceSize = std::size_t{16} << 20;
 /// Whether a regular file, or a folder, lies at the path.
 bool isFile(const std::filesystem::path& path);
 bool isFolder(const std::filesystem::path& path);
+
+/// What tells a file from what lay at its path before: when it was written, and its size.
+struct FileVersion {
+  std::int64_t written = 0;
+  std::uintmax_t size = 0;
+
+  friend bool operator==(const FileVersion&, const FileVersion&) = default;
+};
+
+/// The version of a file; none if it is missing, or was written so lately that it may be written again
+/// without a later time.
+std::optional<FileVersion> settledVersion(const std::filesystem::path& path);
 
 /// The bytes of a regular file; none if it is missing, unreadable, a folder or a device, or larger than that
 /// many bytes.

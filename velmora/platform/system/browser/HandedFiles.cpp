@@ -9,12 +9,20 @@
 namespace velmora {
 namespace {
 
-using Bytes = std::variant<std::string, std::string_view>;
-using FilesByPath = std::map<std::string, Bytes, std::less<>>;
+struct HandedFile {
+  std::variant<std::string, std::string_view> held;  ///< what was handed over, or compiled in
+  std::int64_t version = 0;                          ///< how often a file was handed over till then
+
+  std::string_view bytes() const {
+    return std::visit([](const auto& bytes) { return std::string_view(bytes); }, held);
+  }
+};
+
+using FilesByPath = std::map<std::string, HandedFile, std::less<>>;
 
 FilesByPath packedFilesByPath() {
   FilesByPath files;
-  for (const PackedFile& file : packedFiles()) files.emplace(file.path, file.bytes);
+  for (const PackedFile& file : packedFiles()) files.emplace(file.path, HandedFile{file.bytes});
   return files;
 }
 
@@ -23,17 +31,19 @@ FilesByPath& filesByPath() {
   return files;
 }
 
-std::string_view view(const Bytes& bytes) {
-  return std::visit([](const auto& held) { return std::string_view(held); }, bytes);
+const HandedFile* fileAt(const std::filesystem::path& path) {
+  const auto found = filesByPath().find(path.native());
+  return found == filesByPath().end() ? nullptr : &found->second;
 }
 
 }  // namespace
 
 void HandedFiles::handOver(const std::string& path, std::string bytes) {
-  filesByPath().insert_or_assign(path, std::move(bytes));
+  static std::int64_t count = 0;
+  filesByPath().insert_or_assign(path, HandedFile{std::move(bytes), ++count});
 }
 
-bool isFile(const std::filesystem::path& path) { return filesByPath().contains(path.native()); }
+bool isFile(const std::filesystem::path& path) { return fileAt(path) != nullptr; }
 
 bool isFolder(const std::filesystem::path& path) {
   const std::string beginning = path.native() + '/';
@@ -41,10 +51,16 @@ bool isFolder(const std::filesystem::path& path) {
   return first != filesByPath().end() && first->first.starts_with(beginning);
 }
 
+std::optional<FileVersion> settledVersion(const std::filesystem::path& path) {
+  const HandedFile* file = fileAt(path);
+  if (file == nullptr) return std::nullopt;
+  return FileVersion{.written = file->version, .size = file->bytes().size()};
+}
+
 std::optional<std::string> readFile(const std::filesystem::path& path, std::size_t maximumSize) {
-  const auto found = filesByPath().find(path.native());
-  if (found == filesByPath().end() || view(found->second).size() > maximumSize) return std::nullopt;
-  return std::string(view(found->second));
+  const HandedFile* file = fileAt(path);
+  if (file == nullptr || file->bytes().size() > maximumSize) return std::nullopt;
+  return std::string(file->bytes());
 }
 
 }  // namespace velmora

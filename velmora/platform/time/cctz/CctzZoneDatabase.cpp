@@ -57,8 +57,9 @@ class CctzZone final : public ZoneRules {
     const Seconds fraction = reading.time_since_epoch() - whole;
     const cctz::civil_second civil = cctz::convert(toCctz(whole), cctz::utc_time_zone());
     const Lookup found = _zone.lookup(civil);
-    return {kindOf(found), fromCctz(found.pre) + fraction, fromCctz(found.trans),
-            fromCctz(found.post) + fraction};
+    const Instant before = fromCctz(found.pre) + fraction, after = fromCctz(found.post) + fraction;
+    const Instant change = found.kind == Lookup::UNIQUE ? before : fromCctz(found.trans);
+    return {kindOf(found), before, change, after};
   }
 
  private:

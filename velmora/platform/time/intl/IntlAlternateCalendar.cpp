@@ -7,7 +7,7 @@
 #include <velmora/platform/time/intl/IntlSupport.h>
 
 // In numbers.js.
-extern "C" int velmora_alternate_day(const char* calendar, double dayCount);
+extern "C" int velmora_intl_alternate_day(const char* calendar, double dayCount);
 
 namespace velmora {
 namespace {
@@ -28,8 +28,8 @@ double daysSince1970(LocalTime local) {
 }  // namespace
 
 std::int64_t AlternateCalendar::day(Instant instant) const {
-  return velmora_alternate_day(calendarNames[static_cast<std::size_t>(_kind)],
-                               daysSince1970(_timeZone.localTime(instant)));
+  return velmora_intl_alternate_day(calendarNames[static_cast<std::size_t>(_kind)],
+                                    daysSince1970(_timeZone.localTime(instant)));
 }
 
 }  // namespace velmora

@@ -5,10 +5,10 @@
 
 // In locales.js.
 extern "C" {
-char* velmora_locale_parts(const char* identifier);
-int velmora_is_right_to_left(const char* identifier);
-int velmora_counts_to_24(const char* identifier);
-char* velmora_plural_category(const char* identifier, double count);
+char* velmora_intl_locale_parts(const char* identifier);
+int velmora_intl_is_right_to_left(const char* identifier);
+int velmora_intl_counts_to_24(const char* identifier);
+char* velmora_intl_plural_category(const char* identifier, double count);
 }
 
 namespace velmora {
@@ -19,7 +19,7 @@ struct LocaleParts {
 };
 
 LocaleParts partsOf(const std::string& identifier) {
-  const std::string parts = takeText(velmora_locale_parts(identifier.c_str()));
+  const std::string parts = takeText(velmora_intl_locale_parts(identifier.c_str()));
   const std::size_t first = parts.find(' '), second = parts.find(' ', first + 1);
   return {parts.substr(0, first), parts.substr(first + 1, second - first - 1), parts.substr(second + 1)};
 }
@@ -28,7 +28,7 @@ LocaleParts partsOf(const std::string& identifier) {
 
 std::string Locale::languageCode() const { return partsOf(_identifier).language; }
 
-bool Locale::isRightToLeft() const { return velmora_is_right_to_left(_identifier.c_str()) != 0; }
+bool Locale::isRightToLeft() const { return velmora_intl_is_right_to_left(_identifier.c_str()) != 0; }
 
 bool Locale::writesTraditionalChinese() const {
   const LocaleParts parts = partsOf(_identifier);
@@ -37,12 +37,12 @@ bool Locale::writesTraditionalChinese() const {
 }
 
 std::string Locale::pluralCategory(std::int64_t count) const {
-  return takeText(velmora_plural_category(_identifier.c_str(), static_cast<double>(count)));
+  return takeText(velmora_intl_plural_category(_identifier.c_str(), static_cast<double>(count)));
 }
 
 bool Locale::uses24HourClock() const {
   if (_hourCycle) return *_hourCycle == HourCycle::h24;
-  return velmora_counts_to_24(_identifier.c_str()) != 0;
+  return velmora_intl_counts_to_24(_identifier.c_str()) != 0;
 }
 
 }  // namespace velmora

@@ -6,8 +6,8 @@
 
 // In numbers.js.
 extern "C" {
-char* velmora_integer_text(const char* locale, int fractionDigits, const char* number);
-char* velmora_number_text(const char* locale, int fractionDigits, double number);
+char* velmora_intl_integer_text(const char* locale, int fractionDigits, const char* number);
+char* velmora_intl_number_text(const char* locale, int fractionDigits, double number);
 }
 
 namespace velmora {
@@ -25,14 +25,14 @@ int fractionDigits(NumberFormatter::Style style, int maximum) {
 NumberFormatter::NumberFormatter() : _locale(Locale::current()) {}
 
 std::string NumberFormatter::stringFromNumber(std::int64_t number) const {
-  return takeText(velmora_integer_text(_locale.identifier().c_str(),
-                                       fractionDigits(_style, _maximumFractionDigits),
-                                       std::to_string(number).c_str()));
+  return takeText(velmora_intl_integer_text(_locale.identifier().c_str(),
+                                            fractionDigits(_style, _maximumFractionDigits),
+                                            std::to_string(number).c_str()));
 }
 
 std::string NumberFormatter::stringFromNumber(double number) const {
-  return takeText(velmora_number_text(_locale.identifier().c_str(),
-                                      fractionDigits(_style, _maximumFractionDigits), number));
+  return takeText(velmora_intl_number_text(_locale.identifier().c_str(),
+                                           fractionDigits(_style, _maximumFractionDigits), number));
 }
 
 }  // namespace velmora

@@ -11,10 +11,10 @@
 
 // In zones.js.
 extern "C" {
-int velmora_zone(const char* identifier);
-double velmora_zone_offset(int zone, double seconds);
-double velmora_zone_next_change(int zone, double seconds);
-char* velmora_system_zone();
+int velmora_intl_zone(const char* identifier);
+double velmora_intl_zone_offset(int zone, double seconds);
+double velmora_intl_zone_next_change(int zone, double seconds);
+char* velmora_intl_system_zone();
 }
 
 namespace velmora {
@@ -37,11 +37,11 @@ ZoneQuestions questionsOf(int zone) {
   return {
       .offset =
           [zone](std::int64_t time) {
-            return static_cast<std::int64_t>(velmora_zone_offset(zone, static_cast<double>(time)));
+            return static_cast<std::int64_t>(velmora_intl_zone_offset(zone, static_cast<double>(time)));
           },
       .nextChange =
           [zone](std::int64_t time) {
-            return toldChange(velmora_zone_next_change(zone, static_cast<double>(time)));
+            return toldChange(velmora_intl_zone_next_change(zone, static_cast<double>(time)));
           },
   };
 }
@@ -88,11 +88,11 @@ std::shared_ptr<const ZoneRules> ZoneDatabase::find(std::string_view identifier)
   const std::lock_guard lock(mutex);
   if (const auto known = found.find(identifier); known != found.end()) return known->second;
   const std::string name(identifier);
-  const int zone = velmora_zone(name.c_str());
+  const int zone = velmora_intl_zone(name.c_str());
   if (zone == 0) return nullptr;
   return found.emplace(name, std::make_shared<IntlZone>(zone)).first->second;
 }
 
-std::string ZoneDatabase::systemZoneIdentifier() { return takeText(velmora_system_zone()); }
+std::string ZoneDatabase::systemZoneIdentifier() { return takeText(velmora_intl_system_zone()); }
 
 }  // namespace velmora

@@ -38,8 +38,8 @@ mergeInto(LibraryManager.library, {
   },
 
   // Language, script and region with blanks between, empty where there is none.
-  velmora_locale_parts__deps: ['$velmoraLocale'],
-  velmora_locale_parts: function(identifier) {
+  velmora_intl_locale_parts__deps: ['$velmoraLocale'],
+  velmora_intl_locale_parts: function(identifier) {
     var locale = velmoraLocale(UTF8ToString(identifier));
     if (!locale) return allocateUTF8('  ');
     return allocateUTF8([locale.language, locale.script, locale.region].map(function(part) {
@@ -47,15 +47,15 @@ mergeInto(LibraryManager.library, {
     }).join(' '));
   },
 
-  velmora_is_right_to_left__deps: ['$velmoraLocale'],
-  velmora_is_right_to_left: function(identifier) {
+  velmora_intl_is_right_to_left__deps: ['$velmoraLocale'],
+  velmora_intl_is_right_to_left: function(identifier) {
     var locale = velmoraLocale(UTF8ToString(identifier));
     var script = locale ? locale.maximize().script : '';
     return 'Adlm Arab Aran Hebr Mand Mend Nkoo Rohg Samr Syrc Thaa Yezi'.split(' ').includes(script) ? 1 : 0;
   },
 
-  velmora_plural_category__deps: ['$velmoraKeep', '$velmoraTag'],
-  velmora_plural_category: function(identifier, count) {
+  velmora_intl_plural_category__deps: ['$velmoraKeep', '$velmoraTag'],
+  velmora_intl_plural_category: function(identifier, count) {
     var tag = velmoraTag(UTF8ToString(identifier));
     var rules = velmoraKeep('plural ' + tag, function() {
       return new Intl.PluralRules(tag);
@@ -63,8 +63,8 @@ mergeInto(LibraryManager.library, {
     return allocateUTF8(rules.select(count));
   },
 
-  velmora_counts_to_24__deps: ['$velmoraKeep', '$velmoraTag'],
-  velmora_counts_to_24: function(identifier) {
+  velmora_intl_counts_to_24__deps: ['$velmoraKeep', '$velmoraTag'],
+  velmora_intl_counts_to_24: function(identifier) {
     var tag = velmoraTag(UTF8ToString(identifier));
     var cycle = velmoraKeep('cycle ' + tag, function() {
       return new Intl.DateTimeFormat(tag, {hour: 'numeric'}).resolvedOptions().hourCycle;

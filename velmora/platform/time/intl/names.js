@@ -55,8 +55,8 @@ mergeInto(LibraryManager.library, {
   },
 
   // The short names of the weekdays or months within dates, a line each.
-  velmora_short_names__deps: ['$velmoraTag', '$velmoraNames'],
-  velmora_short_names: function(identifier, areMonths) {
+  velmora_intl_short_names__deps: ['$velmoraTag', '$velmoraNames'],
+  velmora_intl_short_names: function(identifier, areMonths) {
     var names = velmoraNames(velmoraTag(UTF8ToString(identifier)), areMonths ? 'month' : 'weekday', 'short', false);
     return allocateUTF8(names.join('\n'));
   },

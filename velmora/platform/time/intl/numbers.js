@@ -13,20 +13,20 @@ mergeInto(LibraryManager.library, {
   },
 
   // An integer as a text, so that none is too large.
-  velmora_integer_text__deps: ['$velmoraNumberFormat'],
-  velmora_integer_text: function(identifier, fractionDigits, number) {
+  velmora_intl_integer_text__deps: ['$velmoraNumberFormat'],
+  velmora_intl_integer_text: function(identifier, fractionDigits, number) {
     var format = velmoraNumberFormat(UTF8ToString(identifier), fractionDigits);
     return allocateUTF8(format.format(BigInt(UTF8ToString(number))));
   },
 
-  velmora_number_text__deps: ['$velmoraNumberFormat'],
-  velmora_number_text: function(identifier, fractionDigits, number) {
+  velmora_intl_number_text__deps: ['$velmoraNumberFormat'],
+  velmora_intl_number_text: function(identifier, fractionDigits, number) {
     return allocateUTF8(velmoraNumberFormat(UTF8ToString(identifier), fractionDigits).format(number));
   },
 
   // The day of the month that the day of a count since 1970 has in a calendar of Unicode's name.
-  velmora_alternate_day__deps: ['$velmoraKeep'],
-  velmora_alternate_day: function(calendar, dayCount) {
+  velmora_intl_alternate_day__deps: ['$velmoraKeep'],
+  velmora_intl_alternate_day: function(calendar, dayCount) {
     var name = UTF8ToString(calendar);
     var format = velmoraKeep('calendar ' + name, function() {
       return new Intl.DateTimeFormat('en', {

@@ -81,8 +81,8 @@ mergeInto(LibraryManager.library, {
     return options;
   },
 
-  velmora_template_pattern__deps: ['$velmoraTag', '$velmoraPatternOf', '$velmoraOptionsOf'],
-  velmora_template_pattern: function(identifier, hourCycle, template) {
+  velmora_intl_template_pattern__deps: ['$velmoraTag', '$velmoraPatternOf', '$velmoraOptionsOf'],
+  velmora_intl_template_pattern: function(identifier, hourCycle, template) {
     var options = velmoraOptionsOf(UTF8ToString(template), hourCycle);
     var isEmpty = Object.keys(options).length == 0;
     return allocateUTF8(isEmpty ? '' : velmoraPatternOf(velmoraTag(UTF8ToString(identifier)), options));
@@ -90,8 +90,8 @@ mergeInto(LibraryManager.library, {
 
   // The pattern of the styles (0 none, 1 short, 2 medium) by the habit of the locale. Where the clock habit is
   // overridden, the time's part is that of its fields.
-  velmora_style_pattern__deps: ['$velmoraKeep', '$velmoraTag', '$velmoraPatternOf', '$velmoraOptionsOf'],
-  velmora_style_pattern: function(identifier, overridingCycle, dateStyle, timeStyle) {
+  velmora_intl_style_pattern__deps: ['$velmoraKeep', '$velmoraTag', '$velmoraPatternOf', '$velmoraOptionsOf'],
+  velmora_intl_style_pattern: function(identifier, overridingCycle, dateStyle, timeStyle) {
     var tag = velmoraTag(UTF8ToString(identifier)), styles = [undefined, 'short', 'medium'];
     var key = ['styles', tag, overridingCycle, dateStyle, timeStyle].join(' ');
     return allocateUTF8(velmoraKeep(key, function() {

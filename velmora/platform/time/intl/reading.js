@@ -2,7 +2,7 @@
 // and s; no text follows a pattern that has others.
 mergeInto(LibraryManager.library, {
   $velmoraEscaped: function(text) {
-    return text.replace(/[.*+?^${}()|[\]\\\/-]/g, '\\$&').replace(/\s+/g, '\\s+');
+    return text.replace(/[.*+?^${}()|[\]\\\/]/g, '\\$&').replace(/\s+/g, '\\s+');
   },
 
   // The names that a field is read by; none where it is a number.
@@ -80,8 +80,8 @@ mergeInto(LibraryManager.library, {
 
   // What clocks show when the text is read by the pattern, in milliseconds since 1970-01-01T00:00; NaN for a text
   // that does not follow it.
-  velmora_read_date__deps: ['$velmoraTag', '$velmoraReader', '$velmoraFieldValue', '$velmoraReadDate'],
-  velmora_read_date: function(identifier, pattern, text) {
+  velmora_intl_read_date__deps: ['$velmoraTag', '$velmoraReader', '$velmoraFieldValue', '$velmoraReadDate'],
+  velmora_intl_read_date: function(identifier, pattern, text) {
     var tag = velmoraTag(UTF8ToString(identifier));
     var reader = velmoraReader(tag, UTF8ToString(pattern));
     var found = reader && reader.expression.exec(UTF8ToString(text));

@@ -52,8 +52,8 @@ mergeInto(LibraryManager.library, {
   },
 
   // The date that clocks show when they are so many milliseconds from 1970-01-01T00:00, written by a pattern.
-  velmora_date_text__deps: ['$velmoraTag', '$velmoraFields', '$velmoraFieldText'],
-  velmora_date_text: function(identifier, pattern, milliseconds, offset) {
+  velmora_intl_date_text__deps: ['$velmoraTag', '$velmoraFields', '$velmoraFieldText'],
+  velmora_intl_date_text: function(identifier, pattern, milliseconds, offset) {
     var tag = velmoraTag(UTF8ToString(identifier));
     var date = new Date(Math.max(-8.64e15, Math.min(8.64e15, milliseconds)));
     return allocateUTF8(velmoraFields(UTF8ToString(pattern)).map(function(field) {

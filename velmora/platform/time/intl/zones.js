@@ -40,8 +40,8 @@ mergeInto(LibraryManager.library, {
   },
 
   // A handle of the zone; 0 if there is none of that name.
-  velmora_zone__deps: ['$velmoraZones', '$velmoraIsZoneName', '$velmoraZoneFormat', '$velmoraIsWellWritten'],
-  velmora_zone: function(identifier) {
+  velmora_intl_zone__deps: ['$velmoraZones', '$velmoraIsZoneName', '$velmoraZoneFormat', '$velmoraIsWellWritten'],
+  velmora_intl_zone: function(identifier) {
     var name = UTF8ToString(identifier);
     var format = velmoraIsZoneName(name) ? velmoraZoneFormat(name) : null;
     if (!format || !velmoraIsWellWritten(name, format.resolvedOptions().timeZone)) return 0;
@@ -49,15 +49,15 @@ mergeInto(LibraryManager.library, {
   },
 
   // Offset from GMT in seconds at whole seconds since 1970, of a year after 100.
-  velmora_zone_offset__deps: ['$velmoraZones'],
-  velmora_zone_offset: function(zone, seconds) {
+  velmora_intl_zone_offset__deps: ['$velmoraZones'],
+  velmora_intl_zone_offset: function(zone, seconds) {
     var read = velmoraZones[zone].format.format(seconds * 1000).match(/\d+/g).map(Number);
     return Date.UTC(read[2], read[0] - 1, read[1], read[3] % 24, read[4], read[5]) / 1000 - seconds;
   },
 
   // The instant of the next change of offset, infinite if there is none; NaN where the engine cannot say.
-  velmora_zone_next_change__deps: ['$velmoraZones'],
-  velmora_zone_next_change: function(zone, seconds) {
+  velmora_intl_zone_next_change__deps: ['$velmoraZones'],
+  velmora_intl_zone_next_change: function(zone, seconds) {
     if (typeof Temporal == 'undefined') return NaN;
     var from = Temporal.Instant.fromEpochMilliseconds(seconds * 1000);
     var next = from.toZonedDateTimeISO(velmoraZones[zone].name).getTimeZoneTransition('next');
@@ -65,7 +65,7 @@ mergeInto(LibraryManager.library, {
   },
 
   // The zone that the engine is set to, in memory that the caller frees.
-  velmora_system_zone: function() {
+  velmora_intl_system_zone: function() {
     return allocateUTF8(new Intl.DateTimeFormat().resolvedOptions().timeZone || '');
   },
 });
