@@ -21,14 +21,17 @@ mergeInto(LibraryManager.library, {
     }
   },
 
+  // English written the international way stands for the root locale.
+  $velmoraRootTag: '="en-u-hc-h23"',
+
   // The tag of a locale that the engine has data for. What it does not know, it would take for the locale of
-  // the device; English written the international way stands for the root locale.
-  $velmoraTag__deps: ['$velmoraKeep', '$velmoraLocale'],
+  // the device.
+  $velmoraTag__deps: ['$velmoraKeep', '$velmoraLocale', '$velmoraRootTag'],
   $velmoraTag: function(identifier) {
     return velmoraKeep('tag ' + identifier, function() {
       var locale = velmoraLocale(identifier);
       var isKnown = locale && Intl.DateTimeFormat.supportedLocalesOf([locale.baseName]).length > 0;
-      return isKnown ? locale.baseName : 'en-u-hc-h23';
+      return isKnown ? locale.baseName : velmoraRootTag;
     });
   },
 
@@ -54,9 +57,10 @@ mergeInto(LibraryManager.library, {
     return 'Adlm Arab Aran Hebr Mand Mend Nkoo Rohg Samr Syrc Thaa Yezi'.split(' ').includes(script) ? 1 : 0;
   },
 
-  velmora_intl_plural_category__deps: ['$velmoraKeep', '$velmoraTag'],
+  velmora_intl_plural_category__deps: ['$velmoraKeep', '$velmoraTag', '$velmoraRootTag'],
   velmora_intl_plural_category: function(identifier, count) {
     var tag = velmoraTag(UTF8ToString(identifier));
+    if (tag == velmoraRootTag) return allocateUTF8('other');
     var rules = velmoraKeep('plural ' + tag, function() {
       return new Intl.PluralRules(tag);
     });
