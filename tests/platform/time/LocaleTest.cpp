@@ -129,5 +129,13 @@ TEST(LocalePlurals, AreThoseOfTheLanguage) {
   EXPECT_EQ(category("en_US", 1'000'000'000'000), "other");
 }
 
+TEST(LocaleWeek, BeginsAsCalendarsThereDo) {
+  for (const char* identifier : {"en_US", "pt_BR", "he_IL", "ja_JP", "hi_IN", "ko_KR"})
+    EXPECT_EQ(Locale(identifier).firstWeekday(), 1) << identifier;
+  for (const char* identifier : {"de_DE", "en_GB", "fr_FR", "fi_FI", "ru_RU", "tr_TR", "de", "xx_XX"})
+    EXPECT_EQ(Locale(identifier).firstWeekday(), 2) << identifier;
+  EXPECT_EQ(Locale("ar_EG").firstWeekday(), 7);
+}
+
 }  // namespace
 }  // namespace velmora

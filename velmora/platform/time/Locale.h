@@ -40,6 +40,9 @@ class Locale {
   /// (CLDR).
   std::string pluralCategory(std::int64_t count) const;
 
+  /// The weekday that calendars there begin with: 1 = Sunday .. 7 = Saturday.
+  int firstWeekday() const;
+
   /// Whether clocks are habitually read 0..23 there, or as the override says.
   bool uses24HourClock() const;
 

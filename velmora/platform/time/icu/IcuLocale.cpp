@@ -1,5 +1,6 @@
 #include <velmora/platform/time/Locale.h>
 
+#include <unicode/calendar.h>
 #include <unicode/plurrule.h>
 
 #include <algorithm>
@@ -29,6 +30,13 @@ std::string Locale::pluralCategory(std::int64_t count) const {
   if (U_FAILURE(status)) return "other";
   constexpr std::int64_t largest = std::numeric_limits<std::int32_t>::max();
   return fromIcu(rules->select(static_cast<std::int32_t>(std::clamp(count, -largest, largest))));
+}
+
+int Locale::firstWeekday() const {
+  UErrorCode status = U_ZERO_ERROR;
+  const std::unique_ptr<icu::Calendar> calendar(
+      icu::Calendar::createInstance(canonicalLocale(_identifier), status));
+  return U_SUCCESS(status) ? calendar->getFirstDayOfWeek(status) : UCAL_MONDAY;
 }
 
 bool Locale::uses24HourClock() const {

@@ -9,6 +9,7 @@ char* velmora_intl_locale_parts(const char* identifier);
 int velmora_intl_is_right_to_left(const char* identifier);
 int velmora_intl_counts_to_24(const char* identifier);
 char* velmora_intl_plural_category(const char* identifier, double count);
+int velmora_intl_first_weekday(const char* identifier);
 }
 
 namespace velmora {
@@ -39,6 +40,8 @@ bool Locale::writesTraditionalChinese() const {
 std::string Locale::pluralCategory(std::int64_t count) const {
   return takeText(velmora_intl_plural_category(_identifier.c_str(), static_cast<double>(count)));
 }
+
+int Locale::firstWeekday() const { return velmora_intl_first_weekday(_identifier.c_str()); }
 
 bool Locale::uses24HourClock() const {
   if (_hourCycle) return *_hourCycle == HourCycle::h24;

@@ -67,6 +67,14 @@ mergeInto(LibraryManager.library, {
     return allocateUTF8(rules.select(count));
   },
 
+  // 1 = Sunday .. 7 = Saturday, where the engine counts from Monday; Monday where it does not know.
+  velmora_intl_first_weekday__deps: ['$velmoraLocale'],
+  velmora_intl_first_weekday: function(identifier) {
+    var locale = velmoraLocale(UTF8ToString(identifier));
+    var week = locale && (locale.getWeekInfo ? locale.getWeekInfo() : locale.weekInfo);
+    return week ? week.firstDay % 7 + 1 : 2;
+  },
+
   velmora_intl_counts_to_24__deps: ['$velmoraKeep', '$velmoraTag'],
   velmora_intl_counts_to_24: function(identifier) {
     var tag = velmoraTag(UTF8ToString(identifier));
