@@ -94,4 +94,10 @@ struct LocalEclipse {
 /// is not valid and for a maximum around which there is no eclipse.
 std::optional<LocalEclipse> seenFrom(const Eclipse& eclipse, const Place& place);
 
+/// The kind that is seen: partial where the total or annular phase lies wholly below the horizon.
+EclipseKind seenKind(const LocalEclipse& eclipse);
+
+/// Whether something of it is seen in [from, to).
+bool isSeenWithin(const LocalEclipse& eclipse, Instant from, Instant to);
+
 }  // namespace velmora::almanac

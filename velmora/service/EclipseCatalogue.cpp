@@ -14,14 +14,16 @@ namespace {
 
 using Titles = std::map<std::string_view, std::string>;
 
-/// The localised title of each code.
 /// Kept: "Penumbra" without its adjective ending, the key of the translations.
+const Titles englishTitles = {
+    {"TLE", "Total Lunar Eclipse"},  {"PLE", "Partial Lunar Eclipse"}, {"NLE", "Penumbra Lunar Eclipse"},
+    {"TSE", "Total Solar Eclipse"},  {"PSE", "Partial Solar Eclipse"}, {"ASE", "Annular Solar Eclipse"},
+    {"HSE", "Hybrid Solar Eclipse"},
+};
+
+/// The localised title of each code.
 Titles titlesByCode() {
-  Titles titles = {
-      {"TLE", "Total Lunar Eclipse"},  {"PLE", "Partial Lunar Eclipse"}, {"NLE", "Penumbra Lunar Eclipse"},
-      {"TSE", "Total Solar Eclipse"},  {"PSE", "Partial Solar Eclipse"}, {"ASE", "Annular Solar Eclipse"},
-      {"HSE", "Hybrid Solar Eclipse"},
-  };
+  Titles titles = englishTitles;
   for (auto& [code, title] : titles) title = Bundle::library().localizedString(title);
   return titles;
 }
@@ -74,6 +76,12 @@ std::shared_ptr<const EclipseInfo> readLine(std::string_view line, const Titles&
 }
 
 }  // namespace
+
+std::optional<std::string> titleOfEclipse(const std::string& code) {
+  const auto title = englishTitles.find(code);
+  if (title == englishTitles.end()) return std::nullopt;
+  return Bundle::library().localizedString(title->second);
+}
 
 EclipseCatalogue readEclipseCatalogue(std::string_view text) {
   const Titles titles = titlesByCode();

@@ -15,4 +15,7 @@ struct EclipseInfo {
   bool isLunarEvent = false;         ///< whether the code contains "LE"
 };
 
+/// The title of a code in the user's language; none for an unknown code.
+std::optional<std::string> titleOfEclipse(const std::string& code);
+
 }  // namespace velmora

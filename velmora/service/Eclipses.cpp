@@ -35,6 +35,7 @@ void MoonPhaseData::loadEventsFromFile() {
 }
 
 std::shared_ptr<const EclipseInfo> MoonPhaseData::eventsOnDate(Instant date, const TimeZone& inTimezone) {
+  if (_eclipseSource) return _eclipseSource(date, inTimezone, place());
   if (!_eventsData) loadEventsFromFile();
   if (!_eventsData) return nullptr;
 

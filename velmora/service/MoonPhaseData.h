@@ -19,6 +19,7 @@
 #include <velmora/platform/time/Instant.h>
 #include <velmora/service/EclipseCatalogue.h>
 #include <velmora/service/EclipseInfo.h>
+#include <velmora/service/RecordSources.h>
 
 namespace velmora {
 
@@ -57,6 +58,11 @@ class MoonPhaseData {
   MoonPhaseData();
   MoonPhaseData(const MoonPhaseData&) = delete;
   MoonPhaseData& operator=(const MoonPhaseData&) = delete;
+
+  /// Puts another source in place of the fixed rules for rise and set, or for the eclipse of a day; an empty
+  /// one puts the rules back. The month's rise/set items are built anew on demand.
+  void setRiseSetSource(RiseSetSource source);
+  void setEclipseSource(EclipseSource source) { _eclipseSource = std::move(source); }
 
   // The selection and what belongs to it (Selection.cpp)
 
@@ -260,10 +266,13 @@ class MoonPhaseData {
   void forgetMonth();
   std::shared_ptr<const PhaseCalendar> phasesOfMonth() const;
   void setPlace(std::shared_ptr<GeoLocationData> location);
+  RiseSetData riseSetOf(Instant date, std::int64_t secondsFromGMT) const;
   std::shared_ptr<RiseSetPhaseItem> riseSetItem(const PhaseItem& day, Instant instant,
                                                 const Calendar& timeCalendar) const;
   std::shared_ptr<RiseSetPhaseItem> eventItem(const TableEvent& event, const Calendar& localCalendar) const;
 
+  RiseSetSource _riseSetSource;
+  EclipseSource _eclipseSource;
   Calendar _calendar;
   MonthEvents _currentMonthData;
   std::shared_ptr<const YearTable> _rawDataDictionary;

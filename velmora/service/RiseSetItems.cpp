@@ -31,8 +31,18 @@ Instant quietHour(const PhaseItem& day, const Calendar& calendar) {
 
 }  // namespace
 
+void MoonPhaseData::setRiseSetSource(RiseSetSource source) {
+  _riseSetSource = std::move(source);
+  _currentRiseSetPhaseItemDictionary = nullptr;
+}
+
+RiseSetData MoonPhaseData::riseSetOf(Instant date, std::int64_t secondsFromGMT) const {
+  if (_riseSetSource) return _riseSetSource(date, place(), secondsFromGMT, civilTwilight);
+  return RiseAndSetCalc::Compute(date, place(), secondsFromGMT, civilTwilight);
+}
+
 RiseSetData MoonPhaseData::GetRiseSetDataForDate(Instant date) const {
-  return RiseAndSetCalc::Compute(date, place(), zoneOfPlace().secondsFromGMT(date), civilTwilight);
+  return riseSetOf(date, zoneOfPlace().secondsFromGMT(date));
 }
 
 std::vector<RiseSetData> MoonPhaseData::getRiseSetDataFrom(Instant from, Instant to) const {
@@ -144,8 +154,7 @@ std::shared_ptr<RiseSetPhaseItem> MoonPhaseData::eventItem(const TableEvent& eve
   item->fullFactor = fullFactorForPrincipalPhase(event.phase);
   item->timeText = shortTimeText(event.instant, localCalendar);
   item->localDate = shifted;
-  item->riseSetData =
-      RiseAndSetCalc::Compute(shifted, place(), zoneOfPlace().secondsFromGMT(event.instant), civilTwilight);
+  item->riseSetData = riseSetOf(shifted, zoneOfPlace().secondsFromGMT(event.instant));
   localizeDateTimeStringsForRiseSetPhaseItem(item.get(), place().timezone);
   return item;
 }
