@@ -2,6 +2,7 @@
 
 #include <app/text/Errors.h>
 #include <app/text/ValueTexts.h>
+#include <app/text/Words.h>
 #include <velmora/platform/time/Clock.h>
 
 namespace velmora::app {
@@ -12,6 +13,7 @@ using std::chrono::local_days;
 using std::chrono::years;
 
 constexpr years longestRange{41};
+constexpr Instant endOfKnownRotation = std::chrono::sys_days(std::chrono::January / 1 / 2031);
 
 void checkRange(CivilDate from, CivilDate to) {
   if (to < from)
@@ -20,6 +22,11 @@ void checkRange(CivilDate from, CivilDate to) {
   if (to >= from + longestRange)
     throw BadInput("the range from " + dateText(from) + " to " + dateText(to) +
                    " is too long; accepted are at most 41 years");
+}
+
+[[noreturn]] void refuseUncovered(CivilDate date) {
+  throw BadInput("the day " + dateText(date) +
+                 " is not wholly known at the place; accepted: what lies from 1900 to 2100 in UTC");
 }
 
 }  // namespace
@@ -49,17 +56,34 @@ CivilDate dayOf(const Query& query) {
   return date;
 }
 
-Instant instantOf(const Query& query, ClockTime usual) {
-  return instantOn(dayOf(query), query.request.time.value_or(usual), query.place.zone);
-}
-
-Instant universalReading(Instant instant, std::int64_t offset, const Place& place) {
-  return Instant(place.zone.localTime(instant - Seconds(static_cast<double>(offset))).time_since_epoch());
-}
-
 Instant presentOf(const Query& query) {
   if (!query.request.date && !query.request.time) return Clock::now();
-  return instantOf(query, std::chrono::hours(12));
+  constexpr std::chrono::hours noon{12};
+  return instantOn(dayOf(query), query.request.time.value_or(noon), query.place.zone);
+}
+
+almanac::Interval intervalOf(const std::vector<CivilDate>& days, const Query& query) {
+  if (days.empty()) return {};
+  const auto first = almanac::civilDay(query.place.zone, days.front());
+  const auto last = almanac::civilDay(query.place.zone, days.back());
+  if (!first || first->start < ephemeris::firstInstant()) refuseUncovered(days.front());
+  if (!last || last->end > ephemeris::endInstant()) refuseUncovered(days.back());
+  return {first->start, last->end};
+}
+
+almanac::Interval rangeOf(const Query& query) { return intervalOf(daysOf(query), query); }
+
+void checkRangeIsGiven(const Query& query) {
+  if (!query.request.from && !query.request.to)
+    throw BadInput("from and to are missing: give both, as YYYY-MM-DD");
+}
+
+std::string noteOnTimeToCome(Instant last) {
+  if (last < endOfKnownRotation) return "";
+  return words(
+             "Of years after 2030 the leap seconds are not known: times may shift, by 2100 up to 2 "
+             "minutes.") +
+         "\n";
 }
 
 }  // namespace velmora::app

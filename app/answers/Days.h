@@ -1,9 +1,11 @@
 #pragma once
 
+#include <string>
 #include <vector>
 
 #include <app/answers/Query.h>
 #include <app/place/CivilDays.h>
+#include <velmora/almanac/Events.h>
 
 namespace velmora::app {
 
@@ -16,15 +18,21 @@ std::vector<CivilDate> daysOf(const Query& query);
 /// skipped it.
 CivilDate dayOf(const Query& query);
 
-/// The instant that the request asks for: its time of day, else the given one, on its day.
-Instant instantOf(const Query& query, ClockTime usual);
-
-/// The moment that the Sun's series and its elevation search begin at, by the rule of the engine: the instant
-/// less the offset (seconds), read from the place's clocks as universal time. Within hours of a clock change
-/// it is off by the change.
-Instant universalReading(Instant instant, std::int64_t offset, const Place& place);
-
 /// The instant that the request asks for: now, or where it names a day without a time, noon of that day.
 Instant presentOf(const Query& query);
+
+/// From the first instant of the first of these days, which exist, to the end of the last. Throws BadInput
+/// where the almanac does not know all of it: at the edge of its years, which are those of universal time.
+almanac::Interval intervalOf(const std::vector<CivilDate>& days, const Query& query);
+
+/// The interval of the days that the request asks for; one without an instant where it has no day.
+almanac::Interval rangeOf(const Query& query);
+
+/// Throws BadInput without a range.
+void checkRangeIsGiven(const Query& query);
+
+/// A line for people below instants of which some are later than what is known of the Earth's rotation; empty
+/// if none is.
+std::string noteOnTimeToCome(Instant last);
 
 }  // namespace velmora::app

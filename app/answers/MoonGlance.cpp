@@ -5,68 +5,82 @@
 #include <sstream>
 
 #include <app/answers/Days.h>
-#include <app/answers/Eclipses.h>
-#include <app/answers/PhaseListing.h>
-#include <app/text/ClockText.h>
+#include <app/answers/PhaseYear.h>
+#include <app/answers/SkyPositions.h>
 #include <app/text/MoonDisc.h>
 #include <app/text/PhaseText.h>
-#include <app/text/TextTable.h>
 #include <app/text/ValueTexts.h>
+#include <app/text/Words.h>
 #include <velmora/phases/Phase.h>
 
 namespace velmora::app {
 namespace {
 
+constexpr std::chrono::days longestLunation{30};
 const std::string gap = "   ";  // between the disc and what stands beside it
 
-std::optional<PhaseEvent> firstOf(const PhaseEvents& events, std::int64_t phase) {
-  const auto found = std::find_if(events.begin(), events.end(),
-                                  [phase](const PhaseEvent& event) { return event.phase == phase; });
-  return found == events.end() ? std::nullopt : std::optional(*found);
+std::optional<Instant> firstOf(const std::vector<almanac::PhaseEvent>& events,
+                               almanac::PrincipalPhase phase) {
+  const auto found =
+      std::find_if(events.begin(), events.end(), [phase](const auto& event) { return event.phase == phase; });
+  return found == events.end() ? std::nullopt : std::optional(found->at);
 }
 
-PhaseItem phaseOfDay(CivilDate day, const Place& place) {
-  const auto month = PhaseYear(day.year(), place).days(day.month());
-  return *month.at(static_cast<unsigned>(day.day()));
+Json instantJson(const std::optional<Instant>& instant) {
+  return instant ? Json(instantText(*instant)) : Json(nullptr);
 }
 
-Json instantJson(const std::optional<PhaseEvent>& event) {
-  return event ? Json(instantText(event->instant)) : Json(nullptr);
+/// The day's record where the tables have it, else the same of the almanac, which has no such factor.
+Json phaseOfDayJson(const MoonDay& day, const Place& place) {
+  if (!isCovered(day.date)) {
+    return {{"phase", day.phase},
+            {"phaseName", phaseName(day.phase)},
+            {"fullFactor", nullptr},
+            {"moonAge", day.age ? Json(*day.age) : Json(nullptr)}};
+  }
+  const auto month = PhaseYear(day.date.year(), place).days(day.date.month());
+  const PhaseItem& record = *month.at(static_cast<unsigned>(day.date.day()));
+  return {{"phase", record.phase},
+          {"phaseName", phaseName(record.phase)},
+          {"fullFactor", record.fullFactor},
+          {"moonAge", record.moonAge}};
 }
 
-std::string percentText(double fraction) { return std::to_string(std::lround(100 * fraction)) + "%"; }
+std::string litText(const almanac::Illumination& light) {
+  return std::to_string(std::lround(100 * light.fraction)) + "%, " + tiltText(light);
+}
 
 std::string ageText(std::optional<std::int64_t> age) {
-  return age ? "day " + std::to_string(*age) + " of the lunation"
-             : "from before 2000, where the tables begin";
+  return age ? words("day %1 of the lunation", {std::to_string(*age)}) : words("not known");
 }
 
-std::string eventText(const std::optional<PhaseEvent>& event, const Query& query) {
-  return event ? phaseTime(*event, query) : "after 2040, where the tables end";
+std::string nextText(const std::optional<Instant>& instant, const Query& query) {
+  return instant ? momentText(*instant, query) : words("after 2100");
 }
 
-std::string eclipseText(const EclipseInfo* eclipse, const Query& query) {
-  if (!eclipse) return "none visible";
-  return eclipseTitle(*eclipse) + ", " + phaseClock(eclipse->datetime, query);
+std::string eclipseText(const std::optional<SeenEclipse>& eclipse, const Query& query) {
+  if (!eclipse) return words("none seen from here");
+  return eclipseTitle(eclipse->eclipse) + ", " + clockAt(bestMoment(*eclipse), query);
 }
 
-bool comesFirst(const std::optional<PhaseEvent>& a, const std::optional<PhaseEvent>& b) {
-  return a && (!b || a->instant < b->instant);
+bool comesFirst(const std::optional<Instant>& a, const std::optional<Instant>& b) {
+  return a && (!b || *a < *b);
 }
 
 /// The name of the phase, and under it a line a fact.
 std::vector<std::string> factLines(const MoonGlance& glance, const Query& query) {
-  TextTable::Row newMoon{phaseName(kNewMoon), eventText(glance.newMoon, query)};
-  TextTable::Row fullMoon{phaseName(kFullMoon), eventText(glance.fullMoon, query)};
+  TextTable::Row newMoon{phaseName(kNewMoon), nextText(glance.newMoon, query)};
+  TextTable::Row fullMoon{phaseName(kFullMoon), nextText(glance.fullMoon, query)};
   if (comesFirst(glance.fullMoon, glance.newMoon)) std::swap(newMoon, fullMoon);
 
-  const ShownPhase shown = shownPhase(glance.day, glance.illumination);
-  TextTable facts({"Lit", percentText(glance.illumination.fraction)});
-  facts.add({"Age", ageText(shown.age)});
+  TextTable facts({words("Lit"), litText(glance.light)});
+  facts.add({words("Age"), ageText(glance.day.age)});
   facts.add(newMoon);
   facts.add(fullMoon);
-  facts.add({"Eclipse", eclipseText(glance.eclipse.get(), query)});
-  std::istringstream text(heading(phaseName(shown.phase), query.boldHeadings) + "\n" + facts.text(false));
+  facts.add({words("Eclipse"), eclipseText(glance.eclipse, query)});
+  if (glance.eclipse) facts.add({"", seenText(*glance.eclipse)});
+  std::istringstream text(heading(phaseName(glance.day.phase), query.boldHeadings) + "\n" +
+                          facts.text(false));
   std::vector<std::string> lines;
   for (std::string line; std::getline(text, line);) lines.push_back(line);
   return lines;
@@ -75,28 +89,31 @@ std::vector<std::string> factLines(const MoonGlance& glance, const Query& query)
 }  // namespace
 
 MoonGlance moonGlance(const Query& query) {
-  const CivilDate day = coveredDay(query);
+  const CivilDate day = dayOf(query);
   const Instant present = presentOf(query);
-  const PhaseEvents next = phaseEventsBetween(present, present + longestLunation, query.place);
-  return {phaseOfDay(day, query.place), illuminationAt(present), firstOf(next, kNewMoon),
-          firstOf(next, kFullMoon), visibleEclipse(day, query.place)};
+  const auto next = almanac::phases(present, present + longestLunation);
+  return {moonDays({day}, query.place.zone).at(0),
+          *positionAt(present, almanac::Body::moon, query.place).light,
+          firstOf(next, almanac::PrincipalPhase::newMoon), firstOf(next, almanac::PrincipalPhase::fullMoon),
+          visibleEclipse(day, query)};
 }
 
-Json moonGlanceJson(const MoonGlance& glance) {
-  return {{"phase", glance.day.phase},
-          {"phaseName", phaseName(glance.day.phase)},
-          {"fullFactor", glance.day.fullFactor},
-          {"illumination", glance.illumination.fraction},
-          {"moonAge", glance.day.moonAge},
-          {"nextNewMoon", instantJson(glance.newMoon)},
-          {"nextFullMoon", instantJson(glance.fullMoon)},
-          {"eclipse", eclipseJson(glance.eclipse.get())}};
+Json moonGlanceJson(const MoonGlance& glance, const Place& place) {
+  Json json = phaseOfDayJson(glance.day, place);
+  Json glanced{{"phase", json["phase"]},
+               {"phaseName", json["phaseName"]},
+               {"fullFactor", json["fullFactor"]},
+               {"illumination", glance.light.fraction},
+               {"moonAge", json["moonAge"]},
+               {"nextNewMoon", instantJson(glance.newMoon)},
+               {"nextFullMoon", instantJson(glance.fullMoon)},
+               {"eclipse", eclipseJson(glance.eclipse)}};
+  return glanced;
 }
 
 std::string moonGlanceText(const MoonGlance& glance, const Query& query) {
   const bool isSouthern = query.place.location.latitude < 0;
-  const auto disc =
-      moonDisc(glance.illumination.fraction, glance.illumination.isWaxing != isSouthern, query.boldHeadings);
+  const auto disc = moonDisc(glance.light.fraction, glance.light.isWaxing != isSouthern, query.boldHeadings);
   const auto facts = factLines(glance, query);
   const std::size_t firstFact = (disc.size() - facts.size()) / 2;
   std::string text;

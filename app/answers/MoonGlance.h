@@ -1,30 +1,29 @@
 #pragma once
 
-#include <memory>
 #include <optional>
 #include <string>
 
-#include <app/answers/Illumination.h>
-#include <app/answers/PhaseYear.h>
-#include <velmora/phases/PhaseItem.h>
-#include <velmora/service/EclipseInfo.h>
+#include <app/answers/Phases.h>
+#include <app/answers/SeenEclipses.h>
+#include <velmora/almanac/Positions.h>
 
 namespace velmora::app {
 
 /// What there is to say of the Moon on a day at a place.
 struct MoonGlance {
-  PhaseItem day;
-  Illumination illumination;                    ///< at the present
-  std::optional<PhaseEvent> newMoon, fullMoon;  ///< the next from the present on; none where the tables end
-  std::shared_ptr<const EclipseInfo> eclipse;   ///< the visible one of the day
+  MoonDay day;
+  almanac::Illumination light;               ///< at the present
+  std::optional<Instant> newMoon, fullMoon;  ///< the next from the present on; none after 2100
+  std::optional<SeenEclipse> eclipse;        ///< the one that is seen on the day
 };
 
-/// Throws BadInput for a day that the tables do not cover, Failure if a table cannot be read.
+/// Throws BadInput for a day that the almanac does not know.
 MoonGlance moonGlance(const Query& query);
 
-/// As members of one object: the day's record, `phaseName`, `illumination`, `nextNewMoon`, `nextFullMoon` and
-/// `eclipse`, the last three null without one.
-Json moonGlanceJson(const MoonGlance& glance);
+/// As members of one object: `phase`, `phaseName`, `fullFactor` and `moonAge` as the library's tables have
+/// them, `illumination`, `nextNewMoon`, `nextFullMoon` and `eclipse`, null where there is none. Throws
+/// Failure if a table cannot be read.
+Json moonGlanceJson(const MoonGlance& glance, const Place& place);
 
 /// The drawn disc as seen from the place, and beside it what is said of it.
 std::string moonGlanceText(const MoonGlance& glance, const Query& query);

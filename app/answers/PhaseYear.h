@@ -13,23 +13,20 @@ void checkCovered(const std::string& label, CivilDate date);
 /// Today at the place. Throws BadInput if the tables do not cover it.
 CivilDate coveredToday(const Query& query);
 
-/// The day or the year that the request asks for, else the present one at the place. Throws BadInput for one
-/// that the tables do not cover.
-CivilDate coveredDay(const Query& query);
+/// Whether the tables have the day.
+bool isCovered(CivilDate date);
+
+/// The year that the request asks for, else the present one at the place. Throws BadInput for one that the
+/// tables do not cover.
 std::chrono::year coveredYear(const Query& query);
 
-/// Longer than any lunation: within it each phase comes at least once.
-constexpr std::chrono::days longestLunation{30};
-
-/// A new moon, first quarter, full moon or last quarter.
-struct PhaseEvent {
+/// A new moon, first quarter, full moon or last quarter as the tables have it, to the minute.
+struct RecordedPhase {
   Instant instant;
   CivilDate date;  ///< at the place
   std::int64_t phase;
   float fullFactor;
 };
-
-using PhaseEvents = std::vector<PhaseEvent>;
 
 /// What a year's table says of its months as seen from a place.
 class PhaseYear {
@@ -39,7 +36,7 @@ class PhaseYear {
   PhaseYear(std::chrono::year year, const Place& place);
 
   /// The events whose day at the place lies in the month, by their instants.
-  PhaseEvents events(std::chrono::month month) const;
+  std::vector<RecordedPhase> events(std::chrono::month month) const;
 
   /// The phase of each day of the month.
   MoonPhaseCalc::PhaseCalendar days(std::chrono::month month) const;
@@ -54,12 +51,5 @@ class PhaseYear {
   const Place& _place;
   std::shared_ptr<const YearTable> _table;
 };
-
-/// The events with `from` ≤ instant < `to`, by their instants, as far as the tables go.
-PhaseEvents phaseEventsBetween(Instant from, Instant to, const Place& place);
-
-/// The events of the days that the request asks for: from 00:00 of the first at the place to the end of the
-/// last. Throws BadInput as `daysOf` does and for days outside the tables.
-PhaseEvents phaseEventsOfRange(const Query& query);
 
 }  // namespace velmora::app

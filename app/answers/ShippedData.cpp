@@ -70,15 +70,6 @@ void checkNeighbour(std::chrono::year_month month) {
     wholeTable(year + std::chrono::years(1));
 }
 
-void checkCatalogue(const EclipseCatalogue* catalogue) {
-  const std::string file = pathIn(Bundle::library(), "Data/events.txt");
-  if (!catalogue || catalogue->empty())
-    throw Failure("the catalogue of eclipses cannot be read from " + file);
-  const auto lastDay = std::chrono::floor<std::chrono::days>(catalogue->rbegin()->first);
-  if (CivilDate(lastDay).year() < lastTableYear)
-    throw Failure("the catalogue of eclipses is cut short: " + file);
-}
-
 void checkPictures(const Bundle& bundle, const std::vector<std::string>& names) {
   for (const std::string& name : names) {
     const auto picture = bundle.image(name);

@@ -7,7 +7,6 @@
 
 #include <velmora/phases/YearTable.h>
 #include <velmora/platform/resources/Bundle.h>
-#include <velmora/service/EclipseCatalogue.h>
 
 // What the library passes over in damaged data would be missing from the program's answers without a word.
 // These throw a Failure that names the file instead.
@@ -19,9 +18,6 @@ std::shared_ptr<const YearTable> wholeTable(std::chrono::year year);
 /// A January also needs the table of the year before, a December that of the year after, where the tables
 /// reach so far. Throws unless it is whole.
 void checkNeighbour(std::chrono::year_month month);
-
-/// Throws unless the catalogue is there and reaches the tables' last year.
-void checkCatalogue(const EclipseCatalogue* catalogue);
 
 /// Throws unless the bundle has each of the pictures, undamaged.
 void checkPictures(const Bundle& bundle, const std::vector<std::string>& names);

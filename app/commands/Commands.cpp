@@ -10,6 +10,7 @@ const Answer* findAnswer(std::string_view command) {
       {"phases", &phasesAnswer},     {"next", &nextAnswer},         {"riseset", &riseSetAnswer},
       {"position", &positionAnswer}, {"track", &trackAnswer},       {"elevation", &elevationAnswer},
       {"eclipse", &eclipseAnswer},   {"eclipses", &eclipsesAnswer}, {"ics", &icsAnswer},
+      {"place", &ownPlaceAnswer},
   };
   const auto found = answers.find(command);
   return found == answers.end() ? nullptr : found->second;

@@ -1,31 +1,34 @@
-#include <app/commands/Commands.h>
-
 #include <app/answers/Days.h>
-#include <app/answers/Eclipses.h>
-#include <app/answers/PhaseYear.h>
+#include <app/answers/SeenEclipses.h>
+#include <app/commands/Commands.h>
 #include <app/text/ClockText.h>
 #include <app/text/EnglishDate.h>
+#include <app/text/Words.h>
 
 namespace velmora::app {
 namespace {
 
-Json json(const Query& query) { return eclipseJson(visibleEclipse(coveredDay(query), query.place).get()); }
+Json json(const Query& query) { return eclipseJson(eclipseOf(dayOf(query), query)); }
 
-std::string described(const EclipseInfo& eclipse, const Query& query) {
-  return eclipseTitle(eclipse) + "\nGreatest at " +
-         localText(eclipse.datetime, query.place.zone, query.use24HourClock) + "\n" +
-         (eclipse.isLunarEvent ? "" : shadowNote);
+std::string described(const SeenEclipse& seen, const Query& query) {
+  const std::string greatest =
+      words("Greatest at %1, somewhere on Earth",
+            {localText(seen.eclipse.maximum, query.place.zone, query.use24HourClock)});
+  return eclipseTitle(seen.eclipse) + "\n" +
+         (seen.eclipse.body == almanac::Body::sun ? greatest + "\n" : "") + describedInLines(seen, query) +
+         "\n" + (seen.isVisible() ? "\n" + momentsText(*seen.local, query) : "") +
+         noteOnTimeToCome(seen.eclipse.maximum);
 }
 
 std::string text(const Query& query) {
-  const CivilDate day = coveredDay(query);
-  const auto eclipse = visibleEclipse(day, query.place);
+  const CivilDate day = dayOf(query);
+  const auto eclipse = eclipseOf(day, query);
   return query.place.heading() + englishDate(day, "EEEE d MMMM yyyy") + "\n\n" +
-         (eclipse ? described(*eclipse, query) : "No eclipse is visible from here on this day.\n");
+         (eclipse ? described(*eclipse, query) : words("There is no eclipse on this day.") + "\n");
 }
 
 }  // namespace
 
-const Answer eclipseAnswer{json, text};
+const Answer eclipseAnswer{jsonLineOf<json>, text};
 
 }  // namespace velmora::app

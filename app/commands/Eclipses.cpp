@@ -1,39 +1,40 @@
+#include <app/answers/Days.h>
+#include <app/answers/SeenEclipses.h>
 #include <app/commands/Commands.h>
-
-#include <app/answers/Eclipses.h>
-#include <app/answers/PhaseYear.h>
 #include <app/text/ClockText.h>
-#include <app/text/EnglishDate.h>
+#include <app/text/Csv.h>
 #include <app/text/TextTable.h>
+#include <app/text/Words.h>
 
 namespace velmora::app {
 namespace {
 
-std::vector<SeenEclipse> answer(const Query& query) {
-  return eclipsesOfYear(coveredYear(query), query.place);
-}
-
 Json json(const Query& query) {
   Json list = Json::array();
-  for (const auto& [eclipse, isVisible] : answer(query)) {
-    list.push_back(eclipseJson(eclipse.get()));
-    list.back()["isVisible"] = isVisible;
-  }
+  for (const SeenEclipse& eclipse : eclipsesOfYear(query)) list.push_back(eclipseJson(eclipse));
   return list;
 }
 
+std::string csv(const Query& query) {
+  Json rows = Json::array();
+  for (const SeenEclipse& eclipse : eclipsesOfYear(query)) rows.push_back(eclipseRow(eclipse));
+  return csvTable(eclipseColumns(), rows);
+}
+
 std::string text(const Query& query) {
-  TextTable table({"Greatest", "From here", "Eclipse"});
-  for (const auto& [eclipse, isVisible] : answer(query)) {
-    table.add({localText(eclipse->datetime, query.place.zone, query.use24HourClock),
-               isVisible ? "visible" : "below the horizon", eclipseTitle(*eclipse)});
+  TextTable table({words("Time"), words("Eclipse"), words("From here")});
+  const auto eclipses = eclipsesOfYear(query);
+  for (const SeenEclipse& eclipse : eclipses) {
+    table.add({localText(bestMoment(eclipse), query.place.zone, query.use24HourClock),
+               eclipseTitle(eclipse.eclipse), seenText(eclipse)});
   }
-  return query.place.heading() + "\n" + table.text(query.boldHeadings) +
-         "\nVisible: at its height the eclipsed Sun or Moon is above the horizon.\n" + shadowNote;
+  return query.place.heading() + "\n" + table.text(query.boldHeadings) + "\n" +
+         words("Time: when most is seen from here; of what is not seen, when it is greatest on Earth.") +
+         "\n" + (eclipses.empty() ? "" : noteOnTimeToCome(eclipses.back().eclipse.maximum));
 }
 
 }  // namespace
 
-const Answer eclipsesAnswer{json, text};
+const Answer eclipsesAnswer{jsonLineOf<json>, text, csv};
 
 }  // namespace velmora::app

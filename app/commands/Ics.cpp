@@ -1,44 +1,51 @@
-#include <app/commands/Commands.h>
-
 #include <algorithm>
-#include <array>
 
 #include <app/answers/Days.h>
-#include <app/answers/Eclipses.h>
-#include <app/answers/PhaseYear.h>
-#include <app/text/Errors.h>
+#include <app/answers/Phases.h>
+#include <app/answers/SeenEclipses.h>
+#include <app/commands/Commands.h>
 #include <app/text/ICalendar.h>
 #include <app/text/PhaseText.h>
-#include <velmora/phases/Phase.h>
 #include <velmora/platform/time/Clock.h>
 
 namespace velmora::app {
 namespace {
 
-/// The codes of the principal phases by their numbers.
-constexpr std::array<const char*, 4> phaseCodes = {"FM", "FQ", "LQ", "NM"};
-
-CalendarEvent phaseEvent(const PhaseEvent& event) {
-  return {phaseCodes.at(static_cast<std::size_t>(event.phase)), event.instant, phaseName(event.phase),
-          std::nullopt};
+const char* codeOf(almanac::PrincipalPhase phase) {
+  switch (phase) {
+    case almanac::PrincipalPhase::newMoon:
+      return "NM";
+    case almanac::PrincipalPhase::firstQuarter:
+      return "FQ";
+    case almanac::PrincipalPhase::fullMoon:
+      return "FM";
+    case almanac::PrincipalPhase::lastQuarter:
+      return "LQ";
+  }
+  return "";
 }
 
-CalendarEvent eclipseEvent(const EclipseInfo& eclipse, const Place& place) {
-  return {eclipse.key, eclipse.datetime, eclipseTitle(eclipse),
-          place.location.name.value_or(place.location.locationText)};
+CalendarEvent phaseEvent(const almanac::PhaseEvent& event) {
+  return {.kind = codeOf(event.phase), .instant = event.at, .summary = phaseName(phaseNumber(event.phase))};
+}
+
+CalendarEvent eclipseEvent(const SeenEclipse& seen, const Query& query) {
+  const GeoLocationData& location = query.place.location;
+  return {.kind = eclipseKey(seen.eclipse),
+          .instant = bestMoment(seen),
+          .summary = eclipseTitle(seen.eclipse),
+          .location = location.name.value_or(location.locationText),
+          .description = describedInLines(seen, query)};
 }
 
 std::vector<CalendarEvent> eventsOf(const Query& query) {
-  if (!query.request.from && !query.request.to)
-    throw BadInput("from and to are missing: give both, as YYYY-MM-DD");
+  checkRangeIsGiven(query);
+  const almanac::Interval range = rangeOf(query);
   std::vector<CalendarEvent> events;
-  for (const PhaseEvent& event : phaseEventsOfRange(query)) {
-    if (event.phase != kUnknownPhase) events.push_back(phaseEvent(event));
-  }
-  for (const CivilDate day : daysOf(query)) {
-    if (const auto eclipse = visibleEclipse(day, query.place))
-      events.push_back(eclipseEvent(*eclipse, query.place));
-  }
+  for (const almanac::PhaseEvent& event : almanac::phases(range.start, range.end))
+    events.push_back(phaseEvent(event));
+  for (const SeenEclipse& seen : eclipsesSeenBetween(range.start, range.end, query.place))
+    events.push_back(eclipseEvent(seen, query));
   std::stable_sort(events.begin(), events.end(),
                    [](const CalendarEvent& a, const CalendarEvent& b) { return a.instant < b.instant; });
   return events;
@@ -50,6 +57,6 @@ Json json(const Query& query) { return {{"calendar", text(query)}}; }
 
 }  // namespace
 
-const Answer icsAnswer{json, text};
+const Answer icsAnswer{jsonLineOf<json>, text};
 
 }  // namespace velmora::app

@@ -1,31 +1,27 @@
-#include <app/commands/Commands.h>
-
 #include <cmath>
 
 #include <app/answers/Days.h>
-#include <app/answers/Illumination.h>
-#include <app/answers/PhaseListing.h>
+#include <app/answers/MonthGrid.h>
+#include <app/answers/PhaseYear.h>
+#include <app/answers/Phases.h>
+#include <app/commands/Commands.h>
 #include <app/text/EnglishDate.h>
 #include <app/text/PhaseText.h>
 #include <app/text/ValueTexts.h>
+#include <app/text/Words.h>
+#include <velmora/almanac/Positions.h>
+#include <velmora/foundation/DateHelper.h>
 
 namespace velmora::app {
 namespace {
 
-using std::chrono::hours;
 using std::chrono::year_month;
 
 /// A day of the month as the records have it.
-struct MonthDay {
+struct RecordedDay {
   CivilDate date;
   PhaseItem record;
   std::optional<std::int32_t> image;
-};
-
-struct Month {
-  year_month month;
-  std::vector<MonthDay> days;  ///< without those that the place's clocks skipped
-  PhaseEvents events;
 };
 
 year_month monthOf(const Query& query) {
@@ -34,21 +30,20 @@ year_month monthOf(const Query& query) {
   return {today.year(), today.month()};
 }
 
-Month answer(const Query& query) {
-  Month answer{monthOf(query), {}, {}};
-  const PhaseYear year(answer.month.year(), query.place);
-  const auto images = year.images(answer.month.month());
-  for (const auto& [number, item] : year.days(answer.month.month())) {
-    const CivilDate date = answer.month / std::chrono::day(static_cast<unsigned>(number));
-    if (!exists(date, query.place.zone)) continue;
+/// Without the days that the place's clocks skipped.
+std::vector<RecordedDay> recordedDays(const PhaseYear& year, year_month month, const TimeZone& zone) {
+  std::vector<RecordedDay> days;
+  const auto images = year.images(month.month());
+  for (const auto& [number, item] : year.days(month.month())) {
+    const CivilDate date = month / std::chrono::day(static_cast<unsigned>(number));
+    if (!exists(date, zone)) continue;
     const auto image = images.find(number);
-    answer.days.push_back({date, *item, image == images.end() ? std::nullopt : std::optional(image->second)});
+    days.push_back({date, *item, image == images.end() ? std::nullopt : std::optional(image->second)});
   }
-  answer.events = year.events(answer.month.month());
-  return answer;
+  return days;
 }
 
-Json dayJson(const MonthDay& day) {
+Json dayJson(const RecordedDay& day) {
   const PhaseItem& record = day.record;
   return {{"day", record.day},
           {"month", record.month},
@@ -61,48 +56,65 @@ Json dayJson(const MonthDay& day) {
           {"image", day.image ? Json(*day.image) : Json(nullptr)}};
 }
 
+Json phaseJson(const RecordedPhase& event, const Query& query) {
+  return {{"day", static_cast<unsigned>(event.date.day())},
+          {"phase", event.phase},
+          {"phaseName", phaseName(event.phase)},
+          {"time", DateHelper::GetTimeFormattedString(event.instant, query.use24HourClock).value_or("")},
+          {"localDate", instantText(event.instant)}};
+}
+
 Json json(const Query& query) {
-  const Month month = answer(query);
+  const year_month month = monthOf(query);
+  const PhaseYear year(month.year(), query.place);
   Json days = Json::array(), events = Json::array();
-  for (const MonthDay& day : month.days) days.push_back(dayJson(day));
-  for (const PhaseEvent& event : month.events) events.push_back(phaseEventJson(event, query));
-  return {{"year", static_cast<int>(month.month.year())},
-          {"month", static_cast<unsigned>(month.month.month())},
+  for (const RecordedDay& day : recordedDays(year, month, query.place.zone)) days.push_back(dayJson(day));
+  for (const RecordedPhase& event : year.events(month.month())) events.push_back(phaseJson(event, query));
+  return {{"year", static_cast<int>(month.year())},
+          {"month", static_cast<unsigned>(month.month())},
           {"days", days},
           {"events", events}};
 }
 
+std::vector<MoonDay> moonDaysOf(year_month month, const TimeZone& zone) {
+  std::vector<CivilDate> dates;
+  const auto last = static_cast<unsigned>((month / std::chrono::last).day());
+  for (unsigned day = 1; day <= last; ++day) {
+    const CivilDate date = month / std::chrono::day(day);
+    if (exists(date, zone)) dates.push_back(date);
+  }
+  return moonDays(dates, zone);
+}
+
 /// At the day's event, which a quarter's half belongs to, else at noon.
-Illumination illuminationOf(const MonthDay& day, const TimeZone& zone) {
-  return illuminationAt(day.record.localDate.value_or(instantOn(day.date, hours(12), zone)));
+std::string litText(const MoonDay& day, const Place& place) {
+  constexpr std::chrono::hours noon{12};
+  const Instant instant = day.event.value_or(instantOn(day.date, noon, place.zone));
+  const auto light = almanac::illumination(place.observer(), instant);
+  return light ? rightAligned(std::lround(100 * light->fraction), 3) + "%" : "";
 }
 
-std::string litText(const Illumination& illumination) {
-  return rightAligned(std::lround(100 * illumination.fraction), 3) + "%";
-}
-
-std::string clockOf(const MonthDay& day, const Query& query) {
-  if (!day.record.localDate) return "";
-  return phaseClock(*day.record.localDate, query);
+std::string listText(const std::vector<MoonDay>& days, const Query& query) {
+  TextTable table({"", words("Day"), " " + words("Lit"), words("Age"), words("Time"), words("Phase")});
+  const CivilDate today = dayOf(query);
+  for (const MoonDay& day : days) {
+    table.add({phaseGlyphAt(day.phase, query.place), dayOfMonthText(day.date), litText(day, query.place),
+               day.age ? rightAligned(*day.age, 3) : "", day.event ? clockAt(*day.event, query) : "",
+               phaseName(day.phase) + (day.date == today ? "  ← " + words("today") : "")});
+  }
+  return table.text(query.boldHeadings);
 }
 
 std::string text(const Query& query) {
-  TextTable table({"", "Day", " Lit", "Age", "Time", "Phase"});
-  const Month month = answer(query);
-  const CivilDate today = dayOf(query);
-  for (const MonthDay& day : month.days) {
-    const Illumination illumination = illuminationOf(day, query.place.zone);
-    const ShownPhase shown = shownPhase(day.record, illumination);
-    table.add({phaseGlyphAt(shown.phase, query.place), phaseDay(day.date), litText(illumination),
-               shown.age ? rightAligned(*shown.age, 3) : "", clockOf(day, query),
-               phaseName(shown.phase) + (day.date == today ? "  ← today" : "")});
-  }
-  return query.place.heading() + englishDate(month.days.front().date, "MMMM yyyy") + "\n\n" +
-         table.text(query.boldHeadings);
+  const year_month month = monthOf(query);
+  PhaseYear(month.year(), query.place).days(month.month());  // names a table that is damaged
+  const auto days = moonDaysOf(month, query.place.zone);
+  return query.place.heading() + englishDate(days.front().date, "MMMM yyyy") + "\n\n" +
+         (query.request.grid ? monthGrid(days, query) + "\n" : "") + listText(days, query);
 }
 
 }  // namespace
 
-const Answer monthAnswer{json, text};
+const Answer monthAnswer{jsonLineOf<json>, text};
 
 }  // namespace velmora::app

@@ -1,24 +1,26 @@
-#include <app/commands/Commands.h>
-
 #include <app/answers/Days.h>
 #include <app/answers/MoonGlance.h>
-#include <app/answers/Positions.h>
-#include <app/answers/RiseSetDay.h>
+#include <app/answers/PlaceJson.h>
+#include <app/answers/SkyDayJson.h>
+#include <app/answers/SkyPositions.h>
+#include <app/commands/Commands.h>
 #include <app/text/TextTable.h>
 #include <app/text/ValueTexts.h>
+#include <app/text/Words.h>
 #include <velmora/platform/time/DateFormatter.h>
 
 namespace velmora::app {
 namespace {
 
-const std::string none = "none";
+using almanac::Body;
+using almanac::EventKind;
 
-Json placeJson(const Place& place) {
-  const GeoLocationData& location = place.location;
-  return {{"name", location.name ? Json(*location.name) : Json(nullptr)},
-          {"latitude", location.latitude},
-          {"longitude", location.longitude},
-          {"timezone", place.zone.name()}};
+SkyDay skyOfDay(const Query& query) { return skyDaysOf(query, {}).at(0); }
+
+Json riseSetJson(const Query& query) {
+  JsonText json;
+  writeSkyDay(json, skyOfDay(query), query);
+  return Json::parse(json.text());
 }
 
 Json json(const Query& query) {
@@ -26,45 +28,56 @@ Json json(const Query& query) {
   const Place& place = query.place;
   const CivilDate day = dayOf(query);
   Json today{{"date", dateText(day)}, {"instant", instantText(present)}, {"place", placeJson(place)}};
-  today.update(moonGlanceJson(moonGlance(query)));
-  today.update({{"riseSet", riseSetJson(riseSetDay(day, place, query.request.twilight))},
-                {"sun", positionJson(positionAt(present, Body::sun, place))},
-                {"moon", positionJson(positionAt(present, Body::moon, place))}});
+  today.update(moonGlanceJson(moonGlance(query), place));
+  today.update({{"riseSet", riseSetJson(query)},
+                {"sun", positionJson(positionAt(present, Body::sun, place), place)},
+                {"moon", positionJson(positionAt(present, Body::moon, place), place)}});
   return today;
 }
 
-std::string eventText(const std::string& recordText, const Query& query) {
-  const auto event = dayEvent(recordText);
-  if (!event) return none;
-  return clockText(event->minutes, query.use24HourClock) + (event->isNextDay ? " next day" : "");
+TextTable::Row bodyRow(const SkyDay& day, Body body, Instant present, const Query& query) {
+  const std::string name = bodyTitle(body);
+  const std::string position = positionText(positionAt(present, body, query.place).position);
+  const almanac::AllDay allDay = body == Body::sun ? day.sky.sun : day.sky.moon;
+  if (allDay != almanac::AllDay::no) return {name, {allDayText(allDay), 2}, position};
+  return {name, eventTimesText(day, body, EventKind::rise, query),
+          eventTimesText(day, body, EventKind::set, query), position};
 }
 
-TextTable::Row bodyRow(const std::string& name, const std::string& rise, const std::string& set,
-                       std::optional<AllDay> allDay, const PositionData& position, const Query& query) {
-  if (allDay) return {name, {allDayText(*allDay), 2}, positionText(position)};
-  return {name, eventText(rise, query), eventText(set, query), positionText(position)};
-}
-
-std::string bodiesText(const RiseSetDay& day, Instant present, const Query& query) {
+std::string bodiesText(const SkyDay& day, Instant present, const Query& query) {
   const bool isNow = !query.request.date && !query.request.time;
-  const auto position = [&](Body body) { return positionAt(present, body, query.place).position; };
-  const RiseSetData& record = day.record;
-  TextTable table({"", "Rise", "Set", isNow ? "Now" : "Then"});
-  table.add(bodyRow("Sun", record.sunRiseText, record.sunSetText, day.sun, position(Body::sun), query));
-  table.add(bodyRow("Moon", record.moonRiseText, record.moonSetText, day.moon, position(Body::moon), query));
+  TextTable table({"", words("Rise"), words("Set"), isNow ? words("Now") : words("Then")});
+  table.add(bodyRow(day, Body::sun, present, query));
+  table.add(bodyRow(day, Body::moon, present, query));
   return table.text(query.boldHeadings);
 }
 
-std::string twilightText(const RiseSetDay& day, const Query& query) {
-  const std::string begin = eventText(day.record.twilightBeginText, query);
-  const std::string end = eventText(day.record.twilightEndText, query);
-  if (begin == none && end == none) return "neither begins nor ends";
-  if (end == none) return "from " + begin;
-  return (begin == none ? "until " : "from " + begin + " to ") + end;
+struct TwilightRow {
+  Twilight twilight;
+  const char* name;
+  EventKind dawn, dusk;
+};
+
+constexpr TwilightRow twilightRows[] = {
+    {Twilight::civil, "Twilight (civil)", EventKind::civilDawn, EventKind::civilDusk},
+    {Twilight::nautical, "Twilight (nautical)", EventKind::nauticalDawn, EventKind::nauticalDusk},
+    {Twilight::astronomical, "Twilight (astronomical)", EventKind::astronomicalDawn,
+     EventKind::astronomicalDusk}};
+
+std::string factsText(const SkyDay& day, const Query& query) {
+  TextTable facts({words("Daylight"), daylightText(day)});
+  const Twilight wanted = query.request.twilight;
+  for (const TwilightRow& row : twilightRows) {
+    if (wanted != row.twilight && wanted != Twilight::all) continue;
+    facts.add(
+        {words(row.name), words("dawn %1, dusk %2", {eventTimesText(day, Body::sun, row.dawn, query),
+                                                     eventTimesText(day, Body::sun, row.dusk, query)})});
+  }
+  return facts.text(false);
 }
 
 /// "Thursday 20 June 2024, 14:05 (GMT-07:00)".
-std::string momentText(Instant present, const Query& query) {
+std::string presentText(Instant present, const Query& query) {
   DateFormatter formatter;
   formatter.setLocale(Locale("en_US"));
   formatter.setDateFormat(query.use24HourClock ? "EEEE d MMMM yyyy, HH:mm" : "EEEE d MMMM yyyy, hh:mm a");
@@ -74,16 +87,14 @@ std::string momentText(Instant present, const Query& query) {
 
 std::string text(const Query& query) {
   const Instant present = presentOf(query);
-  const RiseSetDay day = riseSetDayIn24Hours(dayOf(query), query.place, query.request.twilight);
-  TextTable facts({"Daylight", lengthText(daylightMinutes(day))});
-  facts.add({"Twilight (" + twilightName(query.request.twilight) + ")", twilightText(day, query)});
-  return query.place.heading() + momentText(present, query) + "\n" +
+  const SkyDay day = skyOfDay(query);
+  return query.place.heading() + presentText(present, query) + "\n" +
          moonGlanceText(moonGlance(query), query) + "\n" + bodiesText(day, present, query) + "\n" +
-         facts.text(false);
+         factsText(day, query);
 }
 
 }  // namespace
 
-const Answer todayAnswer{json, text};
+const Answer todayAnswer{jsonLineOf<json>, text};
 
 }  // namespace velmora::app

@@ -1,61 +1,50 @@
-#include <app/commands/Commands.h>
-
 #include <app/answers/Days.h>
-#include <app/answers/Positions.h>
-#include <velmora/astronomy/RiseAndSetCalc.h>
+#include <app/answers/SkyPositions.h>
+#include <app/commands/Commands.h>
+#include <app/text/ClockText.h>
+#include <app/text/Csv.h>
+#include <app/text/TextTable.h>
+#include <app/text/Words.h>
 
 namespace velmora::app {
 namespace {
 
-using std::chrono::hours;
-using std::chrono::sys_days;
-
-std::vector<TimedPosition> hourly(Instant first, const std::vector<PositionData>& positions) {
-  std::vector<TimedPosition> samples;
-  for (const PositionData& position : positions) {
-    samples.push_back({first + hours(static_cast<int>(samples.size())), position});
-  }
-  return samples;
-}
-
-/// 24 samples from the whole universal hour of the instant on.
-std::vector<TimedPosition> sunTrack(const Query& query) {
-  const Instant start = instantOf(query, hours(0));
-  const std::int64_t offset = query.place.zone.secondsFromGMT(start);
-  const Instant first = std::chrono::floor<hours>(universalReading(start, offset, query.place));
-  return hourly(first, RiseAndSetCalc::Get24HourSunPositionsForDate(start, query.place.location, offset));
-}
-
-/// 25 samples from 00:00 to 24:00 of the day, by the offset at 09:00.
-std::vector<TimedPosition> moonTrack(const Query& query) {
-  const CivilDate day = dayOf(query);
-  const Instant morning = instantOn(day, hours(9), query.place.zone);
-  const std::int64_t offset = query.place.zone.secondsFromGMT(morning);
-  const Instant first = Instant(sys_days(day)) - Seconds(static_cast<double>(offset));
-  return hourly(first, RiseAndSetCalc::Get24HourMoonPositionsForDate(morning, query.place.location, offset));
-}
-
-std::vector<TimedPosition> answer(const Query& query) {
-  return query.request.body == Body::sun ? sunTrack(query) : moonTrack(query);
+/// From midnight by the step, and the midnight that ends the day.
+std::vector<SkyPosition> answer(const Query& query) {
+  const almanac::Interval day = intervalOf({dayOf(query)}, query);
+  std::vector<Instant> instants;
+  for (Instant instant = day.start; instant < day.end; instant += query.request.step)
+    instants.push_back(instant);
+  if (day.end < ephemeris::endInstant()) instants.push_back(day.end);
+  return positionsAt(instants, query.request.body, query.place);
 }
 
 Json json(const Query& query) {
   Json samples = Json::array();
-  for (const TimedPosition& sample : answer(query)) {
-    samples.push_back(positionJson(sample));
-    // The hour that the Sun's series carries is no clock time, only the instant is.
-    if (query.request.body == Body::sun) samples.back().erase("hour");
-  }
+  for (const SkyPosition& sample : answer(query)) samples.push_back(positionJson(sample, query.place));
   return samples;
 }
 
+std::string csv(const Query& query) {
+  std::vector<std::string> columns = {"instant"};
+  columns.insert(columns.end(), positionColumns().begin(), positionColumns().end());
+  return csvTable(columns, json(query));
+}
+
 std::string text(const Query& query) {
-  return query.place.heading() + "Path of the " + bodyTitle(query.request.body) + "\n\n" +
-         positionTable(answer(query), query);
+  TextTable table({words("Time"), words("Elevation"), words("Azimuth"), words("Direction")});
+  for (const SkyPosition& sample : answer(query)) {
+    table.add({localText(sample.instant, query.place.zone, query.use24HourClock),
+               degreesText(sample.position.apparentAltitude), degreesText(sample.position.azimuth),
+               compassPoint(sample.position.azimuth)});
+  }
+  const bool isSun = query.request.body == almanac::Body::sun;
+  return query.place.heading() + (isSun ? words("Path of the Sun") : words("Path of the Moon")) + "\n\n" +
+         table.text(query.boldHeadings);
 }
 
 }  // namespace
 
-const Answer trackAnswer{json, text};
+const Answer trackAnswer{jsonLineOf<json>, text, csv};
 
 }  // namespace velmora::app

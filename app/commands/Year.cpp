@@ -1,9 +1,14 @@
 #include <app/commands/Commands.h>
 
-#include <app/answers/PhaseListing.h>
+#include <app/answers/Days.h>
+#include <app/answers/PhaseYear.h>
+#include <app/answers/Phases.h>
+#include <app/commands/Commands.h>
+#include <app/text/ClockText.h>
 #include <app/text/EnglishDate.h>
 #include <app/text/PhaseText.h>
 #include <app/text/ValueTexts.h>
+#include <app/text/Words.h>
 #include <velmora/foundation/VelmoraCalendar.h>
 
 namespace velmora::app {
@@ -23,7 +28,7 @@ unsigned weekDay(CivilDate date) {
   return std::chrono::weekday(std::chrono::local_days(date)).c_encoding() + 1;
 }
 
-Json eventJson(const PhaseEvent& event) {
+Json eventJson(const RecordedPhase& event) {
   return {{"day", static_cast<unsigned>(event.date.day())},
           {"month", static_cast<unsigned>(event.date.month())},
           {"year", static_cast<int>(event.date.year())},
@@ -40,30 +45,36 @@ Json json(const Query& query) {
   Json months;
   for (unsigned month = 1; month <= monthsPerYear; ++month) {
     Json& list = months[std::to_string(month)] = Json::array();
-    for (const PhaseEvent& event : year.events(std::chrono::month(month))) list.push_back(eventJson(event));
+    for (const RecordedPhase& event : year.events(std::chrono::month(month)))
+      list.push_back(eventJson(event));
   }
   return months;
 }
 
-void addMonth(TextTable& table, const PhaseEvents& events, const Query& query) {
-  for (const PhaseEvent& event : events) {
-    const bool isFirst = &event == &events.front();
-    table.add({isFirst ? englishDate(event.date, "MMMM") : "", phaseGlyphAt(event.phase, query.place),
-               phaseDay(event.date), phaseClock(event.instant, query), phaseName(event.phase)});
-  }
+/// The almanac's phases whose day at the place lies in the year.
+std::vector<almanac::PhaseEvent> phasesOf(std::chrono::year year, const Query& query) {
+  const almanac::Interval days =
+      intervalOf({year / std::chrono::January / 1, year / std::chrono::December / 31}, query);
+  return almanac::phases(days.start, days.end);
 }
 
 std::string text(const Query& query) {
-  const std::chrono::year number = coveredYear(query);
-  const PhaseYear year(number, query.place);
-  TextTable table({std::to_string(static_cast<int>(number)), "", "Day", "Time", "Phase"});
-  for (unsigned month = 1; month <= monthsPerYear; ++month)
-    addMonth(table, year.events(std::chrono::month(month)), query);
+  const std::chrono::year year = coveredYear(query);
+  PhaseYear(year, query.place);  // names a table that is damaged
+  TextTable table({std::to_string(static_cast<int>(year)), "", words("Day"), words("Time"), words("Phase")});
+  std::optional<std::chrono::month> shown;
+  for (const almanac::PhaseEvent& event : phasesOf(year, query)) {
+    const CivilDate date = readingAt(event.at, query.place.zone).date;
+    const std::int64_t phase = phaseNumber(event.phase);
+    table.add({shown == date.month() ? "" : englishDate(date, "MMMM"), phaseGlyphAt(phase, query.place),
+               dayOfMonthText(date), clockAt(event.at, query), phaseName(phase)});
+    shown = date.month();
+  }
   return query.place.heading() + "\n" + table.text(query.boldHeadings);
 }
 
 }  // namespace
 
-const Answer yearAnswer{json, text};
+const Answer yearAnswer{jsonLineOf<json>, text};
 
 }  // namespace velmora::app

@@ -58,13 +58,6 @@ Size monthSize(const Query& query) {
   return isWide ? tabletMonth : phoneMonth;
 }
 
-void checkEclipses(const Query& query) {
-  if (query.request.drawing.hidesEclipses) return;
-  MoonPhaseData& service = MoonPhaseData::sharedInstance();
-  if (!service.eventsData()) service.loadEventsFromFile();
-  checkCatalogue(service.eventsData().get());
-}
-
 std::shared_ptr<View> makeMonth(const Query& query, Size size) {
   const DrawingRequest& drawing = query.request.drawing;
   auto month = std::make_shared<iPhoneCalendarView>();

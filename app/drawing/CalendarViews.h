@@ -12,8 +12,6 @@ std::shared_ptr<View> makeDisc(const Query& query, Size size);
 
 /// A phone's width, or where two calendars' numbers stand side by side a tablet's: they would be cut.
 Size monthSize(const Query& query);
-/// Throws a Failure where eclipses are to be shown and cannot be read.
-void checkEclipses(const Query& query);
 std::shared_ptr<View> makeMonth(const Query& query, Size size);
 
 Size yearSize(const Query& query);

@@ -27,6 +27,6 @@ std::string text(const Query& query) {
 
 }  // namespace
 
-const Answer drawAnswer{json, text};
+const Answer drawAnswer{jsonLineOf<json>, text};
 
 }  // namespace velmora::app

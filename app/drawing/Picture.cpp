@@ -16,6 +16,7 @@
 #include <velmora/platform/graphics/cairo/CairoCanvas.h>
 #include <velmora/platform/system/Log.h>
 #include <velmora/platform/ui/Device.h>
+#include <velmora/service/AlmanacRecords.h>
 #include <velmora/service/MoonPhaseData.h>
 #include <velmora/views/OncePerProcess.h>
 
@@ -97,6 +98,8 @@ void checkTables(std::chrono::year year) {
 void select(const Query& query, const DrawableView& view) {
   if (view.needsTables) checkCovered("date", dayOf(query));
   MoonPhaseData& service = MoonPhaseData::sharedInstance();
+  service.setRiseSetSource(AlmanacRecords::riseSetSource(query.place.height));
+  service.setEclipseSource(AlmanacRecords::eclipseSource(query.place.height));
   service.SetSelectedLocation(std::make_shared<GeoLocationData>(query.place.location), presentOf(query));
   if (view.needsTables) checkTables(dayOf(query).year());
   if (const auto check = makingOf(view).checkResources) check(query);

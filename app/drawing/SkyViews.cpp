@@ -5,8 +5,10 @@
 #include <numbers>
 #include <optional>
 
+#include <app/answers/Days.h>
+#include <app/answers/SkyPositions.h>
 #include <app/drawing/Hosting.h>
-#include <velmora/service/MoonPhaseData.h>
+#include <velmora/almanac/Events.h>
 #include <velmora/views/CompassView.h>
 #include <velmora/views/MoonAzimuthElevationView.h>
 
@@ -20,32 +22,33 @@ constexpr double reachOfMoon = 10;     // of its disc from its place, in points
 constexpr double reachOfLetters = 32;  // of the compass's letters outwards from its ring
 constexpr double reachOfTicks = 20;    // inwards
 
-MoonPhaseData& service() { return MoonPhaseData::sharedInstance(); }
-
-Instant present() { return service().currentDate().value(); }
-
-/// Where the Moon stands when it rises or sets, whichever field it is, on the day; if it does not, on the
-/// next or the former day; none where it does on none of them.
-std::optional<double> azimuthAt(std::int64_t RiseSetData::*minutesFromMidnight) {
+/// Where the Moon rises or sets on the day; if it does not, on the next or the former day; none where it does
+/// on none of them.
+std::optional<double> azimuthOf(almanac::EventKind kind, const Query& query) {
+  const CivilDate today = dateAt(presentOf(query), query.place.zone);
   for (const int days : {0, 1, -1}) {
-    const Instant day = service().calendar().dateByAddingDays(days, present());
-    const std::int64_t minutes = service().GetRiseSetDataForDate(day).*minutesFromMidnight;
-    if (minutes < 0) continue;
-    return service().GetMoonPositionDataForDate(day, static_cast<double>(minutes)).value().azimuth;
+    const CivilDate date(std::chrono::local_days(today) + std::chrono::days(days));
+    const auto day = almanac::day(query.place.observer(), query.place.zone, date, {.twilight = false});
+    if (!day) continue;
+    for (const almanac::Event& event : day->events)
+      if (event.body == almanac::Body::moon && event.kind == kind) return event.azimuth;
   }
   return std::nullopt;
 }
 
-bool isHighestInTheNorth() {
-  const auto hours = service().Get24HourMoonPositionsForDate(present()).value();
-  const auto highest = std::max_element(hours.begin(), hours.end(), [](const auto& one, const auto& other) {
-    return one.altitude < other.altitude;
-  });
-  return highest->azimuth < dueEast || highest->azimuth > dueWest;
+/// At its transit of the day, if it has one; else by the hemisphere.
+bool isHighestInTheNorth(const Query& query) {
+  const Instant now = presentOf(query);
+  const auto transit =
+      almanac::next(query.place.observer(), almanac::Body::moon, almanac::EventKind::transit, now);
+  if (!transit) return query.place.location.latitude < 0;
+  return transit->azimuth < dueEast || transit->azimuth > dueWest;
 }
 
 /// Changes right and left where the Moon is highest in the north; the views take it to be in the south.
-AffineTransform mirror() { return AffineTransform::scaling(isHighestInTheNorth() ? -1 : 1, 1); }
+AffineTransform mirror(const Query& query) {
+  return AffineTransform::scaling(isHighestInTheNorth(query) ? -1 : 1, 1);
+}
 
 /// The turn of the half circle, which ends below and above its middle, that brings its lower end to the
 /// compass's point at the start angle.
@@ -67,8 +70,8 @@ std::shared_ptr<MoonAzimuthElevationView> makeWay(const Query& query, double sid
   way->setRadius(static_cast<float>(std::max(radius, 0.0)), static_cast<float>(hasEnds ? *rise : dueEast),
                  static_cast<float>(hasEnds ? *set : dueWest));
   way->updateLayer();
-  const PositionData moon = service().GetMoonPositionDataForDate(present()).value();
-  way->setObjectAzimuth(static_cast<float>(moon.azimuth), static_cast<float>(moon.altitude));
+  const almanac::Position moon = positionAt(presentOf(query), almanac::Body::moon, query.place).position;
+  way->setObjectAzimuth(static_cast<float>(moon.azimuth), static_cast<float>(moon.apparentAltitude));
   return way;
 }
 
@@ -90,10 +93,10 @@ std::shared_ptr<View> makeCompass(const Query& query, Size size) {
   const Rect square = squareIn(size);
   const double ring = square.width * 0.5 - reachOfLetters;
   const double horizon = (ring - reachOfTicks - reachOfMoon) / std::numbers::sqrt2;
-  const auto way = makeWay(query, square.width, horizon, azimuthAt(&RiseSetData::moonRiseMinutesFromMidnight),
-                           azimuthAt(&RiseSetData::moonSetMinutesFromMidnight));
+  const auto way = makeWay(query, square.width, horizon, azimuthOf(almanac::EventKind::rise, query),
+                           azimuthOf(almanac::EventKind::set, query));
   way->setAnchorPoint(way->rotationPoint());
-  way->setTransform(mirror().concat(AffineTransform::rotation(turnToStart(*way))));
+  way->setTransform(mirror(query).concat(AffineTransform::rotation(turnToStart(*way))));
 
   auto sky = makeHost({square.width, square.height});
   sky->addSubview(makeRing(query, square.width, ring));
@@ -110,7 +113,7 @@ std::shared_ptr<View> makeElevationArc(const Query& query, Size size) {
   const Rect square = squareIn(size);
   const auto way = makeWay(query, square.width, square.width * 0.5 - reachOfMoon, dueEast, dueWest);
   way->setFrame(square);
-  way->setTransform(AffineTransform::rotation(quarterTurn).concat(mirror()));
+  way->setTransform(AffineTransform::rotation(quarterTurn).concat(mirror(query)));
   return way;
 }
 

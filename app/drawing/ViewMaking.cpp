@@ -47,7 +47,7 @@ std::shared_ptr<View> makeTimeline(const Query&, Size size) {
 const ViewMaking& makingOf(const DrawableView& view) {
   static const std::map<std::string_view, ViewMaking> makings = {
       {"disc", {fixedSize<240, 240>, makeDisc}},
-      {"month", {monthSize, makeMonth, checkEclipses}},
+      {"month", {monthSize, makeMonth}},
       {"year", {yearSize, makeYear}},
       {"riseset", {riseSetSize, makeRiseSet, checkIcons}},
       {"images", {fixedSize<390, 560>, makeView<MoonCalendarView>, checkMoonPictures}},

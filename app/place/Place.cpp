@@ -2,6 +2,7 @@
 
 #include <app/place/Cities.h>
 #include <app/text/Errors.h>
+#include <app/text/Words.h>
 
 namespace velmora::app {
 namespace {
@@ -39,20 +40,50 @@ void checkTogether(const PlaceChoice& choice) {
     throw BadInput("tz and gmt-offset exclude each other: give one of the two");
 }
 
+/// How the place can be changed, where it was not asked for.
+std::string originLine(PlaceOrigin origin) {
+  switch (origin) {
+    case PlaceOrigin::own:
+      return words("Your own place; change it with velmora place.") + "\n";
+    case PlaceOrigin::zone:
+      return words("The city of the system's time zone; keep another with velmora place.") + "\n";
+    case PlaceOrigin::usual:
+      return words("The default place; keep another with velmora place.") + "\n";
+    case PlaceOrigin::asked:
+      break;
+  }
+  return "";
+}
+
+/// What is chosen, upon the usual place where it does not say where.
+PlaceChoice upon(const PlaceChoice& usual, PlaceChoice choice) {
+  if (choice.isSomewhere()) return choice;
+  choice.latitude = usual.latitude;
+  choice.longitude = usual.longitude;
+  choice.city = usual.city;
+  if (!choice.name) choice.name = usual.name;
+  if (!choice.height) choice.height = usual.height;
+  if (!choice.zone && !choice.gmtOffset) choice.zone = usual.zone;
+  return choice;
+}
+
 }  // namespace
 
 std::string Place::heading() const {
-  return (location.name ? *location.name + "\n" : "") + location.locationText + ", " + zone.name() + "\n";
+  return (location.name ? *location.name + "\n" : "") + location.locationText + ", " + zone.name() + "\n" +
+         originLine(origin);
 }
 
-Place placeOf(const PlaceChoice& choice) {
-  checkTogether(choice);
+Place placeOf(const PlaceChoice& asked, const UsualPlace& usual) {
+  checkTogether(asked);
+  const PlaceChoice choice = upon(usual.choice, asked);
   Spot spot = spotOf(choice);
   if (choice.name) spot.name = choice.name;
   if (choice.zone) spot.zone = *choice.zone;
   if (choice.gmtOffset) spot.zone = TimeZone::fixed(*choice.gmtOffset);
 
-  Place place{GeoLocationData(), spot.zone};
+  Place place{GeoLocationData(), spot.zone, choice.height.value_or(0),
+              asked.isSomewhere() ? PlaceOrigin::asked : usual.origin};
   place.location.SetLocation(spot.latitude, spot.longitude, spot.name, spot.zone.name(),
                              choice.gmtOffset.value_or(0), false);
   return place;

@@ -68,10 +68,7 @@ std::string batchAnswer(std::string_view line) {
     const Json object = jsonFromLine(line);
     if (!object.is_object()) throw BadInput("the line is no JSON object; accepted: {\"op\": …, …}");
     if (const auto given = object.find("id"); given != object.end()) id = *given;
-    Json answer;
-    answer["id"] = id;
-    answer["result"] = jsonAnswer(requestFromJson(object));
-    return jsonLine(answer);
+    return "{\"id\":" + jsonLine(id) + ",\"result\":" + jsonAnswer(requestFromJson(object)) + "}";
   } catch (const std::exception& error) {
     return errorLine(id, messageOf(error));
   }

@@ -41,7 +41,7 @@ void answer(const Request& request, std::istream& in, std::ostream& out) {
     out << helpText(*request.command);
   } else if (request.version) {
     out << "velmora " << VelmoraVersionString << '\n';
-  } else if (!request.command->isForBatch) {
+  } else if (request.command->name == "batch") {
     serveBatch(request, in, out);
   } else {
     out << printedAnswer(request, wantsBold(request.color, out));

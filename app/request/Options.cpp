@@ -31,20 +31,28 @@ CivilDate date(const std::string& text) {
   return *date;
 }
 
-void checkTableYear(std::chrono::year year) {
-  if (year < firstTableYear || year > lastTableYear) throw BadInput("is out of range");
+double height(double number) {
+  if (!(number >= 0 && number <= greatestHeight)) throw BadInput("is out of range");
+  return number;
+}
+
+std::chrono::minutes step(double number) {
+  constexpr std::int64_t longest = 1440;
+  const std::int64_t minutes = wholeNumber(within(number, longest));
+  if (minutes < 1) throw BadInput("is out of range");
+  return std::chrono::minutes(minutes);
 }
 
 std::chrono::year_month month(const std::string& text) {
   const auto month = monthFromText(text);
   if (!month) throw BadInput("is not a month");
-  checkTableYear(month->year());
+  if (month->year() < firstTableYear || month->year() > lastTableYear) throw BadInput("is out of range");
   return *month;
 }
 
 std::chrono::year year(double number) {
   const std::chrono::year year(static_cast<int>(wholeNumber(within(number, 9999))));
-  checkTableYear(year);
+  if (year < firstYear || year > lastYear) throw BadInput("is out of range");
   return year;
 }
 
@@ -94,7 +102,8 @@ constexpr std::string_view dateForm = "YYYY-MM-DD from 1900-01-01 to 2100-12-31"
 void readTwilight(Request& request, const std::string& text) {
   request.twilight = oneOf<Twilight>(text, {{"civil", Twilight::civil},
                                             {"nautical", Twilight::nautical},
-                                            {"astronomical", Twilight::astronomical}});
+                                            {"astronomical", Twilight::astronomical},
+                                            {"all", Twilight::all}});
 }
 
 void readPhase(Request& request, const std::string& text) {
@@ -138,6 +147,8 @@ std::vector<Option> makeOptions() {
        Number([](R& r, double v) { r.place.gmtOffset = wholeNumber(within(v, farthestGmtOffset)); })},
       {"name", "TEXT", "what to call the place", "one line of text in UTF-8",
        Text([](R& r, S& v) { r.place.name = nameText(v); })},
+      {"height", "METRES", "of the eye above the horizon around it (default: 0)", "0 to 10000 metres",
+       Number([](R& r, double v) { r.place.height = height(v); })},
       {"date", "YYYY-MM-DD", "the day (default: today)", dateForm,
        Text([](R& r, S& v) { r.date = date(v); })},
       {"time", "HH:MM", "the time of day at the place", "HH:MM from 00:00 to 23:59",
@@ -147,17 +158,21 @@ std::vector<Option> makeOptions() {
        Text([](R& r, S& v) { r.to = date(v); })},
       {"month", "[YYYY-MM]", "the month (default: the present one)", "YYYY-MM from 2000-01 to 2040-12",
        Text([](R& r, S& v) { r.month = month(v); })},
-      {"year", "[YYYY]", "the year (default: the present one)", "2000 to 2040",
+      {"year", "[YYYY]", "the year (default: the present one)", "1900 to 2100",
        Number([](R& r, double v) { r.year = year(v); })},
       {"phase", "PHASE", "only new, first (quarter), full or last (quarter)", "new, first, full or last",
        Text(readPhase)},
-      {"twilight", "KIND", "civil (default), nautical or astronomical", "civil, nautical or astronomical",
-       Text(readTwilight)},
+      {"twilight", "KIND", "civil (default), nautical, astronomical or all three",
+       "civil, nautical, astronomical or all", Text(readTwilight)},
+      {"transit", "", "also when Sun and Moon stand highest, in the meridian", "",
+       Switch([](R& r) { r.transits = true; })},
       {"body", "BODY", "moon (default) or sun", "moon or sun", Text(readBody)},
       {"degrees", "DEGREES", "elevation above the horizon", "-90 to 90 degrees",
        Number([](R& r, double v) { r.degrees = within(v, 90); })},
-      {"intermediate", "", "also list the hourly positions after the first event", "",
-       Switch([](R& r) { r.intermediate = true; })},
+      {"step", "MINUTES", "from one place of the path to the next (default: 60)",
+       "whole minutes from 1 to 1440", Number([](R& r, double v) { r.step = step(v); })},
+      {"grid", "", "also as a calendar of weeks", "", Switch([](R& r) { r.grid = true; })},
+      {"forget", "", "drop your own place", "", Switch([](R& r) { r.forgets = true; })},
       {"now", "INSTANT", "the present, in place of the clock",
        "an ISO 8601 instant such as 2024-06-20T12:00:00Z, from 1900 to 2100",
        Text([](R& r, S& v) { r.now = instant(v); })},
@@ -166,6 +181,8 @@ std::vector<Option> makeOptions() {
       {"12h", "", "the same as --clock 12h", "", Switch([](R& r) { setClock(r, Locale::HourCycle::h12); })},
       {"locale", "ID", "language and region, such as en_US", "letters, digits and _ - @ = . (at most 64)",
        Text([](R& r, S& v) { r.locale = locale(v); })},
+      {"csv", "", "answer as comma-separated values", "", Switch([](R& r) { r.csv = true; }),
+       onlyOnCommandLine},
       {"json", "", "answer in JSON", "", Switch([](R& r) { r.json = true; }), onlyOnCommandLine},
       {"color", "WHEN", "bold headings and color: auto (default), always or never", "auto, always or never",
        Text(readColor), onlyOnCommandLine},

@@ -10,6 +10,7 @@
 #include <app/place/Place.h>
 #include <app/request/DrawingRequest.h>
 #include <app/text/CivilTime.h>
+#include <velmora/ephemeris/Ephemeris.h>
 #include <velmora/platform/time/Instant.h>
 #include <velmora/platform/time/Locale.h>
 
@@ -17,9 +18,9 @@ namespace velmora::app {
 
 struct Command;
 
-enum class Body { moon, sun };
-/// In the order of the rise/set search's twilight index.
-enum class Twilight { civil, nautical, astronomical };
+using ephemeris::Body;
+/// In the order of the rise/set search's twilight index, then all three.
+enum class Twilight { civil, nautical, astronomical, all };
 enum class ColorChoice { automatic, always, never };
 
 /// One question to the program, read from the command line or from a line of a batch. What was not given is
@@ -42,14 +43,18 @@ struct Request {
 
   Twilight twilight = Twilight::civil;
   Body body = Body::moon;
+  bool transits = false;
   std::optional<double> degrees;  ///< an elevation above the horizon
-  bool intermediate = false;
+  std::chrono::minutes step{60};  ///< between two places of a path
+  bool grid = false;              ///< a month also as a calendar of weeks
+  bool forgets = false;           ///< drops the user's own place
 
   DrawingRequest drawing;
 
   std::optional<Locale::HourCycle> clock;
   std::optional<Locale> locale;
   bool json = false;
+  bool csv = false;
   ColorChoice color = ColorChoice::automatic;
   bool help = false;
   bool version = false;

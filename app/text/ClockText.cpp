@@ -1,44 +1,60 @@
 #include <app/text/ClockText.h>
 
-#include <charconv>
-
 #include <app/text/ValueTexts.h>
 #include <velmora/platform/time/NumberText.h>
 
 namespace velmora::app {
 namespace {
 
-constexpr int minutesPerHour = 60;
-constexpr int minutesPerDay = 24 * minutesPerHour;
+using std::chrono::days;
 
-int number(std::string_view digits) {
-  int value = 0;
-  std::from_chars(digits.data(), digits.data() + digits.size(), value);
-  return value;
+constexpr int minutesPerHour = 60;
+constexpr int hoursPerHalf = 12;
+
+std::string twoDigits(std::int64_t value) { return integerText(value, 2); }
+
+std::string clock(int hour, const std::string& behind, bool use24HourClock) {
+  if (use24HourClock) return twoDigits(hour) + behind;
+  const int ofHalf = hour % hoursPerHalf == 0 ? hoursPerHalf : hour % hoursPerHalf;
+  return twoDigits(ofHalf) + behind + (hour < hoursPerHalf ? " AM" : " PM");
 }
 
-std::string twoDigits(int value) { return integerText(value, 2); }
+using LocalMinute = std::chrono::local_time<std::chrono::minutes>;
+
+LocalMinute minuteOf(LocalTime local) {
+  const auto nearest = std::chrono::round<std::chrono::minutes>(local);
+  const bool isNextDay = std::chrono::floor<days>(nearest) != std::chrono::floor<days>(local);
+  return isNextDay ? std::chrono::floor<std::chrono::minutes>(local) : nearest;
+}
 
 }  // namespace
 
-std::optional<DayEvent> dayEvent(std::string_view recordText) {
-  if (recordText.starts_with("--") || recordText.size() < 5) return std::nullopt;
-  const int minutes = number(recordText.substr(0, 2)) * minutesPerHour + number(recordText.substr(3, 2));
-  return DayEvent{minutes % minutesPerDay, recordText.ends_with("**") || minutes == minutesPerDay};
+Instant nearestMinute(Instant instant, const TimeZone& zone) {
+  const LocalTime local = zone.localTime(instant);
+  return instant + (minuteOf(local) - local);
+}
+
+Reading readingAt(Instant instant, const TimeZone& zone) {
+  const LocalMinute minute = minuteOf(zone.localTime(instant));
+  const auto day = std::chrono::floor<days>(minute);
+  return {CivilDate(day), static_cast<int>((minute - day).count())};
 }
 
 std::string clockText(int minutes, bool use24HourClock) {
-  const int hour = minutes / minutesPerHour;
-  const std::string minute = ":" + twoDigits(minutes % minutesPerHour);
-  if (use24HourClock) return twoDigits(hour) + minute;
-  const int hourOfHalf = hour % 12 == 0 ? 12 : hour % 12;
-  return twoDigits(hourOfHalf) + minute + (hour < 12 ? " AM" : " PM");
+  return clock(minutes / minutesPerHour, ":" + twoDigits(minutes % minutesPerHour), use24HourClock);
+}
+
+std::string clockTextToTheSecond(Instant instant, const TimeZone& zone, bool use24HourClock) {
+  const auto second = std::chrono::round<std::chrono::seconds>(zone.localTime(instant));
+  const std::chrono::hh_mm_ss time(second - std::chrono::floor<days>(second));
+  return clock(static_cast<int>(time.hours().count()),
+               ":" + twoDigits(time.minutes().count()) + ":" + twoDigits(time.seconds().count()),
+               use24HourClock);
 }
 
 std::string localText(Instant instant, const TimeZone& zone, bool use24HourClock) {
-  const auto minute = std::chrono::round<std::chrono::minutes>(zone.localTime(instant));
-  const auto day = std::chrono::floor<std::chrono::days>(minute);
-  return dateText(CivilDate(day)) + " " + clockText(static_cast<int>((minute - day).count()), use24HourClock);
+  const Reading reading = readingAt(instant, zone);
+  return dateText(reading.date) + " " + clockText(reading.minutes, use24HourClock);
 }
 
 std::string lengthText(int minutes) {

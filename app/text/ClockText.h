@@ -1,29 +1,33 @@
 #pragma once
 
-#include <optional>
 #include <string>
-#include <string_view>
 
+#include <app/text/CivilTime.h>
 #include <velmora/platform/time/Instant.h>
 #include <velmora/platform/time/TimeZone.h>
 
 namespace velmora::app {
 
-/// A rise, a set or the like on the local day that it is listed under, or on the next.
-struct DayEvent {
-  int minutes = 0;  ///< after 00:00 of its own day, 0..1439
-  bool isNextDay = false;
+/// What a calendar and a clock show.
+struct Reading {
+  CivilDate date;
+  int minutes = 0;  ///< after 00:00, 0..1439
 
-  friend bool operator==(const DayEvent&, const DayEvent&) = default;
+  friend bool operator==(const Reading&, const Reading&) = default;
 };
 
-/// The event that a rise/set record's text in the 24-hour form names; none for "--" and "--:--". Only that
-/// form tells midnight from noon: a time rounded up to the day's end is "24:00" there and "12:00 PM" in the
-/// other.
-std::optional<DayEvent> dayEvent(std::string_view recordText);
+/// The instant to the nearest minute of the zone's clocks; in a day's last half minute the minute that has
+/// begun, so that what happens on a day is not written under the next.
+Instant nearestMinute(Instant instant, const TimeZone& zone);
+
+/// What calendar and clock show at that minute.
+Reading readingAt(Instant instant, const TimeZone& zone);
 
 /// A time of day as people write it: "00:15" or "12:15 AM".
 std::string clockText(int minutes, bool use24HourClock);
+
+/// The time of day, to the second, that the zone's clocks show: "00:15:09" or "12:15:09 AM".
+std::string clockTextToTheSecond(Instant instant, const TimeZone& zone, bool use24HourClock);
 
 /// The day and the time, to the minute, that the zone's clocks show: "2024-06-20 00:15".
 std::string localText(Instant instant, const TimeZone& zone, bool use24HourClock);

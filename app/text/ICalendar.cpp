@@ -59,6 +59,7 @@ std::string eventText(const CalendarEvent& event, const std::string& stamp) {
          contentLine("DTSTAMP:" + stamp) + contentLine("DTSTART:" + start) +
          contentLine("SUMMARY:" + escaped(event.summary)) +
          (event.location ? contentLine("LOCATION:" + escaped(*event.location)) : "") +
+         (event.description ? contentLine("DESCRIPTION:" + escaped(*event.description)) : "") +
          contentLine("TRANSP:TRANSPARENT") + contentLine("END:VEVENT");
 }
 

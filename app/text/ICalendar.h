@@ -13,7 +13,8 @@ struct CalendarEvent {
   std::string kind;  ///< letters and digits; names the event together with its instant
   Instant instant;
   std::string summary;
-  std::optional<std::string> location;
+  std::optional<std::string> location = std::nullopt;
+  std::optional<std::string> description = std::nullopt;
 };
 
 /// The events as an iCalendar object (RFC 5545) in UTF-8: every instant in universal time, each event under a

@@ -7,18 +7,28 @@
 namespace velmora::app {
 namespace {
 
-TEST(ClockText, RecordTextsBecomeEventsOfTheDayOrTheNext) {
-  EXPECT_EQ(dayEvent("05:48"), (DayEvent{5 * 60 + 48, false}));
-  EXPECT_EQ(dayEvent("00:15"), (DayEvent{15, false}));
-  EXPECT_EQ(dayEvent("00:37 **"), (DayEvent{37, true}));
-  EXPECT_EQ(dayEvent("24:37 **"), (DayEvent{37, true}));
-  EXPECT_EQ(dayEvent("24:00"), (DayEvent{0, true}));
+TEST(ClockText, AReadingIsTheNearestMinute) {
+  const TimeZone utc = TimeZone::fixed(0);
+  const auto at = [](const char* text) { return *instantFromText(text); };
+  EXPECT_EQ(readingAt(at("2024-06-20T12:00:29Z"), utc), (Reading{*dateFromText("2024-06-20"), 720}));
+  EXPECT_EQ(readingAt(at("2024-06-20T12:00:31Z"), utc), (Reading{*dateFromText("2024-06-20"), 721}));
+  EXPECT_EQ(nearestMinute(at("2024-06-20T12:00:31Z"), utc), at("2024-06-20T12:01:00Z"));
 }
 
-TEST(ClockText, DashesAreNoEvent) {
-  EXPECT_EQ(dayEvent("--"), std::nullopt);
-  EXPECT_EQ(dayEvent("--:--"), std::nullopt);
-  EXPECT_EQ(dayEvent(""), std::nullopt);
+TEST(ClockText, InTheLastHalfMinuteOfADayItIsTheOneThatHasBegun) {
+  const TimeZone kathmandu = *TimeZone::named("Asia/Kathmandu");
+  const auto at = [](const char* text) { return *instantFromText(text); };
+  EXPECT_EQ(readingAt(at("2024-06-20T18:14:31Z"), kathmandu), (Reading{*dateFromText("2024-06-20"), 1439}));
+  EXPECT_EQ(readingAt(at("2024-06-20T18:13:31Z"), kathmandu), (Reading{*dateFromText("2024-06-20"), 1439}));
+  EXPECT_EQ(readingAt(at("2024-06-20T18:15:00Z"), kathmandu), (Reading{*dateFromText("2024-06-21"), 0}));
+  EXPECT_EQ(nearestMinute(at("2024-06-20T18:14:31Z"), kathmandu), at("2024-06-20T18:14:00Z"));
+}
+
+TEST(ClockText, ToTheSecondItIsTheNearestOne) {
+  const Instant instant = *instantFromText("2024-06-20T21:30:08.6Z");
+  const TimeZone kathmandu = *TimeZone::named("Asia/Kathmandu");
+  EXPECT_EQ(clockTextToTheSecond(instant, kathmandu, true), "03:15:09");
+  EXPECT_EQ(clockTextToTheSecond(instant, kathmandu, false), "03:15:09 AM");
 }
 
 TEST(ClockText, TheTwelveHourClockHasNoHourZero) {

@@ -1,4 +1,7 @@
+#include <app/text/DisplayWidth.h>
 #include <velmora/service/MoonPhaseData.h>
+
+#include <algorithm>
 
 #include "AppTest.h"
 
@@ -10,7 +13,9 @@ class MonthCommandTest : public AppTest {
   /// The lines of the table, without its heading.
   static std::vector<std::string> rows(const std::vector<std::string>& arguments) {
     const auto lines = linesOf(answer(arguments));
-    return {lines.begin() + 5, lines.end()};
+    const auto heading = std::find_if(lines.begin(), lines.end(),
+                                      [](const std::string& line) { return line.starts_with("    Day"); });
+    return {std::next(heading), lines.end()};
   }
 
   static Json eventTimes(const Json& month) {
@@ -127,19 +132,18 @@ TEST_F(MonthCommandTest, IsThePresentOneAtThePlaceWhereNoneIsNamed) {
 
 TEST_F(MonthCommandTest, RowsReadAsAPersonWouldWriteThem) {
   const auto lines = linesOf(answer({"month", "2024-03", "--24h", "--now", "2024-03-14T02:00:00Z"}));
-  ASSERT_EQ(lines.size(), 36U);
-  EXPECT_EQ(lines[2], "March 2024");
-  EXPECT_EQ(lines[4], "    Day      Lit  Age  Time   Phase");
-  EXPECT_EQ(lines[5], "🌖  Fri  1   68%   22         Waning Gibbous");
-  EXPECT_EQ(lines[7], "🌗  Sun  3   50%   24  07:23  Last Quarter");
-  EXPECT_EQ(lines[14], "🌑  Sun 10    0%    1  01:00  New Moon");
-  EXPECT_EQ(lines[17], "🌒  Wed 13   16%    4         Waxing Crescent  ← today");
-  EXPECT_EQ(lines[29], "🌕  Mon 25  100%   16  00:00  Full Moon");
+  ASSERT_EQ(lines.size(), 37U);
+  EXPECT_EQ(lines[3], "March 2024");
+  EXPECT_EQ(lines[5], "    Day      Lit  Age  Time   Phase");
+  EXPECT_EQ(lines[6], "🌖  Fri  1   68%   22         Waning Gibbous");
+  EXPECT_TRUE(lines[18].ends_with("%    4         Waxing Crescent  ← today")) << lines[18];
+  EXPECT_EQ(lines[21], "🌓  Sat 16   50%    7  21:11  First Quarter");
+  EXPECT_EQ(lines[30], "🌕  Mon 25  100%   16  00:00  Full Moon");
 }
 
-TEST_F(MonthCommandTest, TheFirstDaysOfTheTablesReadAsTheMoonIsLit) {
+TEST_F(MonthCommandTest, TheFirstDaysOfTheTablesHaveAnAgeToo) {
   const auto days = rows({"month", "2000-01", "--tz", "UTC", "--24h"});
-  EXPECT_EQ(days[0], "🌘  Sat  1   23%              Waning Crescent");
+  EXPECT_EQ(days[0], "🌘  Sat  1   22%   26         Waning Crescent");
   EXPECT_TRUE(days[4].ends_with("Waning Crescent")) << days[4];
   EXPECT_EQ(days[5], "🌑  Thu  6    0%    1  18:14  New Moon");
   EXPECT_EQ(json({"month", "2000-01", "--tz", "UTC"})["days"][0]["moonAge"], 34);  // the record stays
@@ -172,6 +176,53 @@ TEST_F(MonthCommandTest, ADayThatThePlaceSkippedIsLeftOut) {
   EXPECT_EQ(days[28]["day"], 29);
   EXPECT_EQ(days[29]["day"], 31);
   EXPECT_TRUE(rows({"month", "2011-12", "--city", "Apia"}).back().find("Sat 31") != std::string::npos);
+}
+
+class MonthGridTest : public MonthCommandTest {
+ protected:
+  static std::vector<std::string> grid(std::vector<std::string> arguments) {
+    arguments.insert(arguments.begin(), "month");
+    arguments.insert(arguments.end(), {"--grid", "--24h"});
+    const auto lines = linesOf(answer(arguments));
+    return {std::next(std::find(lines.begin(), lines.end(), "")), lines.end()};
+  }
+};
+
+TEST_F(MonthGridTest, HasTheDaysInWeeksWithPhasesAndEclipsesMarked) {
+  const auto lines = grid({"2024-04", "--city", "New York"});
+  EXPECT_EQ(lines[0], "Sun     Mon     Tue     Wed     Thu     Fri     Sat");
+  EXPECT_EQ(lines[1], "         1 🌗    2       3       4       5       6");
+  EXPECT_EQ(lines[2], " 7       8 🌑*   9      10      11      12      13");
+  EXPECT_EQ(lines[5], "28      29      30");
+  EXPECT_EQ(lines[7], "* Mon  8  Total Solar Eclipse, 15:26: partial 90%");
+}
+
+TEST_F(MonthGridTest, TheListStandsBelowIt) {
+  const std::string grid = answer({"month", "2024-04", "--city", "New York", "--grid"});
+  const std::string list = answer({"month", "2024-04", "--city", "New York"});
+  EXPECT_TRUE(grid.ends_with(list.substr(list.find("    Day"))));
+}
+
+TEST_F(MonthGridTest, TheWeekBeginsAsInTheLocale) {
+  EXPECT_TRUE(grid({"2024-04", "--city", "Berlin", "--locale", "de_DE"})[0].starts_with("Mon "));
+  EXPECT_TRUE(grid({"2024-04", "--city", "Cairo", "--locale", "ar_EG"})[0].starts_with("Sat "));
+}
+
+TEST_F(MonthGridTest, AMonthMayBeginWithTheWeekAndEndWithIt) {
+  const auto lines = grid({"2026-02", "--city", "London"});
+  EXPECT_EQ(lines[1].substr(0, 2), " 1");
+  EXPECT_EQ(lines[4].substr(0, 2), "22");
+}
+
+TEST_F(MonthGridTest, ADayThatThePlaceSkippedLeavesAGap) {
+  EXPECT_EQ(grid({"2011-12", "--city", "Apia"})[5], "25      26      27      28      29              31");
+}
+
+TEST_F(MonthGridTest, FitsThePageInEveryLanguage) {
+  for (const char* locale : {"en", "de", "ja", "ar", "hi", "ru", "zh-Hant"}) {
+    for (const std::string& line : grid({"2025-03", "--city", "New York", "--locale", locale}))
+      EXPECT_LE(displayWidth(line), 80U) << locale << line;
+  }
 }
 
 TEST_F(MonthCommandTest, NamesFollowTheLocale) {

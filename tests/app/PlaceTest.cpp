@@ -22,13 +22,17 @@ TEST_F(PlaceTest, WithoutOptionsItIsTheDefaultPlace) {
   EXPECT_EQ(placeOfToday({}), Json({{"name", "San Francisco, CA"},
                                     {"latitude", 37.78549082},
                                     {"longitude", -122.39184303},
-                                    {"timezone", "America/Los_Angeles"}}));
+                                    {"timezone", "America/Los_Angeles"},
+                                    {"height", 0.0}}));
 }
 
 TEST_F(PlaceTest, CoordinatesTakeTheProcessesZoneAndHaveNoName) {
   const ScopedDefaultTimeZone zone("Asia/Tokyo");
-  EXPECT_EQ(placeOfToday({"--lat", "-33.9", "--lon", "-70.5"}),
-            Json({{"name", nullptr}, {"latitude", -33.9}, {"longitude", -70.5}, {"timezone", "Asia/Tokyo"}}));
+  EXPECT_EQ(placeOfToday({"--lat", "-33.9", "--lon", "-70.5"}), Json({{"name", nullptr},
+                                                                      {"latitude", -33.9},
+                                                                      {"longitude", -70.5},
+                                                                      {"timezone", "Asia/Tokyo"},
+                                                                      {"height", 0.0}}));
 }
 
 TEST_F(PlaceTest, ACityBringsItsCoordinatesAndItsZone) {
@@ -61,7 +65,7 @@ TEST_F(PlaceTest, AnOffsetIsTheZoneNamedAfterIt) {
 TEST_F(PlaceTest, TheLocationIsARecordWithANamedZone) {
   PlaceChoice choice;
   choice.gmtOffset = 19800;
-  const Place place = placeOf(choice);
+  const Place place = placeOf(choice, {});
   EXPECT_FALSE(place.location.useCustomTimezone);
   EXPECT_EQ(place.location.timezoneId, "GMT+05:30");
   EXPECT_EQ(place.location.GetTimezoneIntervalFromGMT(instant("2024-06-20T00:00:00Z")), 19800);
@@ -76,11 +80,11 @@ TEST_F(PlaceTest, TheDefaultPlaceItselfIsNeverChanged) {
 TEST_F(PlaceTest, TheHeadingNamesPlaceCoordinatesAndZone) {
   PlaceChoice choice;
   choice.city = "helsinki";
-  EXPECT_EQ(placeOf(choice).heading(), "Helsinki\n60.1695° N, 24.9354° E, Europe/Helsinki\n");
+  EXPECT_EQ(placeOf(choice, {}).heading(), "Helsinki\n60.1695° N, 24.9354° E, Europe/Helsinki\n");
   choice = PlaceChoice();
   choice.latitude = -33.9;
   choice.longitude = -70.5;
-  EXPECT_EQ(placeOf(choice).heading(), "33.9000° S, 70.5000° W, UTC\n");
+  EXPECT_EQ(placeOf(choice, {}).heading(), "33.9000° S, 70.5000° W, UTC\n");
 }
 
 }  // namespace

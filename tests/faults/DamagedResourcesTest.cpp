@@ -91,12 +91,10 @@ std::vector<Damage> damagesOfListFiles() {
 }
 
 const std::vector<std::vector<std::string>> questionsOfTables = {
-    {"today"},          {"month", "2024-06"},
-    {"year", "2024"},   {"phases", "--from", "2024-06-01", "--to", "2024-06-30"},
-    {"next"},           {"ics", "--from", "2024-06-01", "--to", "2024-06-30"},
-    {"draw", "month"},  {"draw", "year"},
-    {"draw", "images"}, {"draw", "riseset"},
-    {"draw", "disc"},
+    {"today", "--json"},        {"month", "2024-06", "--json"},
+    {"year", "2024", "--json"}, {"draw", "month"},
+    {"draw", "year"},           {"draw", "images"},
+    {"draw", "riseset"},        {"draw", "disc"},
 };
 
 TEST_F(DamagedResources, ADamagedTableIsAFailureThatNamesIt) {
@@ -147,38 +145,21 @@ TEST_F(DamagedResources, ATableOfANeighbouringYearIsNeededAtTheYearsEnds) {
   overwrite(library("Data/2025.plist"), "");
   expectFailure({"month", "2024-01"}, "Data/2023.plist", "missing");
   expectFailure({"month", "2024-12"}, "Data/2025.plist", "empty");
-  expectFailure({"year", "2024"}, "Data/2023.plist", "missing");
+  expectFailure({"year", "2024", "--json"}, "Data/2023.plist", "missing");
   EXPECT_EQ(runProgram({"month", "2024-06"}).status, 0);
   EXPECT_EQ(runProgram({"month", "2000-01"}).status, 0) << "no table comes before the first";
   EXPECT_EQ(runProgram({"month", "2040-12"}).status, 0) << "no table comes after the last";
 }
 
-const std::vector<std::vector<std::string>> questionsOfEclipses = {
-    {"today"},
-    {"eclipse"},
-    {"eclipses", "2024"},
-    {"ics", "--from", "2024-06-01", "--to", "2024-06-30"},
-    {"draw", "month"},
-};
-
-TEST_F(DamagedResources, ADamagedCatalogueIsAFailureThatNamesIt) {
-  const ScopedLogRecord entries;
-  for (const Damage& damage : testing::damagesOfAnyFile()) {
-    damage.apply(library("Data/events.txt"));
-    for (const auto& question : questionsOfEclipses) expectFailure(question, "Data/events.txt", damage.name);
-    EXPECT_EQ(runAsAnyUser({"draw", "month", "--hide-eclipses"}).status, 0) << damage.name;
-    fs::remove_all(pictures());
-    restore(library("Data/events.txt"));
-  }
-}
-
-TEST_F(DamagedResources, ACatalogueCutInTheMiddleIsAFailure) {
-  const ScopedLogRecord entries;
-  const std::string whole = bytesOfFile(library("Data/events.txt"));
-  for (std::size_t size = 0; size < whole.find("/2040"); size += 53) {
-    overwrite(library("Data/events.txt"), whole.substr(0, size));
-    expectFailure({"eclipses", "2024"}, "Data/events.txt", "cut after " + std::to_string(size));
-  }
+TEST_F(DamagedResources, TheSkyNeedsNeitherTablesNorTheCatalogue) {
+  fs::remove_all(library("Data"));
+  const std::vector<std::vector<std::string>> questions = {
+      {"today"},    {"phases", "--from", "2024-06-01", "--to", "2024-06-30"},
+      {"next"},     {"ics", "--from", "2024-06-01", "--to", "2024-06-30"},
+      {"riseset"},  {"eclipse"},
+      {"eclipses"}, {"track"},
+  };
+  for (const auto& question : questions) EXPECT_EQ(runAsAnyUser(question).status, 0) << question.front();
 }
 
 TEST_F(DamagedResources, ACatalogueCutAtAnyByteLosesNoEarlierEclipse) {
