@@ -1,0 +1,60 @@
+#include <velmora/posters/PosterTexts.h>
+
+#include <cmath>
+
+#include <velmora/platform/resources/Words.h>
+#include <velmora/platform/time/DateFormatter.h>
+#include <velmora/platform/time/NumberFormatter.h>
+
+namespace [[gnu::visibility("hidden")]] velmora {
+namespace {
+
+constexpr double minute = 60;
+
+std::string written(Instant instant, std::string_view fields, const Locale& locale, const TimeZone& zone) {
+  DateFormatter formatter;
+  formatter.setLocale(locale);
+  formatter.setTimeZone(zone);
+  formatter.setDateFormat(DateFormatter::dateFormatFromTemplate(fields, locale));
+  return formatter.stringFromDate(instant);
+}
+
+/// That of the words, with the clock of the user's own.
+Locale localeOfTexts() {
+  const bool isWhole = Locale::current().uses24HourClock();
+  return localeOfWords().withHourCycle(isWhole ? Locale::HourCycle::h24 : Locale::HourCycle::h12);
+}
+
+}  // namespace
+
+PosterTexts::PosterTexts(TimeZone zone) : _zone(std::move(zone)), _locale(localeOfTexts()) {}
+
+std::string PosterTexts::time(Instant instant) const {
+  const double minutes = std::floor(unixSeconds(instant) / minute + 0.5);
+  return written(instantFromUnixSeconds(minutes * minute), "jmm", _locale, _zone);
+}
+
+std::string PosterTexts::date(Instant instant, std::string_view fields) const {
+  return written(instant, fields, _locale, _zone);
+}
+
+std::string PosterTexts::hour(int hour) const {
+  return written(Instant(std::chrono::hours(hour)), "j", _locale, TimeZone::fixed(0));
+}
+
+std::string PosterTexts::number(std::int64_t number) const {
+  NumberFormatter formatter;
+  formatter.setLocale(_locale);
+  return formatter.stringFromNumber(number);
+}
+
+std::string PosterTexts::percent(double share) const { return number(std::llround(100 * share)) + "%"; }
+
+std::string PosterTexts::duration(Seconds length) const {
+  const auto minutes = std::llround(length.count() / minute);
+  return words("%1h %2m", {number(minutes / 60), number(minutes % 60)});
+}
+
+std::string PosterTexts::degrees(double angle) const { return number(std::llround(angle)) + "°"; }
+
+}  // namespace velmora
