@@ -1,0 +1,294 @@
+import { type Day, nearestKnown, sameDay } from "./days";
+import { clockAt, Format, instantOf, isZone } from "./format";
+import { isFault, type Link, readLink, type ViewName, writeLink } from "./link";
+import { type Choices, Store } from "./store";
+import type { LoadVelmora, Place, Settings, Velmora } from "./velmora";
+import { isRightToLeft, languageFor, localeFor, setTexts } from "./words";
+
+/** What changed: the day or the moment, or so much that a screen is to be made anew. */
+export type Change = "moment" | "day" | "all";
+
+/** What the page gets from outside: the module, and the files that lie beside the page. */
+export interface Surroundings {
+  load: LoadVelmora;
+  texts(language: string): Promise<Record<string, string>>;
+  file?: (name: string) => Promise<ArrayBuffer>;
+  base: string;
+}
+
+const firstPlace: Place = { latitude: 51.4769, longitude: -0.0005, zone: "Europe/London", name: "Greenwich" };
+const oneMinute = 60_000;
+
+/** The state of the page, and all that changes it. */
+export class App {
+  moon!: Velmora;
+  format!: Format;
+  view: ViewName = "today";
+  places: Place[] = [];
+  choices!: Choices;
+  /** The moment shown; none follows the clock. */
+  private chosenMoment: number | undefined;
+  private readonly store = new Store();
+  private readonly listeners = new Set<(change: Change) => void>();
+  /** What was wrong with the link that the page was opened by. */
+  linkFault: { part: string; text: string } | undefined;
+
+  constructor(private readonly surroundings: Surroundings) {}
+
+  get keepsChoices(): boolean {
+    return this.store.keeps;
+  }
+
+  get place(): Place {
+    return this.places[0]!;
+  }
+
+  get day(): Day {
+    return this.moon.day;
+  }
+
+  /** The moment that is shown, of the selected day. */
+  get at(): number {
+    return this.chosenMoment ?? Date.now();
+  }
+
+  get followsClock(): boolean {
+    return this.chosenMoment === undefined;
+  }
+
+  get isRightToLeft(): boolean {
+    return isRightToLeft(this.language);
+  }
+
+  get language(): ReturnType<typeof languageFor> {
+    return this.choices.language === "auto" ? languageFor(navigator.languages) : this.choices.language;
+  }
+
+  async start(): Promise<void> {
+    const kept = this.store.read((link) => {
+      const read = readLink(link, isZone);
+      return isFault(read) ? undefined : read.place;
+    });
+    this.choices = kept.choices;
+    this.places = kept.places.length > 0 ? [...kept.places] : [firstPlace];
+    const link = this.linkOfAddress();
+    if (link.place) this.putFirst(link.place);
+    if (link.view) this.view = link.view;
+
+    const [moon] = await Promise.all([
+      this.surroundings.load({
+        base: this.surroundings.base,
+        ...(this.surroundings.file && { file: this.surroundings.file }),
+        settings: this.settings(),
+        place: this.place,
+        day: link.day ?? nearestKnown(clockAt(Date.now(), this.place.zone).day),
+        fontFamily: getComputedStyle(document.body).fontFamily,
+      }),
+      this.loadTexts(),
+    ]);
+    this.moon = moon;
+    this.makeFormat();
+    this.takeMoment(link);
+    moon.onDayChange(() => this.dayMoved());
+  }
+
+  onChange(listener: (change: Change) => void): void {
+    this.listeners.add(listener);
+  }
+
+  private tell(change: Change): void {
+    for (const listener of this.listeners) listener(change);
+  }
+
+  go(view: ViewName): void {
+    if (view === this.view) return;
+    this.view = view;
+    history.pushState(null, "", this.address());
+    this.tell("all");
+  }
+
+  selectDay(day: Day): void {
+    const known = nearestKnown(day);
+    if (sameDay(known, this.day)) return;
+    if (!this.moon.skyOfDay(known)) return;
+    this.moon.selectDay(known);
+  }
+
+  /** After the selected day moved, by the page or by a tap in a view: the clock's time of the day stays. */
+  private dayMoved(): void {
+    if (!sameDay(clockAt(this.at, this.place.zone).day, this.day)) {
+      const { minutes } = clockAt(this.at, this.place.zone);
+      this.chosenMoment = this.isToday ? undefined : instantOf(this.day, minutes, this.place.zone);
+    }
+    this.remember();
+    this.tell("day");
+  }
+
+  get isToday(): boolean {
+    return sameDay(this.day, this.moon.today());
+  }
+
+  /** Shows a moment of the selected day. */
+  showMoment(at: number): void {
+    this.chosenMoment = Math.round(at / oneMinute) * oneMinute;
+    this.remember();
+    this.tell("moment");
+  }
+
+  /** Today's section at a moment of any day. */
+  showInstant(at: number): void {
+    this.chosenMoment = at;
+    this.view = "today";
+    const { day } = clockAt(at, this.place.zone);
+    history.pushState(null, "", this.address());
+    if (!sameDay(day, this.day)) this.moon.selectDay(day);
+    this.tell("all");
+  }
+
+  showNow(): void {
+    this.chosenMoment = undefined;
+    const today = nearestKnown(this.moon.today());
+    if (sameDay(today, this.day)) {
+      this.remember();
+      this.tell("moment");
+    } else {
+      this.moon.selectDay(today);
+    }
+  }
+
+  /** The clock went on by a minute. */
+  tick(): void {
+    if (!this.followsClock) return;
+    if (this.isToday) this.tell("moment");
+    else this.showNow();
+  }
+
+  usePlace(place: Place): void {
+    this.putFirst(place);
+    const day = this.followsClock ? nearestKnown(clockAt(Date.now(), place.zone).day) : this.day;
+    this.moon.select(place, day);
+    this.makeFormat();
+    this.keep();
+    this.remember();
+    this.tell("all");
+  }
+
+  forgetPlace(place: Place): void {
+    this.places = this.places.filter((one) => one !== place);
+    this.keep();
+    this.tell("all");
+  }
+
+  private putFirst(place: Place): void {
+    const same = (one: Place): boolean =>
+      one.name === place.name && one.latitude === place.latitude && one.longitude === place.longitude;
+    this.places = [place, ...this.places.filter((one) => !same(one))];
+  }
+
+  async choose(choices: Partial<Choices>): Promise<void> {
+    this.choices = { ...this.choices, ...choices };
+    this.keep();
+    if (choices.language) await this.loadTexts();
+    this.settingsChanged();
+  }
+
+  /** After the device changed what "auto" stands for, too. */
+  settingsChanged(): void {
+    this.moon.configure(this.settings());
+    this.makeFormat();
+    this.tell("all");
+  }
+
+  private keep(): void {
+    this.store.write(this.choices, this.places.map((place) => writeLink({ place })));
+  }
+
+  private async loadTexts(): Promise<void> {
+    const language = this.language;
+    const texts = language === "en" ? {} : await this.surroundings.texts(language).catch(() => ({}));
+    setTexts(texts);
+    document.documentElement.lang = this.language;
+    document.documentElement.dir = this.isRightToLeft ? "rtl" : "ltr";
+  }
+
+  private settings(): Settings {
+    const locale = localeFor(this.language, navigator.languages);
+    return {
+      locale,
+      clock: this.choices.clock === "auto" ? clockOf(locale) : this.choices.clock === "12" ? 12 : 24,
+      weekStart: this.choices.weekStart === "auto" ? weekStartOf(locale) : Number(this.choices.weekStart),
+      secondCalendar: this.choices.secondCalendar,
+      theme: this.theme,
+      isTablet: matchMedia("(min-width: 760px) and (min-height: 600px)").matches,
+    };
+  }
+
+  get theme(): "dark" | "light" {
+    if (this.choices.theme !== "auto") return this.choices.theme;
+    return matchMedia("(prefers-color-scheme: light)").matches ? "light" : "dark";
+  }
+
+  private makeFormat(): void {
+    const { locale, clock } = this.moon.settings;
+    this.format = new Format(locale, this.place.zone, clock);
+  }
+
+  // The address.
+
+  private linkOfAddress(): Link {
+    const link = readLink(location.hash, isZone);
+    if (!isFault(link)) return link;
+    this.linkFault = link;
+    return {};
+  }
+
+  private takeMoment(link: Link): void {
+    const isNow = link.time === undefined && this.isToday;
+    const minutes = link.time ?? clockAt(Date.now(), this.place.zone).minutes;
+    this.chosenMoment = isNow ? undefined : instantOf(this.day, minutes, this.place.zone);
+  }
+
+  /** The address that shows the same: view, day and place, and the time where it is not the clock's. */
+  address(): string {
+    const followed = this.followsClock;
+    const time = followed ? undefined : clockAt(this.at, this.place.zone).minutes;
+    return writeLink({
+      view: this.view,
+      ...(!followed && { day: this.day }),
+      ...(time !== undefined && { time }),
+      place: this.place,
+    });
+  }
+
+  private remember(): void {
+    history.replaceState(null, "", this.address());
+  }
+
+  /** The address was changed: by "back", or by hand. */
+  followAddress(): void {
+    this.linkFault = undefined;
+    const link = this.linkOfAddress();
+    this.view = link.view ?? "today";
+    if (link.place) this.putFirst(link.place);
+    this.moon.select(this.place, link.day ?? nearestKnown(clockAt(Date.now(), this.place.zone).day));
+    this.makeFormat();
+    this.takeMoment(link);
+    this.tell("all");
+  }
+}
+
+function clockOf(locale: string): 12 | 24 {
+  return new Intl.DateTimeFormat(locale, { hour: "numeric" }).resolvedOptions().hour12 ? 12 : 24;
+}
+
+interface WeekOfLocale {
+  getWeekInfo?: () => { firstDay: number };
+  weekInfo?: { firstDay: number };
+}
+
+/** Monday where the browser does not tell. */
+function weekStartOf(locale: string): number {
+  const maximal = new Intl.Locale(locale).maximize() as Intl.Locale & WeekOfLocale;
+  const first = (maximal.getWeekInfo?.() ?? maximal.weekInfo)?.firstDay ?? 1;
+  return first % 7;
+}

@@ -1,0 +1,177 @@
+import type { App } from "./app";
+import { type Day, addDays, addMonths, dayText, sameDay, sameMonth, weekdayOf } from "./days";
+import { h } from "./dom";
+import type { HostedView, ViewElement } from "./velmora";
+
+/**
+ * The elements of a view as elements of the page, over the canvas and in reading order: the days of a month as
+ * a grid, days that lie elsewhere as a list, all else as named pictures. Of the days one is a tab stop.
+ */
+export class ElementLayer {
+  readonly root = h("div", { class: "elements" });
+  private readonly cells = new Map<string, HTMLElement>();
+  private written = "";
+  /** The day that gets the focus once the view shows it. */
+  private wanted: Day | undefined;
+
+  constructor(private readonly app: App, private readonly view: HostedView, private readonly label: string) {
+    this.root.addEventListener("keydown", (event) => this.key(event));
+  }
+
+  private get isGrid(): boolean {
+    return this.view.kind === "month" || this.view.kind === "pictures";
+  }
+
+  refresh(): void {
+    const elements = this.view.elements();
+    const written = JSON.stringify(elements);
+    if (written === this.written) return;
+    this.written = written;
+    const hadFocus = this.root.contains(document.activeElement);
+    const days = elements.filter((element) => element.day);
+    this.cells.clear();
+    const parts: HTMLElement[] = elements.filter((element) => !element.day).map((element) => this.picture(element));
+    if (days.length > 0) parts.push(this.isGrid ? this.grid(days, elements) : this.list(days, elements));
+    this.root.replaceChildren(...parts);
+    if (hadFocus || this.wanted) this.focusSelected();
+  }
+
+  private picture(element: ViewElement): HTMLElement {
+    const name = [element.label, element.value].filter(Boolean).join(", ");
+    return placed(h("div", { role: "img", "aria-label": name }), element);
+  }
+
+  private grid(days: readonly ViewElement[], all: readonly ViewElement[]): HTMLElement {
+    const grid = h("div", { role: "grid", "aria-label": this.label });
+    const { weekStart } = this.app.moon.settings;
+    const heads = Array.from({ length: 7 }, (_, column) => h("span", { role: "columnheader" },
+      this.app.format.weekday((weekStart + column) % 7)));
+    grid.append(h("div", { role: "row", class: "spoken" }, ...heads));
+    let row: HTMLElement | undefined;
+    for (const element of days) {
+      const column = (weekdayOf(element.day!) - weekStart + 7) % 7;
+      if (!row || column === 0) {
+        row = h("div", { role: "row" });
+        grid.append(row);
+      }
+      const cell = this.cell(element, all.indexOf(element), "gridcell");
+      cell.setAttribute("aria-colindex", String(column + 1));
+      row.append(cell);
+    }
+    return grid;
+  }
+
+  private list(days: readonly ViewElement[], all: readonly ViewElement[]): HTMLElement {
+    return h("div", { role: "listbox", "aria-label": this.label },
+      ...days.map((element) => this.cell(element, all.indexOf(element), "option")));
+  }
+
+  private cell(element: ViewElement, index: number, role: string): HTMLElement {
+    const day = element.day!;
+    const cell = h("div", {
+      role, class: "day", tabindex: element.isSelected ? 0 : -1, "aria-selected": String(element.isSelected),
+      "aria-label": [element.label, element.value].filter(Boolean).join(", "), "data-day": dayText(day),
+      // A screen reader's tap comes here, a finger's goes to the canvas below.
+      click: () => this.view.perform(index, 0),
+    });
+    if (sameDay(day, this.app.moon.today())) cell.setAttribute("aria-current", "date");
+    this.cells.set(dayText(day), cell);
+    return placed(cell, element);
+  }
+
+  focusSelected(): void {
+    const day = this.wanted ?? this.app.day;
+    const cell = this.cells.get(dayText(day)) ?? this.root.querySelector<HTMLElement>("[tabindex='0']");
+    this.wanted = undefined;
+    if (!cell) return;
+    for (const other of this.cells.values()) other.tabIndex = -1;
+    cell.tabIndex = 0;
+    cell.focus({ preventScroll: this.isGrid });
+  }
+
+  private key(event: KeyboardEvent): void {
+    const focused = (event.target as HTMLElement).dataset["day"];
+    if (!focused || event.ctrlKey || event.metaKey || event.altKey) return;
+    const days = [...this.cells.keys()];
+    const day = dayOf(focused);
+    const target = this.isGrid ? this.gridTarget(event, day) : this.listTarget(event, day, days);
+    if (event.key === "Enter" || event.key === " ") {
+      event.preventDefault();
+      (event.target as HTMLElement).click();
+    } else if (target) {
+      event.preventDefault();
+      this.moveTo(target);
+    }
+  }
+
+  /** Arrows a day or a week, Home and End of the week, pages a month, with Shift a year. */
+  private gridTarget(event: KeyboardEvent, day: Day): Day | undefined {
+    const onward = this.app.isRightToLeft ? -1 : 1;
+    const column = (weekdayOf(day) - this.app.moon.settings.weekStart + 7) % 7;
+    switch (event.key) {
+      case "ArrowRight": return addDays(day, onward);
+      case "ArrowLeft": return addDays(day, -onward);
+      case "ArrowDown": return addDays(day, 7);
+      case "ArrowUp": return addDays(day, -7);
+      case "Home": return addDays(day, -column);
+      case "End": return addDays(day, 6 - column);
+      default: return this.pageTarget(event, day);
+    }
+  }
+
+  private listTarget(event: KeyboardEvent, day: Day, days: readonly string[]): Day | undefined {
+    const place = days.indexOf(dayText(day));
+    const at = (index: number): Day | undefined => {
+      const text = days[Math.max(0, Math.min(days.length - 1, index))];
+      return text ? dayOf(text) : undefined;
+    };
+    const onward = this.app.isRightToLeft ? -1 : 1;
+    switch (event.key) {
+      case "ArrowDown": return at(place + 1);
+      case "ArrowUp": return at(place - 1);
+      case "ArrowRight": return at(place + onward);
+      case "ArrowLeft": return at(place - onward);
+      case "Home": return at(0);
+      case "End": return at(days.length - 1);
+      default: return this.pageTarget(event, day);
+    }
+  }
+
+  private pageTarget(event: KeyboardEvent, day: Day): Day | undefined {
+    const months = event.shiftKey || this.view.kind === "year" ? 12 : 1;
+    switch (event.key) {
+      case "PageDown": return addMonths(day, months);
+      case "PageUp": return addMonths(day, -months);
+      case "t":
+      case "T": return this.app.moon.today();
+      default: return undefined;
+    }
+  }
+
+  /** Within what is shown the focus moves alone; a day of another month is selected, so that it is shown. */
+  private moveTo(day: Day): void {
+    const cell = this.cells.get(dayText(day));
+    if (cell) {
+      for (const other of this.cells.values()) other.tabIndex = -1;
+      cell.tabIndex = 0;
+      cell.focus();
+      return;
+    }
+    this.wanted = day;
+    if (sameDay(day, this.app.day) || sameMonth(day, this.app.day)) this.focusSelected();
+    else this.app.selectDay(day);
+  }
+}
+
+function dayOf(text: string): Day {
+  const [year, month, day] = text.split("-").map(Number);
+  return { year: year!, month: month!, day: day! };
+}
+
+function placed(node: HTMLElement, { frame }: ViewElement): HTMLElement {
+  node.style.left = `${frame.x}px`;
+  node.style.top = `${frame.y}px`;
+  node.style.width = `${frame.width}px`;
+  node.style.height = `${frame.height}px`;
+  return node;
+}

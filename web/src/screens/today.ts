@@ -1,0 +1,69 @@
+import type { App } from "../app";
+import { moonCard, phaseNames, phasesCard, sunCard, twilightCard } from "../cards";
+import { addDays } from "../days";
+import { h } from "../dom";
+import { eclipseCard } from "./eclipses";
+import { icon } from "../icons";
+import { Ruler } from "../ruler";
+import { Stage } from "../stage";
+import { t, w } from "../words";
+import type { Screen } from "./screen";
+
+export function todayScreen(app: App): Screen {
+  const options = (): object => ({ at: app.at, isTilted: app.choices.isTilted });
+  const disc = new Stage(app, "disc", w("Moon"), (width) => width, options());
+  const ruler = new Ruler(app);
+  const date = h("h2", { class: "date" });
+  const clock = h("p", { class: "clock" });
+  const phase = h("p", { class: "phase" });
+  const lit = h("p", { class: "lit" });
+  const now = h("button", { type: "button", class: "plain", click: () => app.showNow() }, t("Now"));
+  const glow = h("div", { class: "glow", "aria-hidden": "true" });
+  const cards = h("div", { class: "cards" });
+  const later = h("div", { class: "cards" });
+
+  const step = (days: number, label: string, name: "back" | "forward"): HTMLElement =>
+    h("button", { type: "button", class: "round step", "aria-label": label,
+      click: () => app.selectDay(addDays(app.day, days)) }, icon(name));
+  const hero = h("section", { class: "hero" },
+    h("div", { class: "date-line" }, step(-1, t("Previous day"), "back"), date, step(1, t("Next day"), "forward")),
+    h("div", { class: "moon" }, glow, disc.root),
+    h("div", { class: "hero-texts" }, phase, lit));
+  const time = h("section", { class: "time", "aria-label": t("Time of the day") },
+    h("div", { class: "time-line" }, clock, now), ruler.root);
+  const root = h("div", { class: "today" }, hero, time, cards, later);
+
+  const showMoment = (): void => {
+    const moment = app.moon.moment(app.at);
+    const sky = app.moon.skyOfDay(app.day);
+    clock.textContent = app.format.time(app.at);
+    now.hidden = app.followsClock;
+    disc.view.setOptions(options());
+    ruler.showMoment();
+    if (!moment || !sky) return;
+    phase.textContent = w(phaseNames[moment.phase]);
+    lit.textContent = t("%1 lit", app.format.percent(moment.fraction));
+    glow.style.opacity = String(0.15 + 0.85 * moment.fraction);
+    cards.replaceChildren(moonCard(app, sky, moment), sunCard(app, sky, moment), twilightCard(app, sky));
+  };
+  const showDay = (): void => {
+    date.textContent = app.format.fullDay(app.day);
+    ruler.showDay();
+    showMoment();
+    const eclipse = app.moon.nextEclipses(app.at, 1)[0];
+    later.replaceChildren(phasesCard(app),
+      ...(eclipse ? [eclipseCard(app, eclipse, t("Next eclipse seen from here"))] : []));
+  };
+  showDay();
+
+  return {
+    root,
+    title: t("Today"),
+    view: disc.view,
+    refresh: (change) => (change === "day" ? showDay() : showMoment()),
+    close() {
+      disc.close();
+      ruler.close();
+    },
+  };
+}
