@@ -25,7 +25,7 @@ NAMES = [(HYBRID, "hybrid"), (TOTAL, "total"), (ANNULAR, "annular"), (PARTIAL, "
 
 
 def vector(body, jd):
-    return [KM_PER_AU * x for x in swe.position(body, swe.EQUATORIAL | swe.XYZ, jd)[:3]]
+    return [KM_PER_AU * x for x in swe.apparent_vector(body, jd)]
 
 
 def dot(a, b):

@@ -5,7 +5,7 @@ Source: apparent geocentric positions of the Swiss Ephemeris. A row is the kind,
 seconds since 1970-01-01T00:00 TT, and for an apsis the Moon's distance in km.
 Run: /usr/bin/python3 make_moon_phases.py > moon_phases.txt
 """
-from swiss_ephemeris import MOON, SUN, julian_day, position, root, unix_seconds
+from swiss_ephemeris import MOON, SUN, TRUE_PLACE, julian_day, position, root, unix_seconds
 
 KM_PER_AU = 149597870.7
 FIRST, END = julian_day(1900, 1, 1), julian_day(2101, 1, 1)
@@ -37,11 +37,11 @@ def quarters(angle, step, names):
 
 
 def distance(jd):
-    return position(MOON, 0, jd)[2] * KM_PER_AU
+    """At the instant itself: with light time it would include the way of the Earth meanwhile, up to 38 km."""
+    return position(MOON, TRUE_PLACE, jd)[2] * KM_PER_AU
 
 
 def distance_rate(jd):
-    """Of the apparent distance, whose rate as the Swiss Ephemeris tells it leaves out the rate of the light time."""
     return distance(jd + 0.01) - distance(jd - 0.01)
 
 

@@ -54,7 +54,7 @@ class Sky:
         return swe.sidereal_time(jd_tt - self.delta) * pi / 12 + self.longitude
 
     def vector(self, body, jd_tt):
-        x, y, z = (KM_PER_AU * c for c in swe.position(body, swe.EQUATORIAL | swe.XYZ, jd_tt)[:3])
+        x, y, z = (KM_PER_AU * c for c in swe.apparent_vector(body, jd_tt))
         angle = self.sidereal_time(jd_tt)
         return x - self.from_axis * cos(angle), y - self.from_axis * sin(angle), z - self.from_equator
 

@@ -5,7 +5,7 @@ Swiss Ephemeris up to the last leap second of 2017, UT1 = UTC after it.
 """
 import ctypes
 import ctypes.util
-from math import cos, floor, radians
+from math import cos, floor, radians, sqrt
 
 SUN, MOON, NUTATION = 0, 1, -1
 TRUE_PLACE, EQUATORIAL, XYZ, TOPOCENTRIC = 16, 2048, 4096, 32768
@@ -33,6 +33,15 @@ def position(body, flags, jd_tt):
     if used < 0 or not used & FILES:
         raise RuntimeError(_message.value.decode())
     return list(x)
+
+
+def apparent_vector(body, jd_tt):
+    """Where the body is seen from the centre of the Earth, at the distance that it has at the instant itself: true
+    equator and equinox of date, astronomical units."""
+    direction = position(body, EQUATORIAL | XYZ, jd_tt)[:3]
+    distance = position(body, EQUATORIAL | TRUE_PLACE, jd_tt)[2]
+    with_light_time = sqrt(sum(x * x for x in direction))
+    return [x * distance / with_light_time for x in direction]
 
 
 def tt_minus_utc(jd_utc):

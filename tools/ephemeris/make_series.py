@@ -51,10 +51,10 @@ def wanted(dates):
     return {
         "Moon": [Wanted(moon[0], MILLIARCSECOND, 4, 400, even),
                  Wanted(moon[1], MILLIARCSECOND, 0, 200, odd),
-                 Wanted(sky.distance(sky.MOON, dates) * KILOMETRES, TEN_METRES, 2, 100, even, is_of_cosines=True)],
+                 Wanted(sky.distance(sky.MOON, dates) * KILOMETRES, TEN_METRES, 2, 118, even, is_of_cosines=True)],
         "Sun": [Wanted(sun[0], MILLIARCSECOND, 4, 100, free),
                 Wanted(sun[1], MILLIARCSECOND, 1, 20, free),
-                Wanted(sky.distance(sky.SUN, dates) * KILOMETRES, KILOMETRE, 2, 40, free, is_of_cosines=True)],
+                Wanted(sky.distance(sky.SUN, dates) * KILOMETRES, KILOMETRE, 2, 36, free, is_of_cosines=True)],
         "Nutation": [Wanted(nutation[0], MILLIARCSECOND / 10, 0, 20, free),
                      Wanted(nutation[1], MILLIARCSECOND / 10, 0, 20, free, is_of_cosines=True)],
     }

@@ -29,7 +29,7 @@ struct Apparent {
   double declination = 0.0;     ///< −π/2..π/2, north positive
   double longitude = 0.0;       ///< on the ecliptic, [0, 2π)
   double latitude = 0.0;        ///< from the ecliptic, north positive
-  double distance = 0.0;  ///< from the centre of the Earth at the instant itself, km; Moon ±4, Sun ±400
+  double distance = 0.0;  ///< from the centre of the Earth at the instant itself, km; Moon ±3, Sun ±500
   friend bool operator==(const Apparent&, const Apparent&) = default;
 };
 
