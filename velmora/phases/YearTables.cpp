@@ -63,7 +63,7 @@ std::int64_t MoonPhaseCalc::GetNumberOfDaysInMonth(std::int64_t month, std::int6
 std::optional<std::string> MoonPhaseCalc::nameForPhase(std::int64_t phase) {
   const auto index = static_cast<std::uint64_t>(phase);
   if (index >= kPhaseNames.size()) return std::nullopt;
-  return kPhaseNames[index];
+  return kPhaseNames[static_cast<std::size_t>(index)];
 }
 
 }  // namespace velmora

@@ -37,7 +37,7 @@ almanac::Day emptyDay() {
 std::int64_t minuteOf(Instant instant, const TimeZone& zone) {
   const LocalTime local = zone.localTime(instant);
   const Seconds ofDay = local - std::chrono::floor<std::chrono::days>(local);
-  return std::min(std::chrono::round<std::chrono::minutes>(ofDay).count(), minutesPerDay - 1);
+  return std::min<std::int64_t>(std::chrono::round<std::chrono::minutes>(ofDay).count(), minutesPerDay - 1);
 }
 
 /// An event of the day as a record has it.

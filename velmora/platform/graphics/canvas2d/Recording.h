@@ -1,0 +1,76 @@
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include <velmora/platform/graphics/canvas2d/Canvas2dCanvas.h>
+#include <velmora/platform/graphics/canvas2d/Operations.h>
+
+namespace [[gnu::visibility("hidden")]] velmora {
+
+/// The state of a drawing that is written down: what the page is told and when, and which groups need a
+/// layer.
+class Canvas2dCanvas::Recording {
+ public:
+  struct Style {
+    Color fill = Color::black(), stroke = Color::black();
+    double lineWidth = 1, alpha = 1;
+    BlendMode blendMode = BlendMode::normal;
+  };
+  struct State {
+    enum class Kind { base, save, group };
+    Kind kind = Kind::base;
+    Style style;  ///< as it was set
+    Style told;   ///< as the page knows it
+    AffineTransform frame;
+    Rect clip;                 ///< holds all that may show, in pixels
+    bool isCollapsed = false;  ///< the frame has no area: nothing shows
+  };
+
+  Recording(Size size, double scale);
+
+  OperationList operations;
+
+  State& state() { return _states.back(); }
+  void save();
+  void restore();
+  void beginGroup(double alpha);
+  void endGroup();
+  /// Ends everything that is open.
+  void endAll();
+
+  void transform(const AffineTransform& step);
+  void clip(const Path& path);
+  void fill(const Path& path);
+  void clear(const Path& path);
+  void stroke(const Path& path);
+
+  /// To be asked before anything is painted into the rectangle of the current frame, and told of it.
+  bool isShown(const Rect& rect);
+  /// Tells the page how to paint next.
+  void tellFill();
+  void tellStroke();
+  void finishPendingClear();
+
+ private:
+  /// What is drawn between the beginning and the end of a group, or outside of all.
+  struct Group {
+    std::size_t beginsAt = 0;  ///< in the operations, its first number
+    double alpha = 1;
+    bool isOverPaint = false;   ///< something below it may show through
+    bool reachesBelow = false;  ///< something in it clears or overlays
+    std::vector<Rect> painted;  ///< in pixels
+  };
+
+  void pop();
+  void tellCompositing();
+  Rect inPixels(const Rect& rect) const;
+  bool isOverPaint(const Rect& pixels) const;
+
+  AffineTransform _pixelsOfPoints;
+  std::vector<State> _states;
+  std::vector<Group> _groups{Group()};
+  std::optional<Path> _pendingClear;  ///< waits to see whether the same path covers it at once
+};
+
+}  // namespace velmora

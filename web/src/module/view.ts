@@ -1,0 +1,175 @@
+import type { CivilDate, End, HostedView, Size, ViewElement, ViewKind, ViewOptions } from "../velmora";
+import type { Module } from "./module";
+import { replay } from "./replay";
+import { svgOf } from "./svg";
+
+/** Draws on a canvas of that size in points, the background below or none. */
+function paint(module: Module, context: CanvasRenderingContext2D | OffscreenCanvasRenderingContext2D, view: number,
+               scale: number, background?: string): void {
+  context.setTransform(1, 0, 0, 1, 0, 0);
+  context.clearRect(0, 0, context.canvas.width, context.canvas.height);
+  context.setTransform(scale, 0, 0, scale, 0, 0);
+  replay(context, module.native.operations(view, scale), module.texts, module.pictures);
+  if (background === undefined) return;
+  context.setTransform(1, 0, 0, 1, 0, 0);
+  context.globalCompositeOperation = "destination-over";
+  context.fillStyle = background;
+  context.fillRect(0, 0, context.canvas.width, context.canvas.height);
+  context.globalCompositeOperation = "source-over";
+}
+
+function fit(canvas: HTMLCanvasElement, size: Size, scale: number): void {
+  const width = Math.round(size.width * scale), height = Math.round(size.height * scale);
+  if (canvas.width !== width) canvas.width = width;
+  if (canvas.height !== height) canvas.height = height;
+  canvas.style.width = `${size.width}px`;
+  canvas.style.height = `${size.height}px`;
+}
+
+/** A view of the module on a canvas of the page. */
+export class CanvasView implements HostedView {
+  readonly #module: Module;
+  readonly #number: number;
+  readonly #listeners = new Set<() => void>();
+  #scale = 1;
+  #isStale = true;
+  #isTold = false;
+  #isClosed = false;
+
+  constructor(module: Module, readonly kind: ViewKind, readonly canvas: HTMLCanvasElement, options: ViewOptions) {
+    this.#module = module;
+    this.#number = module.native.number("velmora_web_open_view", kind);
+    if (this.#number === 0) throw new RangeError(`there is no view "${String(kind)}"`);
+    this.setOptions(options);
+  }
+
+  resize(width: number, height: number, scale: number): void {
+    if (!(width > 0 && height > 0 && scale > 0)) throw new RangeError("a view is larger than nothing");
+    this.#scale = scale;
+    this.#module.native.run("velmora_web_resize_view", this.#number, width, height, scale);
+    this.stale();
+  }
+
+  get size(): Size {
+    return {
+      width: this.#module.native.number("velmora_web_view_width", this.#number),
+      height: this.#module.native.number("velmora_web_view_height", this.#number),
+    };
+  }
+
+  setOptions({ phase = "full", at = NaN, heading = 0, isTilted = false, hidesEclipses = false }: ViewOptions): void {
+    this.#module.native.run("velmora_web_set_options", this.#number, phase === "new" ? 1 : 0, at, heading,
+                            isTilted ? 1 : 0, hidesEclipses ? 1 : 0);
+    this.stale();
+  }
+
+  get needsDisplay(): boolean {
+    return !this.#isClosed &&
+      (this.#isStale || this.#module.native.number("velmora_web_needs_display", this.#number) !== 0);
+  }
+
+  draw(): void {
+    if (!this.needsDisplay) return;
+    this.#isStale = this.#isTold = false;
+    this.#paintOn(this.canvas);
+    void this.#fetchPictures();
+  }
+
+  drawDay(day: CivilDate, canvas: HTMLCanvasElement): void {
+    this.#module.visiting(day, () => this.#paintOn(canvas));
+  }
+
+  onNeedsDisplay(listener: () => void): End {
+    this.#listeners.add(listener);
+    return () => this.#listeners.delete(listener);
+  }
+
+  async ready(): Promise<void> {
+    await this.#fetchPictures();
+    if (this.#isClosed) return;
+    this.#module.native.operations(this.#number, this.#scale);  // which hands the pictures to the browser
+    await this.#module.pictures.settled();
+  }
+
+  touchBegan(x: number, y: number): void {
+    this.#touch("velmora_web_touch_began", x, y);
+  }
+  touchMoved(x: number, y: number): void {
+    this.#touch("velmora_web_touch_moved", x, y);
+  }
+  touchEnded(x: number, y: number): void {
+    this.#touch("velmora_web_touch_ended", x, y);
+  }
+  touchCancelled(): void {
+    this.#touch("velmora_web_touch_cancelled");
+  }
+
+  get scrollOffset(): number {
+    return this.#module.native.number("velmora_web_scroll_offset", this.#number);
+  }
+
+  elements(): readonly ViewElement[] {
+    return this.#module.native.answer<ViewElement[]>("velmora_web_elements", this.#number) ?? [];
+  }
+
+  perform(element: number, action: number): void {
+    this.#touch("velmora_web_perform", element, action);
+  }
+
+  svg(): string {
+    const operations = this.#module.native.operations(this.#number, 1).slice();
+    return svgOf(operations, this.size, this.#background, this.#module.texts, this.#module.pictures);
+  }
+
+  async png(scale: number): Promise<Blob> {
+    await this.ready();
+    const { width, height } = this.size;
+    const canvas = new OffscreenCanvas(Math.round(width * scale), Math.round(height * scale));
+    paint(this.#module, canvas.getContext("2d")!, this.#number, scale, this.#background);
+    return canvas.convertToBlob({ type: "image/png" });
+  }
+
+  close(): void {
+    this.#isClosed = true;
+    this.#listeners.clear();
+    this.#module.forget(this);
+    this.#module.native.run("velmora_web_close_view", this.#number);
+  }
+
+  /** Has it drawn again, whatever the library's view says. */
+  stale(): void {
+    this.#isStale = true;
+    this.tell();
+  }
+
+  /** Says once that it needs a drawing. */
+  tell(): void {
+    if (this.#isTold || !this.needsDisplay) return;
+    this.#isTold = true;
+    for (const listener of [...this.#listeners]) listener();
+  }
+
+  get #background(): string {
+    return this.#module.native.text("velmora_web_view_background", this.#number);
+  }
+
+  #paintOn(canvas: HTMLCanvasElement): void {
+    fit(canvas, this.size, this.#scale);
+    const context = canvas.getContext("2d");
+    if (context) paint(this.#module, context, this.#number, this.#scale);
+  }
+
+  #touch(name: string, ...values: number[]): void {
+    if (this.#isClosed) return;
+    this.#module.native.run(name, this.#number, ...values);
+    this.#module.changed();
+  }
+
+  /** Fetches the pictures that it shows now, each once; one that could not be fetched is tried again. */
+  async #fetchPictures(): Promise<void> {
+    if (this.#isClosed) return;
+    const files = this.#module.native.answer<string[]>("velmora_web_pictures", this.#number) ?? [];
+    const arrived = await Promise.all(files.map((file) => this.#module.handOver(file)));
+    if (arrived.includes("new")) this.stale();
+  }
+}
