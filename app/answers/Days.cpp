@@ -2,7 +2,7 @@
 
 #include <app/text/Errors.h>
 #include <app/text/ValueTexts.h>
-#include <app/text/Words.h>
+#include <velmora/platform/resources/Words.h>
 #include <velmora/platform/time/Clock.h>
 
 namespace velmora::app {

@@ -5,10 +5,10 @@
 #include <app/answers/Days.h>
 #include <app/answers/SeenEclipses.h>
 #include <app/text/DisplayWidth.h>
-#include <app/text/EnglishDate.h>
+#include <app/text/LocalDate.h>
 #include <app/text/PhaseText.h>
 #include <app/text/ValueTexts.h>
-#include <app/text/Words.h>
+#include <velmora/platform/resources/Words.h>
 #include <velmora/platform/time/Locale.h>
 
 namespace velmora::app {
@@ -71,7 +71,7 @@ std::string monthGrid(const std::vector<MoonDay>& days, const Query& query) {
   std::vector<TextTable::Row> weeks;
   for (const MoonDay& day : days) {
     const unsigned column = columnOf(day.date);
-    headings[column] = englishDate(day.date, "EEE");
+    headings[column] = localDate(day.date, DateForm::weekday);
     if (weeks.empty() || column < weeks.back().size()) weeks.emplace_back();
     while (weeks.back().size() < column) weeks.back().emplace_back("");
     weeks.back().emplace_back(cellOf(day, hasEclipse(day.date), query));

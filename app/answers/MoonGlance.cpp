@@ -10,8 +10,8 @@
 #include <app/text/MoonDisc.h>
 #include <app/text/PhaseText.h>
 #include <app/text/ValueTexts.h>
-#include <app/text/Words.h>
 #include <velmora/phases/Phase.h>
+#include <velmora/platform/resources/Words.h>
 
 namespace velmora::app {
 namespace {

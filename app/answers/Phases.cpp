@@ -2,7 +2,7 @@
 
 #include <app/place/CivilDays.h>
 #include <app/text/ClockText.h>
-#include <app/text/EnglishDate.h>
+#include <app/text/LocalDate.h>
 #include <app/text/PhaseText.h>
 #include <app/text/ValueTexts.h>
 #include <velmora/almanac/Events.h>
@@ -89,7 +89,7 @@ std::string phaseGlyphAt(std::int64_t phase, const Place& place) {
 
 std::string momentText(Instant instant, const Query& query) {
   const Reading reading = readingAt(instant, query.place.zone);
-  return englishDate(reading.date, "EEE ") + dateText(reading.date) + " " +
+  return localDate(reading.date, DateForm::weekday) + " " + dateText(reading.date) + " " +
          clockText(reading.minutes, query.use24HourClock);
 }
 
@@ -98,7 +98,7 @@ std::string clockAt(Instant instant, const Query& query) {
 }
 
 std::string dayOfMonthText(CivilDate date) {
-  return englishDate(date, "EEE ") + rightAligned(dayOfMonth(date), 2);
+  return localDate(date, DateForm::weekday) + " " + rightAligned(dayOfMonth(date), 2);
 }
 
 std::vector<MoonDay> moonDays(const std::vector<CivilDate>& dates, const TimeZone& zone) {

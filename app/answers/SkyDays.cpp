@@ -4,7 +4,7 @@
 
 #include <app/answers/Days.h>
 #include <app/text/ClockText.h>
-#include <app/text/Words.h>
+#include <velmora/platform/resources/Words.h>
 
 namespace velmora::app {
 

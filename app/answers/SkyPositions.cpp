@@ -6,8 +6,8 @@
 #include <app/answers/SkyDays.h>
 #include <app/text/Errors.h>
 #include <app/text/ValueTexts.h>
-#include <app/text/Words.h>
 #include <velmora/astronomy/RiseAndSetCalc.h>
+#include <velmora/platform/resources/Words.h>
 #include <velmora/platform/time/NumberText.h>
 
 namespace velmora::app {

@@ -2,8 +2,8 @@
 #include <app/answers/SeenEclipses.h>
 #include <app/commands/Commands.h>
 #include <app/text/ClockText.h>
-#include <app/text/EnglishDate.h>
-#include <app/text/Words.h>
+#include <app/text/LocalDate.h>
+#include <velmora/platform/resources/Words.h>
 
 namespace velmora::app {
 namespace {
@@ -23,7 +23,7 @@ std::string described(const SeenEclipse& seen, const Query& query) {
 std::string text(const Query& query) {
   const CivilDate day = dayOf(query);
   const auto eclipse = eclipseOf(day, query);
-  return query.place.heading() + englishDate(day, "EEEE d MMMM yyyy") + "\n\n" +
+  return query.place.heading() + localDate(day, DateForm::whole) + "\n\n" +
          (eclipse ? described(*eclipse, query) : words("There is no eclipse on this day.") + "\n");
 }
 

@@ -4,7 +4,7 @@
 #include <app/text/ClockText.h>
 #include <app/text/Csv.h>
 #include <app/text/TextTable.h>
-#include <app/text/Words.h>
+#include <velmora/platform/resources/Words.h>
 
 namespace velmora::app {
 namespace {

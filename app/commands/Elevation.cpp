@@ -5,8 +5,8 @@
 #include <app/text/Csv.h>
 #include <app/text/Errors.h>
 #include <app/text/TextTable.h>
-#include <app/text/Words.h>
 #include <velmora/almanac/Events.h>
+#include <velmora/platform/resources/Words.h>
 
 namespace velmora::app {
 namespace {

@@ -5,12 +5,12 @@
 #include <app/answers/PhaseYear.h>
 #include <app/answers/Phases.h>
 #include <app/commands/Commands.h>
-#include <app/text/EnglishDate.h>
+#include <app/text/LocalDate.h>
 #include <app/text/PhaseText.h>
 #include <app/text/ValueTexts.h>
-#include <app/text/Words.h>
 #include <velmora/almanac/Positions.h>
 #include <velmora/foundation/DateHelper.h>
+#include <velmora/platform/resources/Words.h>
 
 namespace velmora::app {
 namespace {
@@ -109,7 +109,7 @@ std::string text(const Query& query) {
   const year_month month = monthOf(query);
   PhaseYear(month.year(), query.place).days(month.month());  // names a table that is damaged
   const auto days = moonDaysOf(month, query.place.zone);
-  return query.place.heading() + englishDate(days.front().date, "MMMM yyyy") + "\n\n" +
+  return query.place.heading() + localDate(days.front().date, DateForm::monthAndYear) + "\n\n" +
          (query.request.grid ? monthGrid(days, query) + "\n" : "") + listText(days, query);
 }
 

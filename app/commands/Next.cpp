@@ -8,8 +8,8 @@
 #include <app/commands/Commands.h>
 #include <app/text/PhaseText.h>
 #include <app/text/ValueTexts.h>
-#include <app/text/Words.h>
 #include <velmora/almanac/Events.h>
+#include <velmora/platform/resources/Words.h>
 #include <velmora/platform/time/Clock.h>
 
 namespace velmora::app {
@@ -74,7 +74,7 @@ std::string waitText(Instant instant, const Query& query) {
   const TimeZone& zone = query.place.zone;
   const auto wait = (local_days(dateAt(instant, zone)) - local_days(dayOf(query))).count();
   if (wait == 0) return words("today");
-  return wait == 1 ? words("tomorrow") : words("in %1 days", {std::to_string(wait)});
+  return wait == 1 ? words("tomorrow") : wordsForCount("in %1 days", wait);
 }
 
 std::string nameOf(const almanac::Event& event) {

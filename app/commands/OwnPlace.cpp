@@ -2,7 +2,7 @@
 #include <app/commands/Commands.h>
 #include <app/place/OwnPlace.h>
 #include <app/text/Errors.h>
-#include <app/text/Words.h>
+#include <velmora/platform/resources/Words.h>
 
 namespace velmora::app {
 namespace {

@@ -6,7 +6,7 @@
 #include <app/commands/Commands.h>
 #include <app/text/ClockText.h>
 #include <app/text/TextTable.h>
-#include <app/text/Words.h>
+#include <velmora/platform/resources/Words.h>
 #include <velmora/platform/time/NumberText.h>
 
 namespace velmora::app {

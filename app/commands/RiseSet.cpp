@@ -3,7 +3,7 @@
 #include <app/commands/Commands.h>
 #include <app/text/TextTable.h>
 #include <app/text/ValueTexts.h>
-#include <app/text/Words.h>
+#include <velmora/platform/resources/Words.h>
 
 namespace velmora::app {
 namespace {

@@ -4,10 +4,11 @@
 #include <app/answers/SkyDayJson.h>
 #include <app/answers/SkyPositions.h>
 #include <app/commands/Commands.h>
+#include <app/text/ClockText.h>
+#include <app/text/LocalDate.h>
 #include <app/text/TextTable.h>
 #include <app/text/ValueTexts.h>
-#include <app/text/Words.h>
-#include <velmora/platform/time/DateFormatter.h>
+#include <velmora/platform/resources/Words.h>
 
 namespace velmora::app {
 namespace {
@@ -78,11 +79,10 @@ std::string factsText(const SkyDay& day, const Query& query) {
 
 /// "Thursday 20 June 2024, 14:05 (GMT-07:00)".
 std::string presentText(Instant present, const Query& query) {
-  DateFormatter formatter;
-  formatter.setLocale(Locale("en_US"));
-  formatter.setDateFormat(query.use24HourClock ? "EEEE d MMMM yyyy, HH:mm" : "EEEE d MMMM yyyy, hh:mm a");
+  const Reading reading = readingAt(std::chrono::floor<std::chrono::minutes>(present), query.place.zone);
   const std::int64_t offset = query.place.zone.secondsFromGMT(present);
-  return formatter.stringFromDate(present) + " (" + TimeZone::fixed(offset).name() + ")\n";
+  return localDate(reading.date, DateForm::whole) + ", " + clockText(reading.minutes, query.use24HourClock) +
+         " (" + TimeZone::fixed(offset).name() + ")\n";
 }
 
 std::string text(const Query& query) {

@@ -5,11 +5,11 @@
 #include <app/answers/Phases.h>
 #include <app/commands/Commands.h>
 #include <app/text/ClockText.h>
-#include <app/text/EnglishDate.h>
+#include <app/text/LocalDate.h>
 #include <app/text/PhaseText.h>
 #include <app/text/ValueTexts.h>
-#include <app/text/Words.h>
 #include <velmora/foundation/VelmoraCalendar.h>
+#include <velmora/platform/resources/Words.h>
 
 namespace velmora::app {
 namespace {
@@ -66,8 +66,9 @@ std::string text(const Query& query) {
   for (const almanac::PhaseEvent& event : phasesOf(year, query)) {
     const CivilDate date = readingAt(event.at, query.place.zone).date;
     const std::int64_t phase = phaseNumber(event.phase);
-    table.add({shown == date.month() ? "" : englishDate(date, "MMMM"), phaseGlyphAt(phase, query.place),
-               dayOfMonthText(date), clockAt(event.at, query), phaseName(phase)});
+    table.add({shown == date.month() ? "" : localDate(date, DateForm::month),
+               phaseGlyphAt(phase, query.place), dayOfMonthText(date), clockAt(event.at, query),
+               phaseName(phase)});
     shown = date.month();
   }
   return query.place.heading() + "\n" + table.text(query.boldHeadings);

@@ -1,6 +1,8 @@
 #include <app/text/ClockText.h>
 
 #include <app/text/ValueTexts.h>
+#include <velmora/platform/resources/Words.h>
+#include <velmora/platform/time/DateFormatter.h>
 #include <velmora/platform/time/NumberText.h>
 
 namespace velmora::app {
@@ -13,10 +15,33 @@ constexpr int hoursPerHalf = 12;
 
 std::string twoDigits(std::int64_t value) { return integerText(value, 2); }
 
+/// The halves of the day in the language of the words around them, and on which side of a time they stand.
+struct Halves {
+  Locale locale = localeOfWords();
+  std::string morning = written("a", 6), afternoon = written("a", 18);
+  bool comeFirst = written(DateFormatter::dateFormatFromTemplate("hm", locale), 6).starts_with(morning);
+
+ private:
+  std::string written(const std::string& pattern, int hour) const {
+    DateFormatter formatter;
+    formatter.setLocale(locale);
+    formatter.setTimeZone(TimeZone::fixed(0));
+    formatter.setDateFormat(pattern);
+    return formatter.stringFromDate(Instant(std::chrono::hours(hour)));
+  }
+};
+
+std::string withHalf(const std::string& time, bool isMorning) {
+  thread_local Halves halves;
+  if (!(halves.locale == localeOfWords())) halves = Halves();
+  const std::string& half = isMorning ? halves.morning : halves.afternoon;
+  return halves.comeFirst ? half + " " + time : time + " " + half;
+}
+
 std::string clock(int hour, const std::string& behind, bool use24HourClock) {
   if (use24HourClock) return twoDigits(hour) + behind;
   const int ofHalf = hour % hoursPerHalf == 0 ? hoursPerHalf : hour % hoursPerHalf;
-  return twoDigits(ofHalf) + behind + (hour < hoursPerHalf ? " AM" : " PM");
+  return withHalf(twoDigits(ofHalf) + behind, hour < hoursPerHalf);
 }
 
 using LocalMinute = std::chrono::local_time<std::chrono::minutes>;
@@ -58,7 +83,7 @@ std::string localText(Instant instant, const TimeZone& zone, bool use24HourClock
 }
 
 std::string lengthText(int minutes) {
-  return std::to_string(minutes / minutesPerHour) + "h " + twoDigits(minutes % minutesPerHour) + "m";
+  return words("%1h %2m", {std::to_string(minutes / minutesPerHour), twoDigits(minutes % minutesPerHour)});
 }
 
 }  // namespace velmora::app

@@ -108,13 +108,13 @@ TEST(Words, FillTheirPlacesInAnyOrder) {
 }
 
 TEST(Words, AreInTheLanguageOfTheCurrentLocale) {
-  const auto sunset = [](const std::string& locale) {
+  const auto twilight = [](const std::string& locale) {
     const ScopedLocale current(locale);
-    return words("Sunset");
+    return words("Twilight (civil)");
   };
-  EXPECT_EQ(sunset("de_AT"), "Sonnenuntergang");
-  EXPECT_EQ(sunset("zh_TW"), "日落");
-  EXPECT_EQ(sunset("fi_FI"), "Sunset");
+  EXPECT_EQ(twilight("de_AT"), "Dämmerung (bürgerlich)");
+  EXPECT_EQ(twilight("zh_TW"), "曙暮光（民用）");
+  EXPECT_EQ(twilight("fi_FI"), "Twilight (civil)");
 }
 
 TEST(Words, OfALanguageWithoutThemAreEnglishAndSoAreTheirDates) {

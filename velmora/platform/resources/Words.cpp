@@ -1,5 +1,7 @@
 #include <velmora/platform/resources/Words.h>
 
+#include <optional>
+
 #include <velmora/platform/resources/Bundle.h>
 #include <velmora/platform/resources/Languages.h>
 
@@ -24,6 +26,15 @@ std::string filled(std::string_view text, std::initializer_list<std::string_view
   return whole;
 }
 
+bool hasWords(const Locale& locale) {
+  const Bundle library = Bundle::library();
+  for (const std::string& language : preferredLanguages(locale)) {
+    if (language == "en" && locale.languageCode() != "en") return false;  // comes last for everyone
+    if (library.pathForResource(table, "strings", language + ".lproj")) return true;
+  }
+  return false;
+}
+
 }  // namespace
 
 std::string words(std::string_view english, std::initializer_list<std::string_view> parts) {
@@ -39,12 +50,13 @@ std::string wordsForCount(std::string_view english, std::int64_t count) {
 }
 
 Locale localeOfWords() {
-  const Bundle library = Bundle::library();
-  for (const std::string& language : preferredLanguages(Locale::current())) {
-    if (language == "en" && Locale::current().languageCode() != "en") break;  // comes last for everyone
-    if (library.pathForResource(table, "strings", language + ".lproj")) return Locale::current();
+  thread_local std::optional<Locale> current;
+  thread_local Locale ofWords("en_US");
+  if (current != Locale::current()) {
+    current = Locale::current();
+    ofWords = hasWords(*current) ? *current : Locale("en_US");
   }
-  return Locale("en_US");
+  return ofWords;
 }
 
 }  // namespace velmora
