@@ -5,7 +5,7 @@
 #include <cmath>
 #include <vector>
 
-#include <velmora/astronomy/Hours.h>
+#include <velmora/astronomy/FourNumbers.h>
 
 namespace velmora {
 namespace {
@@ -40,17 +40,17 @@ TEST(Angle, WithinATurnByDoublingsIsRightToFourteenDigits) {
   }
 }
 
-Hours hours(const std::vector<double>& numbers) {
-  Hours all;
-  for (std::size_t i = 0; i < Hours::count; ++i) all.set(i, numbers[i]);
+FourNumbers hours(const std::vector<double>& numbers) {
+  FourNumbers all;
+  for (std::size_t i = 0; i < FourNumbers::count; ++i) all.set(i, numbers[i]);
   return all;
 }
 
-TEST(Hours, AreReckonedEachAsADoubleByItself) {
-  const Hours a = hours({0.1, -2, 3e8, 1.5}), b = hours({0.3, 7, 1.0 / 3, 1.5});
-  const Hours sum = a + b, difference = a - b, product = a * b, quotient = a / b, root = sqrt(b);
-  const Hours less = selectLess(a, b, 1, b), doubled = 2 * a;
-  for (std::size_t i = 0; i < Hours::count; ++i) {
+TEST(FourNumbers, AreReckonedEachAsADoubleByItself) {
+  const FourNumbers a = hours({0.1, -2, 3e8, 1.5}), b = hours({0.3, 7, 1.0 / 3, 1.5});
+  const FourNumbers sum = a + b, difference = a - b, product = a * b, quotient = a / b, root = sqrt(b);
+  const FourNumbers less = selectLess(a, b, 1, b), doubled = 2 * a;
+  for (std::size_t i = 0; i < FourNumbers::count; ++i) {
     EXPECT_EQ(sum[i], a[i] + b[i]);
     EXPECT_EQ(difference[i], a[i] - b[i]);
     EXPECT_EQ(product[i], a[i] * b[i]);
@@ -61,9 +61,9 @@ TEST(Hours, AreReckonedEachAsADoubleByItself) {
   }
 }
 
-TEST(Hours, FollowOneAnother) {
-  const Hours evening = Hours::from(21.5);
-  for (std::size_t i = 0; i < Hours::count; ++i) EXPECT_EQ(evening[i], 21.5 + static_cast<double>(i));
+TEST(FourNumbers, FollowOneAnother) {
+  const FourNumbers evening = FourNumbers::from(21.5);
+  for (std::size_t i = 0; i < FourNumbers::count; ++i) EXPECT_EQ(evening[i], 21.5 + static_cast<double>(i));
 }
 
 }  // namespace

@@ -16,12 +16,12 @@ namespace {
 class EclipseCatalogueReading : public ServiceTest {
  protected:
   /// Reads a catalogue of that text.
-  const MoonPhaseData::Eclipses& read(const std::string& text) {
+  const EclipseCatalogue& read(const std::string& text) {
     resources.writeCatalogue(text);
     service().loadEventsFromFile();
     return *service().eventsData();
   }
-  static std::shared_ptr<const EclipseInfo> onlyOf(const MoonPhaseData::Eclipses& eclipses) {
+  static std::shared_ptr<const EclipseInfo> onlyOf(const EclipseCatalogue& eclipses) {
     EXPECT_EQ(eclipses.size(), 1U);
     return eclipses.begin()->second;
   }

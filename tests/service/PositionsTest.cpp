@@ -41,6 +41,20 @@ TEST_F(Positions, AreTheEnginesWithTheOffsetOfTheInstant) {
   }
 }
 
+TEST_F(Positions, OfAPlaceWithAnOffsetAloneComeWhenTheOffsetIsNamedAsAZone) {
+  const Instant date = utc(2024, 3, 10, 12, 0);
+  const auto place = std::make_shared<GeoLocationData>();
+  place->SetLocation(28.6, 77.2, "Delhi", std::nullopt, 19800, true);
+  service().SetSelectedLocation(place);
+  EXPECT_FALSE(service().GetMoonPositionDataForDate(date));
+  const auto named = std::make_shared<GeoLocationData>();
+  named->SetLocation(28.6, 77.2, "Delhi", "GMT+05:30", 0, false);
+  service().SetSelectedLocation(named);
+  expectSame(service().GetMoonPositionDataForDate(date),
+             RiseAndSetCalc::ComputeMoonPosition(date, *named, 19800));
+  EXPECT_EQ(service().GetMoonPositionDataForDate(date)->hour, 17.5);
+}
+
 TEST_F(Positions, AreNoneWithoutADateAPlaceOrAZone) {
   const Instant date = utc(2024, 3, 10);
   const auto expectNone = [](std::optional<Instant> asked) {

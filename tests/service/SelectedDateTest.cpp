@@ -8,6 +8,7 @@ using Selection = SelectionTest;
 TEST_F(Selection, NotificationNamesKeepTheirSpelling) {
   EXPECT_STREQ(kCalenderDateChangedNotification, "CalenderDateChanged");
   EXPECT_STREQ(kCalenderLocationChangedNotification, "CalenderLocationChanged");
+  EXPECT_EQ(std::string_view(kCalenderDateChangedNotification), "CalenderDateChanged");
 }
 
 TEST_F(Selection, AFreshServiceHasNone) {

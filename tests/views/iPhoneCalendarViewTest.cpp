@@ -4,7 +4,7 @@
 #include <optional>
 #include <utility>
 
-#include <velmora/views/Today.h>
+#include <velmora/views/TodayInSelectedMonth.h>
 
 #include "tests/views/MonthViewTesting.h"
 

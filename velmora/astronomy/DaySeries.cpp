@@ -4,7 +4,7 @@
 
 #include <velmora/astronomy/HorizontalCoordinates.h>
 #include <velmora/astronomy/RiseAndSetCalc.h>
-#include <velmora/astronomy/TimeScales.h>
+#include <velmora/astronomy/UniversalTime.h>
 #include <velmora/platform/time/Calendar.h>
 
 namespace velmora {
@@ -13,7 +13,7 @@ namespace {
 constexpr double hitTolerance = 0.05;  // degrees
 constexpr int mostRefinedEvents = 2;
 constexpr std::size_t moonSamples = 25, sunSamples = 24;  // of a day's series
-static_assert(sunSamples % Hours::count == 0);
+static_assert(sunSamples % FourNumbers::count == 0);
 constexpr Seconds oneDay{86400};
 
 double offsetHours(std::int64_t secondsFromGMT) { return static_cast<double>(secondsFromGMT) / 3600; }
@@ -114,10 +114,10 @@ std::vector<PositionData> RiseAndSetCalc::Get24HourMoonPositionsForDate(Instant 
   std::vector<PositionData> positions;
   positions.reserve(moonSamples);
   while (positions.size() < moonSamples) {
-    const Hours hours = Hours::from(static_cast<double>(positions.size())) - zoneHours;
-    const Hours mjd = mjd0 + hours / 24;
-    const Direction<Hours> moon = moonDirectionAt(centuriesSinceJ2000(mjd));
-    for (std::size_t i = 0; i < Hours::count && positions.size() < moonSamples; ++i) {
+    const FourNumbers hours = FourNumbers::from(static_cast<double>(positions.size())) - zoneHours;
+    const FourNumbers mjd = mjd0 + hours / 24;
+    const Direction<FourNumbers> moon = moonDirectionAt(centuriesSinceJ2000(mjd));
+    for (std::size_t i = 0; i < FourNumbers::count && positions.size() < moonSamples; ++i) {
       positions.push_back(positionAt(moonCoordinates(directionOfHour(moon, i), mjd[i], longitude, latitude),
                                      hours[i] + zoneHours));
     }
@@ -137,10 +137,11 @@ std::vector<PositionData> RiseAndSetCalc::Get24HourSunPositionsForDate(Instant d
   std::vector<PositionData> positions;
   positions.reserve(sunSamples);
   while (positions.size() < sunSamples) {
-    const Hours hours = Hours::from(static_cast<double>(first.hour) + static_cast<double>(positions.size()));
+    const FourNumbers hours =
+        FourNumbers::from(static_cast<double>(first.hour) + static_cast<double>(positions.size()));
     const auto places = sunCoordinates(firstDay + hours / 24, longitude, latitude);
     // Kept: the zone value is the offset in seconds, so that the records' hours mean nothing here.
-    for (std::size_t i = 0; i < Hours::count; ++i) {
+    for (std::size_t i = 0; i < FourNumbers::count; ++i) {
       positions.push_back(positionAt(places[i], sunZoneHour(hours[i], secondsFromGMT)));
     }
   }

@@ -4,7 +4,7 @@
 
 #include <velmora/astronomy/PrintedDegrees.h>
 #include <velmora/astronomy/RiseAndSetCalc.h>
-#include <velmora/astronomy/TimeScales.h>
+#include <velmora/astronomy/UniversalTime.h>
 #include <velmora/platform/time/NumberText.h>
 
 namespace [[gnu::visibility("hidden")]] velmora {
@@ -24,9 +24,9 @@ Angle<Number> obliquity(const Number& d) {
 
 double withinTurn(double radians) { return RiseAndSetCalc::FNRange(radians); }
 
-Hours withinTurn(const Hours& radians) {
-  Hours reduced;
-  for (std::size_t i = 0; i < Hours::count; ++i) reduced.set(i, withinTurn(radians[i]));
+FourNumbers withinTurn(const FourNumbers& radians) {
+  FourNumbers reduced;
+  for (std::size_t i = 0; i < FourNumbers::count; ++i) reduced.set(i, withinTurn(radians[i]));
   return reduced;
 }
 
@@ -69,14 +69,16 @@ struct SunAngles {
   Angle<Number> g, meanLongitude, siderealAngle;
 };
 
-SunAngles<Hours> sunAngles(const Hours& d, double longitude) {
-  const auto angle = [](const Hours& radians) { return angleWithinTurn<Hours>(withinTurn(radians)); };
+SunAngles<FourNumbers> sunAngles(const FourNumbers& d, double longitude) {
+  const auto angle = [](const FourNumbers& radians) {
+    return angleWithinTurn<FourNumbers>(withinTurn(radians));
+  };
   return {angle(anomalyOfSun(d)), angle(longitudeOfSun(d)), angle(localSiderealRadians(d, longitude))};
 }
 
 SunAngles<double> sunAngles(double d, double longitude) {
   const auto angles = anglesSideBySide(
-      withinTurn(Hours::of(anomalyOfSun(d), longitudeOfSun(d), localSiderealRadians(d, longitude), 0)));
+      withinTurn(FourNumbers::of(anomalyOfSun(d), longitudeOfSun(d), localSiderealRadians(d, longitude), 0)));
   return {angles[0], angles[1], angles[2]};
 }
 
@@ -129,12 +131,12 @@ HorizontalCoordinates sunCoordinates(double d, double longitude, const Angle<dou
   return coordinatesOf(sunDirectionInSky(d, longitude, latitude));
 }
 
-std::array<HorizontalCoordinates, Hours::count> sunCoordinates(const Hours& d, double longitude,
-                                                               const Angle<double>& latitude) {
-  std::array<HorizontalCoordinates, Hours::count> places;
+std::array<HorizontalCoordinates, FourNumbers::count> sunCoordinates(const FourNumbers& d, double longitude,
+                                                                     const Angle<double>& latitude) {
+  std::array<HorizontalCoordinates, FourNumbers::count> places;
   const bool areReduced = reducesAnglesOfSun(d[0], longitude);
   const auto sun = sunDirectionInSky(d, longitude, latitude);
-  for (std::size_t i = 0; i < Hours::count; ++i) {
+  for (std::size_t i = 0; i < FourNumbers::count; ++i) {
     places[i] = areReduced ? coordinatesOf({sun.up[i], sun.north[i], sun.east[i]})
                            : sunCoordinatesByPrintedSteps(d[i], longitude, latitude);
   }

@@ -22,8 +22,8 @@ struct HorizontalCoordinates {
 HorizontalCoordinates sunCoordinates(double d, double longitude, const Angle<double>& latitude);
 
 /// The same at four hours.
-std::array<HorizontalCoordinates, Hours::count> sunCoordinates(const Hours& d, double longitude,
-                                                               const Angle<double>& latitude);
+std::array<HorizontalCoordinates, FourNumbers::count> sunCoordinates(const FourNumbers& d, double longitude,
+                                                                     const Angle<double>& latitude);
 
 /// The Moon. `mjd`: Modified Julian Date. Longitude in degrees. No guard where the azimuth is undefined, at
 /// the poles and the zenith: it may be NaN there.

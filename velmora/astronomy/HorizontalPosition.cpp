@@ -1,7 +1,7 @@
 #include <velmora/astronomy/HorizontalCoordinates.h>
 #include <velmora/astronomy/PrintedDegrees.h>
 #include <velmora/astronomy/RiseAndSetCalc.h>
-#include <velmora/astronomy/TimeScales.h>
+#include <velmora/astronomy/UniversalTime.h>
 #include <velmora/platform/time/Calendar.h>
 
 namespace velmora {

@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include <velmora/astronomy/PrintedDegrees.h>
-#include <velmora/astronomy/TimeScales.h>
+#include <velmora/astronomy/UniversalTime.h>
 
 namespace [[gnu::visibility("hidden")]] velmora {
 namespace {
@@ -11,34 +11,35 @@ namespace {
 constexpr double pi = 3.141592653589793;
 
 /// The angle in radians, [0, 2π), to 0.002.
-inline Hours roughRadians(const Angle<Hours>& angle) {
-  const Hours &c = cos(angle), &s = sin(angle);
-  const Hours fromY = roughArcsine(c), fromX = roughArcsine(s);
-  const Hours nearY = selectLess(s, 0, 3 * pi / 2 + fromY, pi / 2 - fromY);
-  const Hours nearPositiveX = selectLess(s, 0, 2 * pi + fromX, fromX);
-  const Hours nearX = selectLess(c, 0, pi - fromX, nearPositiveX);
+inline FourNumbers roughRadians(const Angle<FourNumbers>& angle) {
+  const FourNumbers &c = cos(angle), &s = sin(angle);
+  const FourNumbers fromY = roughArcsine(c), fromX = roughArcsine(s);
+  const FourNumbers nearY = selectLess(s, 0, 3 * pi / 2 + fromY, pi / 2 - fromY);
+  const FourNumbers nearPositiveX = selectLess(s, 0, 2 * pi + fromX, fromX);
+  const FourNumbers nearX = selectLess(c, 0, pi - fromX, nearPositiveX);
   return selectLess(c * c, s * s, nearY, nearX);
 }
 
 /// Right ascension by the printed half-angle formula.
-inline Angle<Hours> rightAscension(const Direction<Hours>& body, const Hours& rho) {
-  const Hours u = body.x + rho, &y = body.y;
-  const Hours scale = 1 / (u * u + y * y);
+inline Angle<FourNumbers> rightAscension(const Direction<FourNumbers>& body, const FourNumbers& rho) {
+  const FourNumbers u = body.x + rho, &y = body.y;
+  const FourNumbers scale = 1 / (u * u + y * y);
   return {(u * u - y * y) * scale, 2 * u * y * scale};
 }
 
 /// The right ascension, counted in [0, 2π), less its lost share.
-inline Angle<Hours> rightAscensionAfterDegrees(const Direction<Hours>& body, const Hours& rho) {
-  const Angle<Hours> alpha = rightAscension(body, rho);
-  const Hours startingAnew = selectLess(body.y, 0, shortfallOfTurn(seriesTwoPi), 0);
-  return alpha - Angle<Hours>{1, lostShare * roughRadians(alpha) + startingAnew};
+inline Angle<FourNumbers> rightAscensionAfterDegrees(const Direction<FourNumbers>& body,
+                                                     const FourNumbers& rho) {
+  const Angle<FourNumbers> alpha = rightAscension(body, rho);
+  const FourNumbers startingAnew = selectLess(body.y, 0, shortfallOfTurn(seriesTwoPi), 0);
+  return alpha - Angle<FourNumbers>{1, lostShare * roughRadians(alpha) + startingAnew};
 }
 
-inline Hours sineOfAltitude(const Direction<Hours>& body, const Angle<Hours>& siderealAngle,
-                            const Angle<double>& latitude) {
-  const Hours rho = sqrt(1 - body.z * body.z);
-  const Angle<Hours> delta = declinationAfterDegrees(body.z, rho);
-  const Angle<Hours> hourAngle = siderealAngle - rightAscensionAfterDegrees(body, rho);
+inline FourNumbers sineOfAltitude(const Direction<FourNumbers>& body, const Angle<FourNumbers>& siderealAngle,
+                                  const Angle<double>& latitude) {
+  const FourNumbers rho = sqrt(1 - body.z * body.z);
+  const Angle<FourNumbers> delta = declinationAfterDegrees(body.z, rho);
+  const Angle<FourNumbers> hourAngle = siderealAngle - rightAscensionAfterDegrees(body, rho);
   return sin(latitude) * sin(delta) + cos(latitude) * cos(delta) * cos(hourAngle);
 }
 
@@ -69,8 +70,8 @@ HourlyAltitudes<HourlyBody>::HourlyAltitudes(double localMidnight, double longit
 
 template <class HourlyBody>
 void HourlyAltitudes<HourlyBody>::sampleHours() {
-  const Hours sines = sineOfAltitude(_body.direction(), _siderealAngle.angle(), _latitude);
-  for (std::size_t i = 0; i < Hours::count; ++i) _sines[_known++] = sines[i];
+  const FourNumbers sines = sineOfAltitude(_body.direction(), _siderealAngle.angle(), _latitude);
+  for (std::size_t i = 0; i < FourNumbers::count; ++i) _sines[_known++] = sines[i];
   _body.step();
   _siderealAngle.step();
 }

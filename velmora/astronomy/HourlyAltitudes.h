@@ -27,7 +27,7 @@ class HourlyAltitudes {
   }
 
  private:
-  static constexpr std::size_t capacity = (lastHour / Hours::count + 1) * Hours::count;
+  static constexpr std::size_t capacity = (lastHour / FourNumbers::count + 1) * FourNumbers::count;
 
   void sampleHours();
 

@@ -1,6 +1,6 @@
 #include <velmora/astronomy/HourlySeries.h>
 
-#include <velmora/astronomy/TimeScales.h>
+#include <velmora/astronomy/UniversalTime.h>
 
 namespace [[gnu::visibility("hidden")]] velmora {
 namespace {
@@ -24,7 +24,7 @@ HourlyAngle::HourlyAngle(const ArgumentValue<double>& start, const HourlyGrowth&
     : _growth(growth) {
   ArgumentValue<double> value = start;
   Angle<double> perStep{1, 0};
-  for (std::size_t i = 0; i < Hours::count; ++i) {
+  for (std::size_t i = 0; i < FourNumbers::count; ++i) {
     setHour(_value, i, value);
     value = grown(value, growth.turnsPerHour, perHour, growth.radiansPerTurn);
     perStep = perStep + perHour;
@@ -37,7 +37,7 @@ HourlyAngle::HourlyAngle(const MeanArgument& argument, const ArgumentValue<doubl
                   smallAngle(seriesTwoPi * argument.perCentury / hoursPerCentury)) {}
 
 void HourlyAngle::step() {
-  _value = grown(_value, Hours::count * _growth.turnsPerHour, _perStep, _growth.radiansPerTurn);
+  _value = grown(_value, FourNumbers::count * _growth.turnsPerHour, _perStep, _growth.radiansPerTurn);
 }
 
 HourlySun::HourlySun(double centuries)

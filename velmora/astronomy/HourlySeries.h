@@ -3,7 +3,7 @@
 #include <array>
 #include <cstddef>
 
-#include <velmora/astronomy/Hours.h>
+#include <velmora/astronomy/FourNumbers.h>
 #include <velmora/astronomy/SunAndMoonSeries.h>
 
 namespace [[gnu::visibility("hidden")]] velmora {
@@ -23,23 +23,23 @@ class HourlyAngle {
   HourlyAngle(const ArgumentValue<double>& start, const HourlyGrowth& growth, const Angle<double>& perHour);
   HourlyAngle(const MeanArgument& argument, const ArgumentValue<double>& start);
 
-  const ArgumentValue<Hours>& value() const { return _value; }
-  const Angle<Hours>& angle() const { return _value.angle; }
+  const ArgumentValue<FourNumbers>& value() const { return _value; }
+  const Angle<FourNumbers>& angle() const { return _value.angle; }
 
   /// Moves on to the hours that follow.
   void step();
 
  private:
-  ArgumentValue<Hours> _value;
+  ArgumentValue<FourNumbers> _value;
   HourlyGrowth _growth;
-  Angle<Hours> _perStep;
+  Angle<FourNumbers> _perStep;
 };
 
 /// The Sun's direction at consecutive hours.
 class HourlySun {
  public:
   explicit HourlySun(double centuries);
-  Direction<Hours> direction() const { return sunDirection(_longitude.value(), _anomaly.angle()); }
+  Direction<FourNumbers> direction() const { return sunDirection(_longitude.value(), _anomaly.angle()); }
   void step();
 
  private:
@@ -50,14 +50,14 @@ class HourlySun {
 class HourlyMoon {
  public:
   explicit HourlyMoon(double centuries);
-  Direction<Hours> direction() const {
+  Direction<FourNumbers> direction() const {
     return moonDirection(_longitude.value(), _anomaly.angle(), _sunAnomaly.angle(), _elongation.angle(),
                          _latitudeArgument.angle());
   }
   void step();
 
  private:
-  using Values = std::array<ArgumentValue<double>, Hours::count>;
+  using Values = std::array<ArgumentValue<double>, FourNumbers::count>;
 
   HourlyMoon(const ArgumentValue<double>& longitude, const Values& starts);
 

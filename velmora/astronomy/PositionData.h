@@ -17,6 +17,8 @@ struct PositionData {
   /// `hour` as a clock text: long "07:05", "07:05 AM"; short "07", "7 am".
   /// Kept: the hour after midnight is written 0 (00:05 AM).
   std::string formattedTimeText(bool use24Hour, bool shortForm) const;
+
+  friend bool operator==(const PositionData&, const PositionData&) = default;
 };
 
 }  // namespace velmora

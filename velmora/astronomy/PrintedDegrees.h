@@ -4,16 +4,17 @@
 
 namespace [[gnu::visibility("hidden")]] velmora {
 
-// What the printed formulas do to angles on their way from the series to the sky; not for other folders.
+// The rounding of the printed formulas between the series and the altitude; not for other folders.
 //
-// The series give degrees by one constant, the sky takes them back to radians by another that is a little
-// smaller. The formulas here have the outcome without the way through degrees. As the loss is so small, its
-// first order is exact and a few figures of the angle itself are enough.
+// The series convert radians to degrees with one constant, the altitude converts degrees to radians with
+// another, which is a little smaller. The functions here compute the same result without converting. The
+// difference is so small that its first-order term is exact in double precision, and an angle that is known
+// to a few digits is enough for it.
 
 inline constexpr double printedRadiansPerDegree = 0.0174532925;
 inline constexpr double printedRadiansPerCircle = 360 * printedRadiansPerDegree;
 
-/// The share of an angle that gets lost, 1.1e-9.
+/// The relative difference between the two constants, 1.1e-9.
 inline constexpr double lostShare = 1 - printedRadiansPerCircle / seriesTwoPi;
 
 /// The arcsine of at most 0.71 to 0.002 radians, of at most 0.5 to 0.0005.
@@ -23,7 +24,7 @@ constexpr Number roughArcsine(const Number& sine) {
   return sine * (1 + square * (1.0 / 6 + square * 0.1));
 }
 
-/// The declination of which z is the sine and rho the cosine, less its lost share.
+/// The declination of which z is the sine and rho the cosine, reduced by that share.
 template <class Number>
 constexpr Angle<Number> declinationAfterDegrees(const Number& z, const Number& rho) {
   const Number lost = lostShare * roughArcsine(z);

@@ -15,6 +15,8 @@ namespace velmora {
 struct EquatorialCoordinates {
   double declination = 0.0;     ///< degrees, −90..90, north positive
   double rightAscension = 0.0;  ///< hours, [0, 24)
+
+  friend bool operator==(const EquatorialCoordinates&, const EquatorialCoordinates&) = default;
 };
 
 /// The astronomy engine: operations without state, callable from any thread.

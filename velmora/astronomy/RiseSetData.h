@@ -28,6 +28,8 @@ struct RiseSetData {
   std::int64_t moonSetMinutesFromMidnight = 0;   ///< −1 for none; above 1440 for a set of the next day
   std::int64_t dayLengthMinutes = 0;  ///< sunset minus sunrise, 1440 standing for no set, 0 for no rise
   Instant date{};                     ///< the day described; set by the caller
+
+  friend bool operator==(const RiseSetData&, const RiseSetData&) = default;
 };
 
 }  // namespace velmora

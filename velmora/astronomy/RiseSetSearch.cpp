@@ -2,7 +2,7 @@
 #include <array>
 #include <cmath>
 
-#include <velmora/astronomy/ClockText.h>
+#include <velmora/astronomy/ClockReading.h>
 #include <velmora/astronomy/HourlyAltitudes.h>
 #include <velmora/astronomy/RiseAndSetCalc.h>
 #include <velmora/platform/time/Calendar.h>

@@ -4,7 +4,7 @@
 
 #include <velmora/astronomy/PrintedDegrees.h>
 #include <velmora/astronomy/RiseAndSetCalc.h>
-#include <velmora/astronomy/TimeScales.h>
+#include <velmora/astronomy/UniversalTime.h>
 
 namespace [[gnu::visibility("hidden")]] velmora {
 namespace {
@@ -30,33 +30,33 @@ ArgumentValue<double> valueAt(const MeanArgument& argument, double centuries) {
   return {turns, angleWithinTurn(seriesTwoPi * turns)};
 }
 
-ArgumentValue<Hours> valueAt(const MeanArgument& argument, const Hours& centuries) {
-  Hours turns;
-  for (std::size_t i = 0; i < Hours::count; ++i) {
+ArgumentValue<FourNumbers> valueAt(const MeanArgument& argument, const FourNumbers& centuries) {
+  FourNumbers turns;
+  for (std::size_t i = 0; i < FourNumbers::count; ++i) {
     turns.set(i, turnsAt(argument, centuries[i]));
   }
-  return {turns, angleWithinTurn<Hours>(seriesTwoPi * turns)};
+  return {turns, angleWithinTurn<FourNumbers>(seriesTwoPi * turns)};
 }
 
-std::array<ArgumentValue<double>, Hours::count> valuesAt(
-    const std::array<MeanArgument, Hours::count>& arguments, double centuries) {
-  Hours turns;
-  for (std::size_t i = 0; i < Hours::count; ++i) turns.set(i, turnsAt(arguments[i], centuries));
+std::array<ArgumentValue<double>, FourNumbers::count> valuesAt(
+    const std::array<MeanArgument, FourNumbers::count>& arguments, double centuries) {
+  FourNumbers turns;
+  for (std::size_t i = 0; i < FourNumbers::count; ++i) turns.set(i, turnsAt(arguments[i], centuries));
   const auto angles = anglesSideBySide(seriesTwoPi * turns);
-  std::array<ArgumentValue<double>, Hours::count> values;
-  for (std::size_t i = 0; i < Hours::count; ++i) values[i] = {turns[i], angles[i]};
+  std::array<ArgumentValue<double>, FourNumbers::count> values;
+  for (std::size_t i = 0; i < FourNumbers::count; ++i) values[i] = {turns[i], angles[i]};
   return values;
 }
 
 Direction<double> moonDirectionAt(double centuries) {
   const auto turns = [&](const MeanArgument& argument) { return turnsAt(argument, centuries); };
   const auto [l, ls, D, F] =
-      anglesSideBySide(seriesTwoPi * Hours::of(turns(moonAnomaly), turns(sunAnomaly), turns(moonElongation),
-                                               turns(moonLatitudeArgument)));
+      anglesSideBySide(seriesTwoPi * FourNumbers::of(turns(moonAnomaly), turns(sunAnomaly),
+                                                     turns(moonElongation), turns(moonLatitudeArgument)));
   return moonDirection(valueAt(moonLongitude, centuries), l, ls, D, F);
 }
 
-Direction<Hours> moonDirectionAt(const Hours& centuries) {
+Direction<FourNumbers> moonDirectionAt(const FourNumbers& centuries) {
   const auto angle = [&](const MeanArgument& argument) { return valueAt(argument, centuries).angle; };
   return moonDirection(valueAt(moonLongitude, centuries), angle(moonAnomaly), angle(sunAnomaly),
                        angle(moonElongation), angle(moonLatitudeArgument));

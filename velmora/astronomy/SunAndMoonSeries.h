@@ -3,7 +3,7 @@
 #include <array>
 
 #include <velmora/astronomy/Angle.h>
-#include <velmora/astronomy/Hours.h>
+#include <velmora/astronomy/FourNumbers.h>
 #include <velmora/astronomy/RiseAndSetCalc.h>
 
 namespace [[gnu::visibility("hidden")]] velmora {
@@ -18,7 +18,7 @@ inline constexpr double radiansPerArcsecond = 1.0 / 206264.8062;
 inline constexpr double cosObliquity = 0.91748;
 inline constexpr double sinObliquity = 0.39778;
 
-/// What a turn of so many radians lacks of a full one.
+/// A full turn less the given angle, in radians.
 constexpr double shortfallOfTurn(double radians) { return 6.283185307179586 - radians; }
 
 /// An argument of a series, in turns: its value at the epoch and its growth.
@@ -35,9 +35,9 @@ inline constexpr MeanArgument moonElongation{0.827361, 1236.853086};
 inline constexpr MeanArgument moonLatitudeArgument{0.259086, 1342.227825};
 
 /// Each the angle of one of four numbers of 0 to 2π radians, computed together.
-inline std::array<Angle<double>, Hours::count> anglesSideBySide(const Hours& radians) {
-  const Angle<Hours> angles = angleWithinTurn(radians);
-  std::array<Angle<double>, Hours::count> each;
+inline std::array<Angle<double>, FourNumbers::count> anglesSideBySide(const FourNumbers& radians) {
+  const Angle<FourNumbers> angles = angleWithinTurn(radians);
+  std::array<Angle<double>, FourNumbers::count> each;
   for (std::size_t i = 0; i < each.size(); ++i) each[i] = {cos(angles)[i], sin(angles)[i]};
   return each;
 }
@@ -49,18 +49,19 @@ struct ArgumentValue {
   Angle<Number> angle;
 };
 
-inline void setHour(ArgumentValue<Hours>& values, std::size_t hour, const ArgumentValue<double>& value) {
+inline void setHour(ArgumentValue<FourNumbers>& values, std::size_t hour,
+                    const ArgumentValue<double>& value) {
   values.turns.set(hour, value.turns);
   values.angle.cosine.set(hour, cos(value.angle));
   values.angle.sine.set(hour, sin(value.angle));
 }
 
 ArgumentValue<double> valueAt(const MeanArgument& argument, double centuries);
-ArgumentValue<Hours> valueAt(const MeanArgument& argument, const Hours& centuries);
+ArgumentValue<FourNumbers> valueAt(const MeanArgument& argument, const FourNumbers& centuries);
 
 /// Those of several arguments at one moment.
-std::array<ArgumentValue<double>, Hours::count> valuesAt(
-    const std::array<MeanArgument, Hours::count>& arguments, double centuries);
+std::array<ArgumentValue<double>, FourNumbers::count> valuesAt(
+    const std::array<MeanArgument, FourNumbers::count>& arguments, double centuries);
 
 /// A direction in the frame of the equator and equinox of date. A unit vector but for the short figures of
 /// the obliquity, which make x and y up to 1e-6 too small.
@@ -69,7 +70,7 @@ struct Direction {
   Number x, y, z;
 };
 
-inline Direction<double> directionOfHour(const Direction<Hours>& directions, std::size_t hour) {
+inline Direction<double> directionOfHour(const Direction<FourNumbers>& directions, std::size_t hour) {
   return {directions.x[hour], directions.y[hour], directions.z[hour]};
 }
 
@@ -118,7 +119,7 @@ constexpr Direction<Number> moonDirection(const ArgumentValue<Number>& longitude
 
 /// The Moon at one moment, or at several: the same to the last bit.
 Direction<double> moonDirectionAt(double centuries);
-Direction<Hours> moonDirectionAt(const Hours& centuries);
+Direction<FourNumbers> moonDirectionAt(const FourNumbers& centuries);
 
 /// The printed half-angle formula, in hours, [0, 24). `rho`: cosine of the declination.
 double rightAscensionHours(const Direction<double>& direction, double rho);

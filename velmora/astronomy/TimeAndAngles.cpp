@@ -1,9 +1,9 @@
 #include <array>
 #include <cmath>
 
-#include <velmora/astronomy/ClockText.h>
+#include <velmora/astronomy/ClockReading.h>
 #include <velmora/astronomy/RiseAndSetCalc.h>
-#include <velmora/astronomy/TimeScales.h>
+#include <velmora/astronomy/UniversalTime.h>
 #include <velmora/astronomy/WholeNumber.h>
 #include <velmora/foundation/SettingsModel.h>
 
@@ -72,7 +72,7 @@ double RiseAndSetCalc::_round(double value, std::int64_t noOfDecimals) {
 }
 
 std::string RiseAndSetCalc::_hrsmin(double hours) {
-  return clockText(hours, SettingsModel::sharedInstance().timeFormat() == 1);
+  return textOfHour(hours, SettingsModel::sharedInstance().timeFormat() == 1);
 }
 
 std::int64_t RiseAndSetCalc::GetDayCountForMonth(std::int64_t month) {

@@ -21,7 +21,7 @@ constexpr const char* shortDateAndTimeFormat = "MMM d',' yyyy  hh:mm a";
 bool DateHelper::IsDateValid(std::optional<Instant> date) {
   if (!date) return false;
   const std::int64_t year = VelmoraCalendar::applicationCalendar().components(*date).year;
-  return year >= kFirstTableYear && year <= kLastTableYear;
+  return year >= firstTableYear && year <= lastTableYear;
 }
 
 bool DateHelper::AreEqual(std::optional<Instant> date1, std::optional<Instant> date2) {

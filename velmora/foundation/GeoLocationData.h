@@ -17,6 +17,8 @@ struct Placemark {
   double longitude = 0.0;  ///< degrees, east positive
   std::string name;
   std::optional<TimeZone> timeZone;
+
+  friend bool operator==(const Placemark&, const Placemark&) = default;
 };
 
 /// One observing place: coordinates, names, and a time zone that is either a named zone (daylight saving
@@ -48,6 +50,9 @@ class GeoLocationData {
   /// `isCustomTimezone` makes a named zone, with `gmtOffset` (seconds) stored in `secondsFromGMT`; everything
   /// else makes a fixed offset, with `gmtOffset` stored in `customSecondsFromGMT`. An identifier that names
   /// no zone stays as the text, without a zone; "n/a" stands where the zone database could not be read.
+  ///
+  /// The service's positions need a zone: a new place with a fixed offset has none, and one that had a zone
+  /// before keeps it for them. To have the offset everywhere, name it as a zone: "GMT+05:30", 0, false.
   void SetLocation(double newLatitude, double newLongitude, std::optional<std::string> locationName,
                    const std::optional<std::string>& timezoneName, std::int64_t gmtOffset,
                    bool isCustomTimezone);
@@ -64,6 +69,8 @@ class GeoLocationData {
   /// from the small hours in which clocks change.
   /// Kept: a fixed offset plays no part; without a named zone it is 0.
   std::int64_t gmtIntervalForDate(Instant date, const Calendar& calendar) const;
+
+  friend bool operator==(const GeoLocationData&, const GeoLocationData&) = default;
 
  private:
   void setNamedZone(const std::string& identifier, std::int64_t gmtOffset);

@@ -12,8 +12,8 @@ namespace {
 using MonthEvents = MoonPhaseCalc::MonthEvents;
 using ImageCalendar = MoonPhaseCalc::ImageCalendar;
 
-constexpr std::int32_t kPictureCount = 56;
-constexpr std::int32_t kLastPicture = kPictureCount - 1;
+constexpr std::int32_t pictureCount = 56;
+constexpr std::int32_t lastPicture = pictureCount - 1;
 
 /// A day and the number of its picture.
 struct PictureDay {
@@ -21,8 +21,8 @@ struct PictureDay {
   std::int32_t picture;
 };
 
-constexpr PictureDay kNoPreviousEvent = {-1, -1};
-constexpr PictureDay kNoNextEvent = {9999, 9999};
+constexpr PictureDay noPreviousEvent = {-1, -1};
+constexpr PictureDay noNextEvent = {9999, 9999};
 
 /// The days whose picture is a fixed point of the month: those of its events, its first and its last. A day
 /// may stand here without a picture.
@@ -59,16 +59,16 @@ std::optional<std::int32_t> pictureOfPhase(std::int64_t phase) {
 /// the picture `to`, or to the end of the lunation where `to` lies lower. Both sums are fused multiply-adds:
 /// a picture may differ by one otherwise.
 std::int32_t pictureOnLine(const PictureDay& from, std::int32_t to, std::int64_t days, std::int64_t day) {
-  const std::int32_t target = from.picture <= to ? to : kLastPicture;
+  const std::int32_t target = from.picture <= to ? to : lastPicture;
   const double slope = static_cast<double>(target - from.picture) / static_cast<double>(days);
   const double origin = std::fma(-static_cast<double>(from.day), slope, static_cast<double>(from.picture));
   const auto picture = static_cast<std::int32_t>(std::fma(static_cast<double>(day), slope, origin));
-  return picture > kLastPicture ? picture % kPictureCount : picture;
+  return picture > lastPicture ? picture % pictureCount : picture;
 }
 
 /// The latest event of the previous month. One of an unknown phase keeps the picture of the event before it.
 PictureDay lastOf(const MonthEvents& events) {
-  PictureDay last = kNoPreviousEvent;
+  PictureDay last = noPreviousEvent;
   for (const auto& event : events) {
     if (event->day > last.day) last = {event->day, pictureOfPhase(event->phase).value_or(last.picture)};
   }
@@ -77,7 +77,7 @@ PictureDay lastOf(const MonthEvents& events) {
 
 /// The earliest event of the next month, likewise.
 PictureDay firstOf(const MonthEvents& events) {
-  PictureDay first = kNoNextEvent;
+  PictureDay first = noNextEvent;
   for (const auto& event : events) {
     if (event->day < first.day) first = {event->day, pictureOfPhase(event->phase).value_or(first.picture)};
   }
@@ -95,7 +95,7 @@ FixedDays daysOfEvents(const MonthEvents& events) {
 
 /// Adds the first of the month, on the line from the previous month's last event to the first of this.
 void addFirstDay(const PictureDay& previous, std::int64_t previousLength, FixedDays& fixed) {
-  if (previous.day != kNoPreviousEvent.day) {
+  if (previous.day != noPreviousEvent.day) {
     const std::int64_t first = fixed.days.front();
     fixed.pictures[1] = pictureOnLine(previous, fixed.picture(first).value_or(0),
                                       (previousLength - previous.day) + first, previousLength + 1);
@@ -105,7 +105,7 @@ void addFirstDay(const PictureDay& previous, std::int64_t previousLength, FixedD
 
 /// Adds the last day of the month, on the line from its last event to the next month's first.
 void addLastDay(const PictureDay& next, std::int64_t length, FixedDays& fixed) {
-  if (next.day != kNoNextEvent.day) {
+  if (next.day != noNextEvent.day) {
     const std::int64_t last = fixed.days.back();
     fixed.pictures[length] = pictureOnLine({last, fixed.picture(last).value_or(0)}, next.picture,
                                            (length + next.day) - last, length);
@@ -122,7 +122,7 @@ void fillBetween(std::int64_t a, std::int64_t b, std::int64_t length, const Fixe
   const std::optional<std::int32_t> knownB = fixed.picture(b);
   if (!knownA && !knownB) return;
   const auto dayB = static_cast<std::int32_t>(b);
-  const std::int32_t pictureA = knownA ? *knownA : *knownB - dayB + (*knownB < dayB ? kLastPicture : 0);
+  const std::int32_t pictureA = knownA ? *knownA : *knownB - dayB + (*knownB < dayB ? lastPicture : 0);
   const std::int32_t pictureB = knownB ? *knownB : *knownA + static_cast<std::int32_t>(length - a);
   calendar[a] = pictureA;
   calendar[b] = pictureB;
@@ -140,8 +140,9 @@ MoonPhaseCalc::ImageCalendar MoonPhaseCalc::GetImageCalendar(const YearTable& ta
   MonthQuery query(date, location, use24HourTimeFormat);
   // Kept: unlike the phase calendar, no neighbouring year is opened for January and December.
   const PictureDay previous =
-      month > kJanuary ? lastOf(query.events(table, year, month - 1)) : kNoPreviousEvent;
-  const PictureDay next = month < kDecember ? firstOf(query.events(table, year, month + 1)) : kNoNextEvent;
+      month > zeroBasedJanuary ? lastOf(query.events(table, year, month - 1)) : noPreviousEvent;
+  const PictureDay next =
+      month < zeroBasedDecember ? firstOf(query.events(table, year, month + 1)) : noNextEvent;
   const std::int64_t length = GetNumberOfDaysInMonth(month, year);
   FixedDays fixed = daysOfEvents(query.events(table, year, month));
   if (fixed.days.empty()) return {};

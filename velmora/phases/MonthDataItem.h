@@ -23,6 +23,8 @@ struct MonthDataItem {
 
   /// The phase's name from the host application's "Localizable" table; none for another phase than 0 to 3.
   std::optional<std::string> phaseString() const;
+
+  friend bool operator==(const MonthDataItem&, const MonthDataItem&) = default;
 };
 
 }  // namespace velmora

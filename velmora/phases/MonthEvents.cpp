@@ -44,14 +44,15 @@ MoonPhaseCalc::MonthEvents MoonPhaseCalc::GetMoonPhaseDataForMonth(
   };
 
   // An event near an edge of its month in UTC may lie in the month beside it in the location's zone.
-  if (monthOfData > kJanuary) process(table, yearOfData, monthOfData - 1);
+  if (monthOfData > zeroBasedJanuary) process(table, yearOfData, monthOfData - 1);
   process(table, yearOfData, monthOfData);
-  if (monthOfData < kDecember) process(table, yearOfData, monthOfData + 1);
-  if (monthOfData == kJanuary && yearOfData > kFirstTableYear) {
-    if (const auto previous = tableOfYear(yearOfData - 1)) process(*previous, yearOfData - 1, kDecember);
+  if (monthOfData < zeroBasedDecember) process(table, yearOfData, monthOfData + 1);
+  if (monthOfData == zeroBasedJanuary && yearOfData > firstTableYear) {
+    if (const auto previous = tableOfYear(yearOfData - 1))
+      process(*previous, yearOfData - 1, zeroBasedDecember);
   }
-  if (monthOfData == kDecember && yearOfData < kLastTableYear) {
-    if (const auto next = tableOfYear(yearOfData + 1)) process(*next, yearOfData + 1, kJanuary);
+  if (monthOfData == zeroBasedDecember && yearOfData < lastTableYear) {
+    if (const auto next = tableOfYear(yearOfData + 1)) process(*next, yearOfData + 1, zeroBasedJanuary);
   }
   return events;
 }

@@ -8,7 +8,7 @@ namespace {
 
 using MonthEvents = MoonPhaseCalc::MonthEvents;
 
-constexpr std::int64_t kNoDay = -1;
+constexpr std::int64_t noDay = -1;
 
 /// A principal phase beside a day.
 /// Kept: where the tables end there is none; it then counts as a full moon on day 0.
@@ -28,16 +28,16 @@ struct EventsAroundMonth {
 
 MonthEvents previousMonthEvents(MonthQuery& query, const YearTable& table, std::int64_t month,
                                 std::int64_t year) {
-  if (month > kJanuary) return query.events(table, year, month - 1);
-  const auto previousTable = month == kJanuary ? tableOfYear(year - 1) : nullptr;
-  return previousTable ? query.events(*previousTable, year - 1, kDecember) : MonthEvents();
+  if (month > zeroBasedJanuary) return query.events(table, year, month - 1);
+  const auto previousTable = month == zeroBasedJanuary ? tableOfYear(year - 1) : nullptr;
+  return previousTable ? query.events(*previousTable, year - 1, zeroBasedDecember) : MonthEvents();
 }
 
 MonthEvents nextMonthEvents(MonthQuery& query, const YearTable& table, std::int64_t month,
                             std::int64_t year) {
-  if (month < kDecember) return query.events(table, year, month + 1);
+  if (month < zeroBasedDecember) return query.events(table, year, month + 1);
   const auto nextTable = tableOfYear(year + 1);
-  return nextTable ? query.events(*nextTable, year + 1, kJanuary) : MonthEvents();
+  return nextTable ? query.events(*nextTable, year + 1, zeroBasedJanuary) : MonthEvents();
 }
 
 /// The latest event before the day; that of the previous month where the month has none.
@@ -61,7 +61,7 @@ EventDay eventAfter(std::int64_t day, const MonthEvents& events, EventDay ofNext
 /// The Moon's age on the first of the month, from the previous month's last new moon.
 /// Kept: without one the rule applies as if it had fallen on day −1.
 std::int64_t ageOnTheFirst(const MonthEvents& previousEvents, std::int64_t previousLength) {
-  std::int64_t newMoonDay = kNoDay;
+  std::int64_t newMoonDay = noDay;
   for (const auto& event : previousEvents) {
     if (event->phase == kNewMoon && event->day > newMoonDay) newMoonDay = event->day;
   }
@@ -121,16 +121,16 @@ MoonPhaseCalc::PhaseCalendar MoonPhaseCalc::GetPhaseCalendar(const YearTable& ta
                                                              std::int64_t year, Instant date,
                                                              const GeoLocationData& location,
                                                              bool use24HourTimeFormat) {
-  constexpr std::int64_t kAfterEveryDay = 32;
+  constexpr std::int64_t afterEveryDay = 32;
   MonthQuery query(date, location, use24HourTimeFormat);
   const MonthEvents previousEvents = previousMonthEvents(query, table, month, year);
   const MonthEvents nextEvents = nextMonthEvents(query, table, month, year);
   const EventsAroundMonth around = {
       .events = query.events(table, year, month),
-      .lastOfPreviousMonth = eventBefore(kAfterEveryDay, previousEvents, EventDay()),
+      .lastOfPreviousMonth = eventBefore(afterEveryDay, previousEvents, EventDay()),
       .firstOfNextMonth = eventAfter(0, nextEvents, EventDay()),
       .length = GetNumberOfDaysInMonth(month, year),
-      .previousLength = GetNumberOfDaysInMonth(month - 1, month == kJanuary ? year - 1 : year)};
+      .previousLength = GetNumberOfDaysInMonth(month - 1, month == zeroBasedJanuary ? year - 1 : year)};
 
   PhaseCalendar calendar;
   std::int64_t age = ageOnTheFirst(previousEvents, around.previousLength);

@@ -17,6 +17,8 @@ struct PhaseItem {
                                      ///< −1 on the day of an unknown code
   float fullFactor = 0.0F;           ///< lit fraction of the disc, 0 new to 1 full
   std::optional<Instant> localDate;  ///< the instant of the day's principal phase
+
+  friend bool operator==(const PhaseItem&, const PhaseItem&) = default;
 };
 
 }  // namespace velmora

@@ -7,13 +7,14 @@
 #include <cstddef>
 #include <string>
 
+#include <velmora/phases/Months.h>
 #include <velmora/phases/Phase.h>
 
 namespace [[gnu::visibility("hidden")]] velmora {
 namespace {
 
-constexpr std::size_t kFieldCount = 3;
-constexpr std::int64_t kLastYear = 9999;
+constexpr std::size_t fieldCount = 3;
+constexpr std::int64_t lastYear = 9999;
 
 std::string withPairsOfBlanksReplaced(std::string_view line) {
   std::string text;
@@ -26,14 +27,14 @@ std::string withPairsOfBlanksReplaced(std::string_view line) {
 }
 
 /// The first three fields; none if there are fewer.
-std::optional<std::array<std::string_view, kFieldCount>> splitAtBlanks(std::string_view text) {
-  std::array<std::string_view, kFieldCount> fields;
-  for (std::size_t i = 0; i < kFieldCount; ++i) {
+std::optional<std::array<std::string_view, fieldCount>> splitAtBlanks(std::string_view text) {
+  std::array<std::string_view, fieldCount> fields;
+  for (std::size_t i = 0; i < fieldCount; ++i) {
     const std::size_t end = text.find(' ');
     fields[i] = text.substr(0, end);
     if (end != text.npos) {
       text.remove_prefix(end + 1);
-    } else if (i + 1 < kFieldCount) {
+    } else if (i + 1 < fieldCount) {
       return std::nullopt;
     }
   }
@@ -60,7 +61,7 @@ std::optional<std::chrono::minutes> timeOfDay(std::string_view text) {
 std::optional<std::chrono::sys_days> dateInMonth(std::string_view dayText, std::int64_t year,
                                                  std::int64_t month) {
   const std::optional<unsigned> day = number(dayText);
-  if (!day || year < 1 || year > kLastYear || month < 1 || month > 12) return std::nullopt;
+  if (!day || year < 1 || year > lastYear || month < 1 || month > monthsOfYear) return std::nullopt;
   const std::chrono::year_month_day date{std::chrono::year(static_cast<int>(year)),
                                          std::chrono::month(static_cast<unsigned>(month)),
                                          std::chrono::day(*day)};

@@ -9,7 +9,7 @@
 namespace velmora {
 namespace {
 
-constexpr std::array<const char*, 8> kPhaseNames = {
+constexpr std::array<const char*, 8> phaseNames = {
     "Full Moon",       "First Quarter",  "Last Quarter",   "New Moon",
     "Waxing Crescent", "Waxing Gibbous", "Waning Gibbous", "Waning Crescent",
 };
@@ -23,7 +23,7 @@ std::vector<std::string> textsOf(const PropertyList::Array& values) {
   return texts;
 }
 
-/// What of a list is no array of texts under a key is left out.
+/// The months of a property list whose value is an array; of an array, its texts.
 YearTable tableOf(const PropertyList::Dictionary& months) {
   YearTable table;
   for (const auto& [month, lines] : months) {
@@ -62,8 +62,8 @@ std::int64_t MoonPhaseCalc::GetNumberOfDaysInMonth(std::int64_t month, std::int6
 
 std::optional<std::string> MoonPhaseCalc::nameForPhase(std::int64_t phase) {
   const auto index = static_cast<std::uint64_t>(phase);
-  if (index >= kPhaseNames.size()) return std::nullopt;
-  return kPhaseNames[static_cast<std::size_t>(index)];
+  if (index >= phaseNames.size()) return std::nullopt;
+  return phaseNames[static_cast<std::size_t>(index)];
 }
 
 }  // namespace velmora

@@ -13,6 +13,8 @@ struct EclipseInfo {
   std::optional<std::string> title;  ///< the localised title; none for an unknown code
   Instant datetime{};                ///< the instant of greatest eclipse, to the minute
   bool isLunarEvent = false;         ///< whether the code contains "LE"
+
+  friend bool operator==(const EclipseInfo&, const EclipseInfo&) = default;
 };
 
 /// The title of a code in the user's language; none for an unknown code.

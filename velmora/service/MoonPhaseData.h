@@ -38,7 +38,7 @@ extern const char kCalenderLocationChangedNotification[];
 /// Give it a place before or together with the first date. For the thread of the user interface only.
 class MoonPhaseData {
  public:
-  /// As the phase calendar answers them.
+  /// As the phase calendar returns them.
   using MonthEvents = MoonPhaseCalc::MonthEvents;
   using PhaseCalendar = MoonPhaseCalc::PhaseCalendar;
   using ImageCalendar = MoonPhaseCalc::ImageCalendar;
@@ -46,8 +46,6 @@ class MoonPhaseData {
   using RiseSetItems = std::map<std::int64_t, std::shared_ptr<RiseSetPhaseItem>>;
   /// A year's principal events by month, 1 to 12, in the order of the table.
   using YearItems = std::map<std::int64_t, std::vector<std::shared_ptr<RiseSetPhaseItem>>>;
-  /// The eclipse catalogue by instant.
-  using Eclipses = EclipseCatalogue;
 
   /// The one instance, made on the first call.
   static MoonPhaseData& sharedInstance();
@@ -161,10 +159,10 @@ class MoonPhaseData {
   /// Kept: day and picture number are the shared instance's, the hemisphere is this one's.
   std::shared_ptr<const Image> phaseImageForCurrentDate() const;
 
-  // Eclipses (Eclipses.cpp)
+  // Eclipses (EclipseQueries.cpp)
 
   /// The catalogue; none until it has been read.
-  const std::shared_ptr<const Eclipses>& eventsData() const { return _eventsData; }
+  const std::shared_ptr<const EclipseCatalogue>& eventsData() const { return _eventsData; }
 
   /// Reads the catalogue afresh; when it cannot be read the old one stays. An unreadable line is logged as
   /// "Invalid entry" and skipped; of two eclipses at one instant the later line stays.
@@ -233,14 +231,16 @@ class MoonPhaseData {
   void localizeDateTimeStringsForRiseSetPhaseItem(RiseSetPhaseItem* item,
                                                   const std::optional<TimeZone>& withTimezone) const;
 
-  // Positions (Positions.cpp)
+  // Positions (PositionQueries.cpp)
 
   /// Where the body stands at the instant, seen from the selected place; none without a date, place or zone.
+  /// A place with a fixed offset alone has no zone; see `GeoLocationData::SetLocation` for what to do about
+  /// it.
   std::optional<PositionData> GetMoonPositionDataForDate(std::optional<Instant> date) const;
   std::optional<PositionData> GetSunPositionDataForDate(std::optional<Instant> date) const;
 
-  /// Where the body stands that many minutes after midnight of the day, by the clock; fractions are cut. For
-  /// the Sun 24 hours or more give none.
+  /// Where the body stands at a time of the day. `withTimeInterval`: minutes after midnight, by the clock;
+  /// fractions are cut. For the Sun 24 hours or more give none.
   /// Kept: for the Moon they count from the following day's midnight, whole days beyond it dropped.
   std::optional<PositionData> GetMoonPositionDataForDate(std::optional<Instant> date,
                                                          double withTimeInterval) const;
@@ -282,7 +282,7 @@ class MoonPhaseData {
   std::optional<Instant> _currentDate;
   std::shared_ptr<GeoLocationData> _currentLocation;
   bool _use24HrTimeFormat = false;
-  std::shared_ptr<const Eclipses> _eventsData;
+  std::shared_ptr<const EclipseCatalogue> _eventsData;
   std::shared_ptr<const ImageCalendar> _currentImageDictionary;
   std::shared_ptr<const PhaseCalendar> _currentPhaseDictionary;
   std::shared_ptr<const RiseSetItems> _currentRiseSetPhaseItemDictionary;

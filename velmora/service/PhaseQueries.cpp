@@ -2,6 +2,7 @@
 #include <limits>
 
 #include <velmora/foundation/TableYears.h>
+#include <velmora/phases/Months.h>
 #include <velmora/phases/Phase.h>
 #include <velmora/platform/time/Clock.h>
 #include <velmora/service/MoonPhaseData.h>
@@ -10,8 +11,6 @@ namespace velmora {
 namespace {
 
 using Item = std::shared_ptr<RiseSetPhaseItem>;
-
-constexpr std::int64_t december = 12;
 
 std::int64_t phaseThatFollows(std::int64_t principalPhase) {
   switch (principalPhase) {
@@ -86,7 +85,7 @@ std::shared_ptr<RiseSetPhaseItem> MoonPhaseData::nextEventSinceTodayWithPhase(st
   const Instant now = Clock::now();
   const YearItems year = GetRiseSetPhaseItemsForYear(_currentYear);
   if (auto next = firstLater(itemsOfMonth(year, _currentMonth), phase, now)) return next;
-  if (_currentMonth < december) return firstLater(itemsOfMonth(year, _currentMonth + 1), phase, now);
+  if (_currentMonth < monthsOfYear) return firstLater(itemsOfMonth(year, _currentMonth + 1), phase, now);
   return firstLater(itemsOfMonth(GetRiseSetPhaseItemsForYear(_currentYear + 1), 1), phase, now);
 }
 
@@ -95,16 +94,16 @@ std::vector<std::shared_ptr<RiseSetPhaseItem>> MoonPhaseData::matchingEventsWith
   std::vector<Item> found;
   if (!from || !to || *from > *to) return found;
   const DateComponents first = _calendar.components(*from), last = _calendar.components(*to);
-  if (first.year > kLastTableYear) return found;
+  if (first.year > lastTableYear) return found;
 
   // A start before the tables keeps its month: July 1995 starts the walk in July 2000.
-  std::int64_t year = std::max(first.year, kFirstTableYear), month = first.month;
-  const std::int64_t endYear = std::min(last.year, kLastTableYear);
-  const std::int64_t endMonth = last.year > kLastTableYear ? december : last.month;
+  std::int64_t year = std::max(first.year, firstTableYear), month = first.month;
+  const std::int64_t endYear = std::min(last.year, lastTableYear);
+  const std::int64_t endMonth = last.year > lastTableYear ? monthsOfYear : last.month;
   for (; year <= endYear; ++year, month = 1) {
     const YearItems items = GetRiseSetPhaseItemsForYear(year);
     if (items.empty()) break;
-    for (const std::int64_t end = year < endYear ? december : endMonth; month <= end; ++month) {
+    for (const std::int64_t end = year < endYear ? monthsOfYear : endMonth; month <= end; ++month) {
       if (!appendMatching(found, itemsOfMonth(items, month), phase, *from, *to)) return found;
     }
   }

@@ -1,5 +1,6 @@
 #include <velmora/astronomy/RiseAndSetCalc.h>
 #include <velmora/foundation/TableYears.h>
+#include <velmora/phases/Months.h>
 #include <velmora/phases/TableLine.h>
 #include <velmora/service/LocalizedClockText.h>
 #include <velmora/service/MoonPhaseData.h>
@@ -9,7 +10,6 @@ namespace velmora {
 namespace {
 
 constexpr int civilTwilight = 0;
-constexpr std::int64_t december = 12;
 
 // A day without an event of its own is described for 03:00.
 constexpr std::int64_t hourOfQuietDays = 3;
@@ -75,9 +75,9 @@ std::shared_ptr<const MoonPhaseData::RiseSetItems> MoonPhaseData::GetRiseSetPhas
 // instant's text is the device's clock, not the place's.
 std::shared_ptr<const MoonPhaseData::RiseSetItems> MoonPhaseData::GetRiseSetPhaseItemsForNextMonth() const {
   if (!_rawDataDictionary) return nullptr;
-  const bool inNextYear = _currentMonth == december;
+  const bool inNextYear = _currentMonth == monthsOfYear;
   const std::int64_t year = inNextYear ? _currentYear + 1 : _currentYear;
-  if (year > kLastTableYear) return nullptr;
+  if (year > lastTableYear) return nullptr;
   const auto table = inNextYear ? getDataForYear(year) : _rawDataDictionary;
   if (!table) return nullptr;
   const std::int64_t zeroBasedMonth = inNextYear ? 0 : _currentMonth;
@@ -99,7 +99,7 @@ MoonPhaseData::YearItems MoonPhaseData::GetRiseSetPhaseItemsForYear(std::int64_t
   const auto table = getDataForYear(year);
   if (!table) return items;
   const Calendar localCalendar(zoneOfPlace());
-  for (std::int64_t month = 1; month <= december; ++month) {
+  for (std::int64_t month = 1; month <= monthsOfYear; ++month) {
     const auto lines = table->find(std::to_string(month));
     if (lines == table->end()) continue;
     for (const std::string& line : lines->second) {

@@ -10,8 +10,8 @@ namespace velmora {
 namespace {
 
 // How far outside the circle the lower edge of the glyphs lies, as shares of the line's height.
-constexpr double kUprightRise = 1 / 1.4;
-constexpr double kFlippedRise = -0.25;
+constexpr double uprightRise = 1 / 1.4;
+constexpr double flippedRise = -0.25;
 
 bool continuesCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0) == 0x80; }
 
@@ -71,7 +71,7 @@ void ArcTextView::drawRect(Canvas& canvas, Rect) {
 void ArcTextView::drawGlyph(Canvas& canvas, std::size_t glyph, double angle) const {
   const Rect fragment = _layoutManager->lineFragmentRect();
   const Rect box = _layoutManager->boundingRectForGlyph(glyph);
-  const double rise = box.height * (_isFlipped ? kFlippedRise : kUprightRise);
+  const double rise = box.height * (_isFlipped ? flippedRise : uprightRise);
   const double direction = _isFlipped ? -1 : 1;
   const Point middle = {bounds().width * 0.5, bounds().height * 0.5};
   const Point place = middle + pointOnArcWithAngle(angle, _arcRadius + rise);

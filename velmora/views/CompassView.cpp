@@ -10,22 +10,22 @@
 namespace velmora {
 namespace {
 
-constexpr double kQuarterTurn = std::numbers::pi / 2;
-constexpr double kFullTurn = std::numbers::pi * 2;
-constexpr double kNorth = 0, kEast = kQuarterTurn, kSouth = 2 * kQuarterTurn, kWest = 3 * kQuarterTurn;
+constexpr double quarterTurn = std::numbers::pi / 2;
+constexpr double fullTurn = std::numbers::pi * 2;
+constexpr double north = 0, east = quarterTurn, south = 2 * quarterTurn, west = 3 * quarterTurn;
 
-constexpr double kLineWidth = 6;
-constexpr float kTickLength = 20;
-constexpr double kLetterSide = 20;
-constexpr Color kLetterColor = Color::withWhite(0.8, 1);
+constexpr double lineWidth = 6;
+constexpr float tickLength = 20;
+constexpr double letterSide = 20;
+constexpr Color letterColor = Color::withWhite(0.8, 1);
 
 }  // namespace
 
 CompassView::CompassView() { setIsUserInteractionEnabled(false); }
 
 std::vector<AccessibilityElement> CompassView::accessibilityElements() {
-  const Point north = transform().apply({1, 0}) - transform().apply({0, 0});
-  const double clockwiseFromTop = std::atan2(north.x, -north.y) / radiansFromDegrees(1);
+  const Point northward = transform().apply({1, 0}) - transform().apply({0, 0});
+  const double clockwiseFromTop = std::atan2(northward.x, -northward.y) / radiansFromDegrees(1);
   return {{.frame = bounds(),
            .label = localizedText("Compass"),
            .value = localizedText("%@ at the top", spokenBearing(-clockwiseFromTop))}};
@@ -55,25 +55,25 @@ void CompassView::addLetters() {
   const auto place = [&](TextLayer& letter, double angle, Point fromTick) {
     letter.setPosition(pointOnCircleWithCenter(center, angle, _radius) + fromTick);
   };
-  place(*_northLabel, kNorth, {12, 6});
-  place(*_eastLabel, kEast, {-4, 20});
-  place(*_southLabel, kSouth, {-16, 6});
-  place(*_westLabel, kWest, {-4, -10});
+  place(*_northLabel, north, {12, 6});
+  place(*_eastLabel, east, {-4, 20});
+  place(*_southLabel, south, {-16, 6});
+  place(*_westLabel, west, {-4, -10});
 }
 
 std::shared_ptr<TextLayer> CompassView::addLetter(const char* letter) {
   auto label = std::make_shared<TextLayer>();
-  label->setAttributedText(AttributedText(letter, {.font = Font::captionFont(), .color = kLetterColor}));
+  label->setAttributedText(AttributedText(letter, {.font = Font::captionFont(), .color = letterColor}));
   label->setContentsScale(Device::current().screenScale);
-  label->setAffineTransform(AffineTransform::rotation(kQuarterTurn));
-  label->setFrame({0, 0, kLetterSide, kLetterSide});
+  label->setAffineTransform(AffineTransform::rotation(quarterTurn));
+  label->setFrame({0, 0, letterSide, letterSide});
   layer().addSublayer(label);
   return label;
 }
 
 void CompassView::addRing() {
   _pathLayer = std::make_shared<ShapeLayer>();
-  _pathLayer->setLineWidth(kLineWidth);
+  _pathLayer->setLineWidth(lineWidth);
   _pathLayer->setStrokeColor(_strokeColor);
   _pathLayer->setFillColor(Color::clear());
   _pathLayer->setFrame(frame());
@@ -83,9 +83,9 @@ void CompassView::addRing() {
 
 Path CompassView::ringAndTicks() const {
   const Point center = {bounds().width * 0.5, bounds().height * 0.5};
-  Path path = Path::arc(center, _radius, 0, kFullTurn, true);
-  for (const double angle : {kNorth, kEast, kSouth, kWest}) {
-    path.moveTo(pointOnCircleWithCenter(center, angle, _radius - kTickLength));
+  Path path = Path::arc(center, _radius, 0, fullTurn, true);
+  for (const double angle : {north, east, south, west}) {
+    path.moveTo(pointOnCircleWithCenter(center, angle, _radius - tickLength));
     path.lineTo(pointOnCircleWithCenter(center, angle, _radius));
   }
   return path;

@@ -10,7 +10,7 @@
 #include <velmora/service/MoonPhaseData.h>
 #include <velmora/views/OncePerProcess.h>
 #include <velmora/views/PhaseDisc.h>
-#include <velmora/views/Today.h>
+#include <velmora/views/TodayInSelectedMonth.h>
 #include <velmora/views/UIControls.h>
 #include <velmora/views/iPhoneCalendarView.h>
 

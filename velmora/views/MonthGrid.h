@@ -50,6 +50,8 @@ struct MonthGrid {
 
   /// The day in the cell; none in a blank one.
   std::optional<std::int64_t> dayInCell(std::int64_t cell) const;
+
+  friend bool operator==(const MonthGrid&, const MonthGrid&) = default;
 };
 
 /// What is drawn for one day of the month view, and where.
@@ -74,6 +76,8 @@ struct MonthDayCell {
 
   /// The bar that marks today, under the number.
   Rect todayBar() const;
+
+  friend bool operator==(const MonthDayCell&, const MonthDayCell&) = default;
 };
 
 }  // namespace velmora

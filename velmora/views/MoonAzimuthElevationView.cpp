@@ -8,15 +8,15 @@
 namespace velmora {
 namespace {
 
-constexpr double kBottom = std::numbers::pi / 2;
-constexpr double kTop = std::numbers::pi * 3 / 2;
+constexpr double bottom = std::numbers::pi / 2;
+constexpr double top = std::numbers::pi * 3 / 2;
 
-constexpr double kArcWidth = 6;
-constexpr double kObjectOutlineWidth = 1;
-constexpr double kObjectRadius = 8;
+constexpr double arcWidth = 6;
+constexpr double objectOutlineWidth = 1;
+constexpr double objectRadius = 8;
 
-constexpr float kFadedBelow = -1;  // degrees of elevation
-constexpr double kFadedOpacity = 0.3;
+constexpr float fadedBelow = -1;  // degrees of elevation
+constexpr double fadedOpacity = 0.3;
 
 void removeLayer(std::shared_ptr<ShapeLayer>& layer) {
   if (layer != nullptr) layer->removeFromSuperlayer();
@@ -61,18 +61,18 @@ void MoonAzimuthElevationView::resetAndUpdateLayer() {
 
 void MoonAzimuthElevationView::addPathLayer() {
   _pathLayer = std::make_shared<ShapeLayer>();
-  _pathLayer->setLineWidth(kArcWidth);
+  _pathLayer->setLineWidth(arcWidth);
   _pathLayer->setStrokeColor(_strokeColor);
   _pathLayer->setFillColor(Color::clear());
   _pathLayer->setFrame(layer().bounds());
-  _pathLayer->setPath(Path::arc(pathCenter(), pathRadius(), kBottom, kTop, true));
+  _pathLayer->setPath(Path::arc(pathCenter(), pathRadius(), bottom, top, true));
   layer().addSublayer(_pathLayer);
   setBackgroundColor(Color::clear());
 }
 
 void MoonAzimuthElevationView::addObjectLayer() {
   _objectLayer = std::make_shared<ShapeLayer>();
-  _objectLayer->setLineWidth(kObjectOutlineWidth);
+  _objectLayer->setLineWidth(objectOutlineWidth);
   _objectLayer->setStrokeColor(_circleFillColor);
   _objectLayer->setFillColor(_circleFillColor);
   layer().addSublayer(_objectLayer);
@@ -81,7 +81,7 @@ void MoonAzimuthElevationView::addObjectLayer() {
 void MoonAzimuthElevationView::setObjectAzimuth(float azimuth, float elevation) {
   _objectAzimuth = azimuth;
   _objectElevation = elevation;
-  if (_objectLayer != nullptr) _objectLayer->setOpacity(elevation >= kFadedBelow ? 1 : kFadedOpacity);
+  if (_objectLayer != nullptr) _objectLayer->setOpacity(elevation >= fadedBelow ? 1 : fadedOpacity);
   updateObjectPosition();
 }
 
@@ -97,8 +97,8 @@ void MoonAzimuthElevationView::updateObjectPosition() {
   const float eastern = _objectElevation + 90;
   const float angle = _objectAzimuth > 180 ? 360 - eastern : eastern;
   const Point place = pointOnCircleWithCenter(_arcCenter, radiansFromDegrees(angle), _arcRadius);
-  _objectLayer->setPath(Path::ellipse(
-      {place.x - kObjectRadius, place.y - kObjectRadius, 2 * kObjectRadius, 2 * kObjectRadius}));
+  _objectLayer->setPath(
+      Path::ellipse({place.x - objectRadius, place.y - objectRadius, 2 * objectRadius, 2 * objectRadius}));
   setNeedsDisplay();
 }
 

@@ -11,7 +11,7 @@
 #include <velmora/platform/time/NumberText.h>
 #include <velmora/service/MoonPhaseData.h>
 #include <velmora/views/SpokenTexts.h>
-#include <velmora/views/Today.h>
+#include <velmora/views/TodayInSelectedMonth.h>
 
 namespace velmora {
 namespace {

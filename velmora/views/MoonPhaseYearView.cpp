@@ -80,7 +80,7 @@ void MoonPhaseYearView::changeSelectedItem(std::shared_ptr<RiseSetPhaseItem> ite
   announce(date);
 }
 
-// A move is told by the month view, which remembers a cell of its own.
+// Moves are handled by the month view, which stores a cell of its own.
 void MoonPhaseYearView::touchesBegan(const Touch& touch) {
   iPhoneCalendarView::touchesBegan(touch);
   clearSelection();

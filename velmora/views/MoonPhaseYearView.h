@@ -26,7 +26,7 @@ namespace velmora {
 /// Source files: MoonPhaseYearView.cpp (selection and touches), YearDrawing.cpp, YearAccessibility.cpp.
 class MoonPhaseYearView : public iPhoneCalendarView {
  public:
-  /// As the service answers them.
+  /// As the service returns them.
   using YearItems = MoonPhaseData::YearItems;
 
   /// The year's principal events by month, 1 to 12; none before they are loaded.

@@ -7,19 +7,19 @@
 namespace velmora {
 namespace {
 
-constexpr double kMargin = 40;
-constexpr double kRingWidth = 1;
-constexpr double kArcWidth = 15;
-constexpr double kArcSpacing = 16;
-constexpr double kLabelDepth = 4;  // of the label's circle inside the arc's
+constexpr double margin = 40;
+constexpr double ringWidth = 1;
+constexpr double arcWidth = 15;
+constexpr double arcSpacing = 16;
+constexpr double labelDepth = 4;  // of the label's circle inside the arc's
 
 // Degrees, clockwise from the positive x axis.
-constexpr double kFirstAngle = 180;
-constexpr double kAngleStep = 20;
-constexpr double kArcAngle = 140;
-constexpr double kFlippedFrom = 180;
+constexpr double firstAngle = 180;
+constexpr double angleStep = 20;
+constexpr double arcAngle = 140;
+constexpr double flippedFrom = 180;
 
-constexpr std::size_t kFirstDay = 21;
+constexpr std::size_t firstDay = 21;
 
 TextAttributes labelAttributes() { return {.font = Font::systemFont(12), .color = Color::withWhite(0.8, 1)}; }
 
@@ -37,26 +37,26 @@ MoonPositionView::MoonPositionView() {
 void MoonPositionView::drawRect(Canvas& canvas, Rect rect) {
   canvas.clearRect(rect);
   const Point center = middleOf(bounds());
-  const double radius = bounds().width * 0.5 - kMargin;
+  const double radius = bounds().width * 0.5 - margin;
   canvas.setStrokeColor(Color::purple());
-  canvas.setLineWidth(kRingWidth);
+  canvas.setLineWidth(ringWidth);
   canvas.strokeEllipse({center.x - radius, center.y - radius, 2 * radius, 2 * radius});
   for (std::size_t i = 0; i < dayCount; ++i) {
-    drawDay(canvas, i, radius - kArcSpacing * static_cast<double>(i));
+    drawDay(canvas, i, radius - arcSpacing * static_cast<double>(i));
   }
 }
 
 void MoonPositionView::drawDay(Canvas& canvas, std::size_t index, double radius) {
-  const double angle = kFirstAngle + kAngleStep * static_cast<double>(index);
-  canvas.setLineWidth(kArcWidth);
+  const double angle = firstAngle + angleStep * static_cast<double>(index);
+  canvas.setLineWidth(arcWidth);
   canvas.stroke(Path::arc(middleOf(bounds()), radius, radiansFromDegrees(angle),
-                          radiansFromDegrees(angle + kArcAngle), true));
+                          radiansFromDegrees(angle + arcAngle), true));
 
   ArcTextView& label = *_textViews[index];
   label.setFrame(frame());
-  label.setAttributedString(AttributedText("Jan " + std::to_string(kFirstDay + index), labelAttributes()));
-  label.setArcRadius(radius - kLabelDepth);
-  label.setArcTheta(angle, angle >= kFlippedFrom);
+  label.setAttributedString(AttributedText("Jan " + std::to_string(firstDay + index), labelAttributes()));
+  label.setArcRadius(radius - labelDepth);
+  label.setArcTheta(angle, angle >= flippedFrom);
 }
 
 }  // namespace velmora

@@ -19,7 +19,7 @@ class MoonRiseSetDayView;
 /// gives the view the height of its intrinsic size and scrolls it to `offsetForDay`.
 class MoonRiseSetMonthView : public View {
  public:
-  /// As the service answers them.
+  /// As the service returns them.
   using RiseSetItems = MoonPhaseData::RiseSetItems;
 
   /// The date that the rows were installed for; none before that.

@@ -30,7 +30,7 @@ class ProcessValues {
 template <class Value>
 class OncePerProcess final : private ProcessValues {
  public:
-  /// The kept value; the first time, and the first time after a reset, the one that `make` answers.
+  /// The kept value; the first time, and the first time after a reset, the one that `make` returns.
   template <class Make>
   Value& get(Make&& make) {
     if (!_value) _value.emplace(std::forward<Make>(make)());

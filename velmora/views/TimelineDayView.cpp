@@ -14,20 +14,20 @@
 namespace velmora {
 namespace {
 
-constexpr int kHours = 24;
-constexpr int kLabelledHours = 4;  // from one label to the next
-constexpr double kRulerShare = 0.25;
-constexpr double kLabelGap = 2;
-constexpr double kLineWidth = 0.5;
-constexpr double kSteps = 24.1;  // of the width, so that the last tick lies inside
-constexpr double kFirstTick = 1;
-constexpr double kLastTickInset = 2;
+constexpr int hoursOfDay = 24;
+constexpr int labelledHours = 4;  // from one label to the next
+constexpr double rulerShare = 0.25;
+constexpr double labelGap = 2;
+constexpr double lineWidth = 0.5;
+constexpr double steps = 24.1;  // of the width, so that the last tick lies inside
+constexpr double firstTick = 1;
+constexpr double lastTickInset = 2;
 
-constexpr double kTabletFontSize = 15;
-constexpr double kTitleFontSize = 12;
-constexpr double kHourFontSize = 11;
-constexpr double kNarrowHourFontSize = 9;
-constexpr double kNarrowScreenWidth = 320;
+constexpr double tabletFontSize = 15;
+constexpr double titleFontSize = 12;
+constexpr double hourFontSize = 11;
+constexpr double narrowHourFontSize = 9;
+constexpr double narrowScreenWidth = 320;
 
 TextAttributes boldCentred(double size) {
   return {.font = Font::boldSystemFont(size),
@@ -36,9 +36,9 @@ TextAttributes boldCentred(double size) {
           .lineBreak = LineBreak::clipping};
 }
 
-double hourFontSize() {
-  if (SettingsModel::isIPad()) return kTabletFontSize;
-  return Device::current().screenWidth <= kNarrowScreenWidth ? kNarrowHourFontSize : kHourFontSize;
+double fontSizeOfHours() {
+  if (SettingsModel::isIPad()) return tabletFontSize;
+  return Device::current().screenWidth <= narrowScreenWidth ? narrowHourFontSize : hourFontSize;
 }
 
 std::string hourPattern(const Locale& locale) {
@@ -52,14 +52,14 @@ std::vector<std::string> hourTexts() {
   formatter.setTimeZone(calendar.timeZone());
   formatter.setDateFormat(hourPattern(formatter.locale()));
   std::vector<std::string> texts;
-  for (int hour = 0; hour <= kHours; hour += kLabelledHours) {
+  for (int hour = 0; hour <= hoursOfDay; hour += labelledHours) {
     texts.push_back(
         formatter.stringFromDate(calendar.date({.year = 2000, .month = 1, .day = 1, .hour = hour})));
   }
   return texts;
 }
 
-bool isLabelled(int mark) { return mark == 1 || mark == kHours || mark % kLabelledHours == 1; }
+bool isLabelled(int mark) { return mark == 1 || mark == hoursOfDay || mark % labelledHours == 1; }
 
 bool isOdd(int mark) { return mark % 2 == 1; }
 
@@ -77,28 +77,27 @@ const std::vector<std::string>& TimelineDayView::timelineLabels() {
 
 const TextAttributes& TimelineDayView::hourTextTextAttributes() {
   static OncePerProcess<TextAttributes> attributes;
-  return attributes.get([] { return boldCentred(hourFontSize()); });
+  return attributes.get([] { return boldCentred(fontSizeOfHours()); });
 }
 
 const TextAttributes& TimelineDayView::headerCenterTitleTextAttributes() {
   static OncePerProcess<TextAttributes> attributes;
-  return attributes.get(
-      [] { return boldCentred(SettingsModel::isIPad() ? kTabletFontSize : kTitleFontSize); });
+  return attributes.get([] { return boldCentred(SettingsModel::isIPad() ? tabletFontSize : titleFontSize); });
 }
 
 void TimelineDayView::drawRect(Canvas& canvas, Rect) {
   const auto width = static_cast<float>(bounds().width), height = static_cast<float>(bounds().height);
-  const double rulerHeight = height * kRulerShare;
+  const double rulerHeight = height * rulerShare;
   const double top = bounds().y + height - rulerHeight;
   const TextLayout firstLabel(AttributedText(timelineLabels().front(), hourTextTextAttributes()));
   drawTitle(canvas);
-  canvas.setLineWidth(kLineWidth);
+  canvas.setLineWidth(lineWidth);
   canvas.setStrokeColor(VelmoraTheme::defaultTheme()->borderColor);
   drawRuler(canvas, {.top = top,
                      .bottom = top + rulerHeight,
                      .height = rulerHeight,
-                     .step = width / kSteps,
-                     .labelTop = top - firstLabel.height() - kLabelGap});
+                     .step = width / steps,
+                     .labelTop = top - firstLabel.height() - labelGap});
 }
 
 // Kept: the title's rectangle is that of the first drawing in the process; later views of another width and
@@ -112,17 +111,17 @@ void TimelineDayView::drawTitle(Canvas& canvas) const {
 }
 
 void TimelineDayView::drawRuler(Canvas& canvas, const Ruler& ruler) const {
-  double x = kFirstTick;
-  for (int mark = 1; mark <= kHours; ++mark) {
+  double x = firstTick;
+  for (int mark = 1; mark <= hoursOfDay; ++mark) {
     if (isLabelled(mark)) drawLabel(canvas, mark, x, ruler.labelTop);
     drawTick(canvas, x, isOdd(mark) ? ruler.top : ruler.top + ruler.height * 0.5, ruler.bottom);
     x += ruler.step;
   }
-  drawTick(canvas, x - kLastTickInset, ruler.top, ruler.bottom);
+  drawTick(canvas, x - lastTickInset, ruler.top, ruler.bottom);
 }
 
 void TimelineDayView::drawLabel(Canvas& canvas, int mark, double x, double top) const {
-  const std::string& text = timelineLabels()[static_cast<std::size_t>(mark / kLabelledHours)];
+  const std::string& text = timelineLabels()[static_cast<std::size_t>(mark / labelledHours)];
   const TextLayout label(AttributedText(text, hourTextTextAttributes()));
   const double left = mark == 1 ? x - 1 : x - label.width() * 0.5 - 1;
   const Rect place = {left, top, label.width(), label.height()};

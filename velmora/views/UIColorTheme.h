@@ -24,6 +24,8 @@ struct UIColorTheme {
   static UIColorTheme pagingSegmentedControlTheme();
   /// For drop-down lists: another border and other backgrounds.
   static UIColorTheme dropDownListControlTheme();
+
+  friend bool operator==(const UIColorTheme&, const UIColorTheme&) = default;
 };
 
 }  // namespace velmora

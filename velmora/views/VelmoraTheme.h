@@ -24,6 +24,8 @@ struct VelmoraTheme {
   static std::shared_ptr<VelmoraTheme> defaultTheme();
   /// What a view without a theme of its own draws with.
   static std::shared_ptr<VelmoraTheme> calendarTheme();
+
+  friend bool operator==(const VelmoraTheme&, const VelmoraTheme&) = default;
 };
 
 }  // namespace velmora

@@ -124,7 +124,6 @@ class iPhoneCalendarView : public View {
 
   /// Whether the finger has left the cell that it came down on.
   bool touchCancelled() const { return _touchCancelled; }
-  void setTouchCancelled(bool isCancelled) { _touchCancelled = isCancelled; }
 
  private:
   MonthGrid gridOfSelectedMonth() const;

@@ -208,5 +208,14 @@ TEST(NotificationCenter, TheDefaultCenterIsOneForTheProcess) {
   EXPECT_EQ(count, 1);
 }
 
+TEST_F(NotificationCenterTest, ANameMayBeAnyText) {
+  const std::string_view name = "moved";
+  int told = 0;
+  const auto subscription = center.subscribe(name, [&] { ++told; });
+  center.post(std::string("moved"));
+  center.post(name);
+  EXPECT_EQ(told, 2);
+}
+
 }  // namespace
 }  // namespace velmora

@@ -34,7 +34,7 @@ TEST(FileReading, AFileAboveTheLimitGivesNone) {
   EXPECT_EQ(readFile(path, 5), "12345");
   EXPECT_EQ(readFile(path, 4), std::nullopt);
   const auto huge = folder.write("huge", "");
-  std::filesystem::resize_file(huge, kMaximumResourceSize + 1);
+  std::filesystem::resize_file(huge, maximumResourceSize + 1);
   EXPECT_EQ(readFile(huge), std::nullopt);
 }
 

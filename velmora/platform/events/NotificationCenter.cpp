@@ -10,15 +10,15 @@ NotificationCenter& NotificationCenter::defaultCenter() {
   return center;
 }
 
-NotificationCenter::Subscription NotificationCenter::subscribe(const std::string& name, Observer observer) {
-  auto& observers = _observers[name];
+NotificationCenter::Subscription NotificationCenter::subscribe(std::string_view name, Observer observer) {
+  auto& observers = _observers[std::string(name)];
   std::erase_if(observers, [](const auto& former) { return former.expired(); });
   auto owned = std::make_shared<const Observer>(std::move(observer));
   observers.push_back(owned);
   return Subscription(std::move(owned));
 }
 
-void NotificationCenter::post(const std::string& name) {
+void NotificationCenter::post(std::string_view name) {
   const auto found = _observers.find(name);
   if (found == _observers.end()) return;
   // A copy: observers may subscribe while they are told. Each is held until its call returns.

@@ -4,6 +4,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -50,14 +51,14 @@ class NotificationCenter {
   NotificationCenter& operator=(const NotificationCenter&) = delete;
 
   /// Tells the observer of every later post of that name, until the subscription ends.
-  Subscription subscribe(const std::string& name, Observer observer);
+  Subscription subscribe(std::string_view name, Observer observer);
 
   /// Tells every observer of that name, in order of subscription, and returns when all have been told.
-  void post(const std::string& name);
+  void post(std::string_view name);
 
  private:
   // The subscriptions own the observers, so an ended one is simply gone.
-  std::map<std::string, std::vector<std::weak_ptr<const Observer>>> _observers;
+  std::map<std::string, std::vector<std::weak_ptr<const Observer>>, std::less<>> _observers;
 };
 
 }  // namespace velmora

@@ -34,6 +34,8 @@ struct EdgeInsets {
   double left = 0;
   double bottom = 0;
   double right = 0;
+
+  friend bool operator==(const EdgeInsets&, const EdgeInsets&) = default;
 };
 
 /// A rectangle: one corner and the way to the opposite one. Width and height may be negative; the area is

@@ -8,7 +8,7 @@
 namespace velmora {
 namespace {
 
-constexpr std::size_t kBytesPerPixel = 4;
+constexpr std::size_t bytesPerPixel = 4;
 
 std::uint64_t nextSerial() {
   static std::atomic<std::uint64_t> last = 0;
@@ -16,12 +16,12 @@ std::uint64_t nextSerial() {
 }
 
 void exchangeLeftAndRight(PixelBytes& pixels, std::size_t width) {
-  const std::size_t rowSize = width * kBytesPerPixel;
+  const std::size_t rowSize = width * bytesPerPixel;
   for (std::size_t row = 0; row < pixels.size(); row += rowSize) {
     for (std::size_t column = 0; column < width / 2; ++column) {
-      std::uint8_t* left = pixels.data() + row + column * kBytesPerPixel;
-      std::uint8_t* right = pixels.data() + row + (width - 1 - column) * kBytesPerPixel;
-      std::swap_ranges(left, left + kBytesPerPixel, right);
+      std::uint8_t* left = pixels.data() + row + column * bytesPerPixel;
+      std::uint8_t* right = pixels.data() + row + (width - 1 - column) * bytesPerPixel;
+      std::swap_ranges(left, left + bytesPerPixel, right);
     }
   }
 }

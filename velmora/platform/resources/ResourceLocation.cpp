@@ -8,13 +8,13 @@ namespace [[gnu::visibility("hidden")]] velmora {
 namespace {
 
 /// Code lies at most this far under its prefix: PREFIX/lib/ARCHITECTURE/APPLICATION.
-constexpr int kMaximumDepthUnderPrefix = 3;
+constexpr int maximumDepthUnderPrefix = 3;
 
 /// The installed folder, or where it would lie beside the library's folder.
 std::filesystem::path installedDirectory(const ResourcePlaces& places) {
   std::filesystem::path expected;
   for (std::filesystem::path directory : codeDirectories()) {
-    for (int depth = 0; depth < kMaximumDepthUnderPrefix; ++depth) {
+    for (int depth = 0; depth < maximumDepthUnderPrefix; ++depth) {
       directory = directory.parent_path();
       const std::filesystem::path candidate = directory / places.installed;
       if (isFolder(candidate)) return candidate;

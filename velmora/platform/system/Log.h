@@ -20,7 +20,7 @@ class Log {
   static Sink setSink(Sink sink);
 };
 
-/// Keeps the messages written while it lives, then puts the former sink back.
+/// Records the messages written while it lives, then restores the former sink.
 class ScopedLogRecord {
  public:
   ScopedLogRecord();
@@ -28,7 +28,7 @@ class ScopedLogRecord {
   ScopedLogRecord(const ScopedLogRecord&) = delete;
   ScopedLogRecord& operator=(const ScopedLogRecord&) = delete;
 
-  /// The messages so far, the first first.
+  /// The messages so far, oldest first.
   const std::vector<std::string>& messages() const { return _messages; }
 
  private:

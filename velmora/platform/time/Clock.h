@@ -9,7 +9,7 @@ namespace velmora {
 /// The one source of "now". A host or a test may replace it, so that "today" can be fixed.
 class Clock {
  public:
-  /// Answers the present instant.
+  /// Returns the present instant.
   using Source = std::function<Instant()>;
 
   /// The present instant.

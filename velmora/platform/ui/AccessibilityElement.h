@@ -59,6 +59,8 @@ struct AccessibilityElement {
   std::string hint{};   ///< what activating it does
   AccessibilityTraits traits = AccessibilityTraits::none;
   std::vector<std::shared_ptr<const AccessibilityCustomAction>> customActions{};
+
+  friend bool operator==(const AccessibilityElement&, const AccessibilityElement&) = default;
 };
 
 }  // namespace velmora

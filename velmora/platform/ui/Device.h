@@ -20,6 +20,8 @@ struct Device {
   /// The device the process draws for, as last set. For the main thread only.
   static const Device& current();
   static void setCurrent(const Device& device);
+
+  friend bool operator==(const Device&, const Device&) = default;
 };
 
 /// Sets the device for as long as it lives, then puts the former one back.

@@ -7,7 +7,7 @@
 namespace [[gnu::visibility("hidden")]] velmora {
 namespace {
 
-constexpr double kRoundingError = 1e-9;
+constexpr double roundingError = 1e-9;
 
 bool isStart(SpanPlaces::Edge edge) { return edge % 2 == 1; }
 
@@ -38,7 +38,7 @@ bool SpanPlaces::wouldTurnASpan(std::size_t joining, std::size_t group, double s
   return std::any_of(_groups[joining].begin(), _groups[joining].end(), [&](Edge edge) {
     if (edge == origin || _members[otherEdge(edge)].group != group) return false;
     const double length = _members[otherEdge(edge)].place - (_members[edge].place + shift);
-    return (isStart(edge) ? length : -length) < -kRoundingError;
+    return (isStart(edge) ? length : -length) < -roundingError;
   });
 }
 

@@ -7,7 +7,8 @@
 
 namespace velmora {
 
-/// A layer that draws one line of text from the top left of its bounds; what is too long hangs out.
+/// A layer that draws one line of text from the top left of its bounds. A line that is too long is not
+/// clipped.
 class TextLayer : public Layer {
  public:
   /// The line of text.

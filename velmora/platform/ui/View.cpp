@@ -10,7 +10,7 @@ namespace velmora {
 namespace {
 
 // A view that is fainter cannot be seen and is not touched.
-constexpr double kLeastTouchableAlpha = 0.01;
+constexpr double leastTouchableAlpha = 0.01;
 
 }  // namespace
 
@@ -161,7 +161,7 @@ void View::drawContent(Canvas& canvas) {
 }
 
 std::shared_ptr<View> View::hitTest(Point point) {
-  const bool isSeen = alpha() >= kLeastTouchableAlpha && transform().inverted();
+  const bool isSeen = alpha() >= leastTouchableAlpha && transform().inverted();
   if (!_isUserInteractionEnabled || !isSeen || !bounds().contains(point)) return nullptr;
   for (auto subview = _subviews.rbegin(); subview != _subviews.rend(); ++subview) {
     if (auto hit = (*subview)->hitTest((*subview)->convertFromSuperview(point))) return hit;

@@ -7,8 +7,8 @@
 namespace velmora {
 namespace {
 
-constexpr std::size_t kMaximumListSize = std::size_t{1} << 20;
-constexpr std::size_t kMaximumContainers = 1024;
+constexpr std::size_t maximumListSize = std::size_t{1} << 20;
+constexpr std::size_t maximumContainers = 1024;
 
 /// Reads a property list as building packs it, in bencoding: a text is its length, a colon and its bytes, an
 /// array is its values between "l" and "e", a dictionary its keys and values between "d" and "e".
@@ -48,7 +48,7 @@ class PackedList {
   }
 
   std::optional<PropertyList> readArray() {
-    if (++_containers > kMaximumContainers) return std::nullopt;
+    if (++_containers > maximumContainers) return std::nullopt;
     PropertyList::Array array;
     while (!take('e')) {
       std::optional<PropertyList> value = readValue();
@@ -59,7 +59,7 @@ class PackedList {
   }
 
   std::optional<PropertyList> readDictionary() {
-    if (++_containers > kMaximumContainers) return std::nullopt;
+    if (++_containers > maximumContainers) return std::nullopt;
     PropertyList::Dictionary dictionary;
     while (!take('e')) {
       std::optional<std::string> key = readText();
@@ -77,7 +77,7 @@ class PackedList {
 }  // namespace
 
 std::optional<PropertyList> PropertyList::fromBytes(std::string_view bytes) {
-  if (bytes.size() > kMaximumListSize) return std::nullopt;
+  if (bytes.size() > maximumListSize) return std::nullopt;
   return PackedList(bytes).whole();
 }
 

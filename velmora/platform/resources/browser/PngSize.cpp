@@ -3,13 +3,14 @@
 namespace velmora {
 namespace {
 
-constexpr std::int64_t kMaximumSide = 4096;
+constexpr std::int64_t maximumSide = 4096;
 
-// Signature, length of the first chunk and its name; width and height follow. (PNG specification, 5.2 and 11.2.2)
-constexpr std::string_view kBeginning("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16);
-constexpr std::size_t kWidthAt = kBeginning.size();
-constexpr std::size_t kHeightAt = kWidthAt + 4;
-constexpr std::size_t kHeadSize = kHeightAt + 4;
+// Signature, length of the first chunk and its name; width and height follow. (PNG specification, 5.2
+// and 11.2.2)
+constexpr std::string_view beginning("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16);
+constexpr std::size_t widthAt = beginning.size();
+constexpr std::size_t heightAt = widthAt + 4;
+constexpr std::size_t headSize = heightAt + 4;
 
 std::int64_t bigEndian(std::string_view bytes) {
   std::int64_t value = 0;
@@ -17,14 +18,14 @@ std::int64_t bigEndian(std::string_view bytes) {
   return value;
 }
 
-bool isSide(std::int64_t pixels) { return pixels >= 1 && pixels <= kMaximumSide; }
+bool isSide(std::int64_t pixels) { return pixels >= 1 && pixels <= maximumSide; }
 
 }  // namespace
 
 std::optional<PixelSize> ImageDecoder::pixelSize(std::string_view encoded) {
-  if (encoded.size() < kHeadSize || !encoded.starts_with(kBeginning)) return std::nullopt;
-  const PixelSize size = {.width = bigEndian(encoded.substr(kWidthAt, 4)),
-                          .height = bigEndian(encoded.substr(kHeightAt, 4))};
+  if (encoded.size() < headSize || !encoded.starts_with(beginning)) return std::nullopt;
+  const PixelSize size = {.width = bigEndian(encoded.substr(widthAt, 4)),
+                          .height = bigEndian(encoded.substr(heightAt, 4))};
   if (!isSide(size.width) || !isSide(size.height)) return std::nullopt;
   return size;
 }

@@ -8,7 +8,7 @@
 namespace [[gnu::visibility("hidden")]] velmora {
 namespace {
 
-constexpr std::size_t kMaximumExpandedSize = std::size_t{4} << 20;
+constexpr std::size_t maximumExpandedSize = std::size_t{4} << 20;
 
 std::size_t occurrences(std::string_view text, std::string_view word) {
   std::size_t count = 0;
@@ -31,11 +31,11 @@ class BinaryList {
     for (std::size_t object = 0; object < _objectCount; ++object) {
       if (!followReferences(object)) return false;
     }
-    return _containers <= kMaximumContainers && _expandedSize <= kMaximumExpandedSize;
+    return _containers <= maximumContainers && _expandedSize <= maximumExpandedSize;
   }
 
  private:
-  static constexpr std::size_t kTrailerSize = 32;
+  static constexpr std::size_t trailerSize = 32;
 
   /// What an object's first bytes say: its kind, and how many bytes, units or references follow them.
   struct Head {
@@ -44,17 +44,17 @@ class BinaryList {
     std::size_t contentOffset;
   };
 
-  static constexpr std::uint8_t kData = 0x4;
-  static constexpr std::uint8_t kText = 0x5;
-  static constexpr std::uint8_t kWideText = 0x6;
-  static constexpr std::uint8_t kFirstContainer = 0xA;
-  static constexpr std::uint8_t kDictionary = 0xD;
+  static constexpr std::uint8_t data = 0x4;
+  static constexpr std::uint8_t textType = 0x5;
+  static constexpr std::uint8_t wideText = 0x6;
+  static constexpr std::uint8_t firstContainer = 0xA;
+  static constexpr std::uint8_t dictionary = 0xD;
 
-  static bool isContainer(const Head& head) { return head.kind >= kFirstContainer; }
+  static bool isContainer(const Head& head) { return head.kind >= firstContainer; }
 
   bool readTrailer() {
-    if (_bytes.size() < kTrailerSize) return false;
-    const std::size_t trailer = _bytes.size() - kTrailerSize;
+    if (_bytes.size() < trailerSize) return false;
+    const std::size_t trailer = _bytes.size() - trailerSize;
     const auto offsetSize = number(trailer + 6, 1);
     const auto referenceSize = number(trailer + 7, 1);
     const auto objectCount = number(trailer + 8, 8);
@@ -87,7 +87,7 @@ class BinaryList {
     const auto marker = static_cast<std::uint8_t>(_bytes[*offset]);
     const auto kind = static_cast<std::uint8_t>(marker >> 4);
     const std::size_t count = marker & 0xFU;
-    if (kind < kData || count < 0xF) return Head{kind, count, *offset + 1};
+    if (kind < data || count < 0xF) return Head{kind, count, *offset + 1};
     return longHead(kind, *offset + 1);
   }
 
@@ -107,7 +107,7 @@ class BinaryList {
     if (!from) return false;
     if (!isContainer(*from)) return true;
     ++_containers;
-    const bool isDictionary = from->kind == kDictionary;
+    const bool isDictionary = from->kind == dictionary;
     const std::size_t references = isDictionary ? 2 * from->count : from->count;
     for (std::size_t i = 0; i < references; ++i) {
       const auto target = number(from->contentOffset + i * _referenceSize, _referenceSize);
@@ -122,13 +122,13 @@ class BinaryList {
     if (!to || (isContainer(*to) && _referenced[target])) return false;
     _referenced[target] = true;
     _expandedSize += 1 + to->count;
-    return _expandedSize <= kMaximumExpandedSize;
+    return _expandedSize <= maximumExpandedSize;
   }
 
   bool isTextWithoutZeros(std::size_t object) const {
     const std::optional<Head> text = head(object);
-    if (!text || (text->kind != kText && text->kind != kWideText)) return false;
-    const std::size_t unitSize = text->kind == kText ? 1 : 2;
+    if (!text || (text->kind != textType && text->kind != wideText)) return false;
+    const std::size_t unitSize = text->kind == textType ? 1 : 2;
     for (std::size_t i = 0; i < text->count; ++i) {
       const auto unit = number(text->contentOffset + i * unitSize, unitSize);
       if (!unit || *unit == 0) return false;
@@ -149,13 +149,13 @@ class BinaryList {
 
 bool isXmlWithinLimits(std::string_view bytes) {
   const bool hasZeros = bytes.find('\0') != bytes.npos;
-  return !hasZeros && occurrences(bytes, "<array") + occurrences(bytes, "<dict") <= kMaximumContainers;
+  return !hasZeros && occurrences(bytes, "<array") + occurrences(bytes, "<dict") <= maximumContainers;
 }
 
 }  // namespace
 
 bool isWithinListLimits(std::string_view bytes) {
-  if (bytes.size() > kMaximumListSize) return false;
+  if (bytes.size() > maximumListSize) return false;
   return bytes.starts_with("bplist") ? BinaryList(bytes).isSmallTree() : isXmlWithinLimits(bytes);
 }
 

@@ -7,8 +7,8 @@
 namespace velmora {
 namespace {
 
-constexpr png_uint_32 kMaximumSide = 4096;
-constexpr unsigned kOpaque = 255;
+constexpr png_uint_32 maximumSide = 4096;
+constexpr unsigned opaque = 255;
 
 /// A picture whose head has been read; freed with the object.
 class PngReader {
@@ -16,7 +16,7 @@ class PngReader {
   explicit PngReader(std::string_view encoded) {
     _image.version = PNG_IMAGE_VERSION;
     _isOpen = png_image_begin_read_from_memory(&_image, encoded.data(), encoded.size()) != 0 &&
-              _image.width <= kMaximumSide && _image.height <= kMaximumSide;
+              _image.width <= maximumSide && _image.height <= maximumSide;
     _image.format = PNG_FORMAT_RGBA;
   }
   ~PngReader() { png_image_free(&_image); }
@@ -41,7 +41,7 @@ void premultiply(PixelBytes& pixels) {
   for (std::size_t pixel = 0; pixel < pixels.size(); pixel += 4) {
     const unsigned alpha = pixels[pixel + 3];
     for (std::size_t colour = pixel; colour < pixel + 3; ++colour) {
-      pixels[colour] = static_cast<std::uint8_t>((pixels[colour] * alpha + kOpaque / 2) / kOpaque);
+      pixels[colour] = static_cast<std::uint8_t>((pixels[colour] * alpha + opaque / 2) / opaque);
     }
   }
 }

@@ -40,7 +40,7 @@ class Descriptor {
 MappedFile::MappedFile(const std::filesystem::path& path) {
   const Descriptor file(path);
   const std::size_t size = file.size();
-  if (size == 0 || size > kMaximumResourceSize) return;
+  if (size == 0 || size > maximumResourceSize) return;
   void* start = ::mmap(nullptr, size, PROT_READ, MAP_PRIVATE, file.number(), 0);
   if (start == MAP_FAILED) return;
   _mapping = std::shared_ptr<const void>(start, [start, size](const void*) { ::munmap(start, size); });

@@ -1,4 +1,4 @@
-#include <velmora/views/Today.h>
+#include <velmora/views/TodayInSelectedMonth.h>
 
 #include <velmora/platform/time/Clock.h>
 #include <velmora/service/MoonPhaseData.h>

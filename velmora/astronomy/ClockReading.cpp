@@ -1,4 +1,4 @@
-#include <velmora/astronomy/ClockText.h>
+#include <velmora/astronomy/ClockReading.h>
 
 #include <cmath>
 #include <cstdint>
@@ -21,7 +21,7 @@ std::string twoDigits(double number) {
   return {static_cast<char>('0' + whole / 10), static_cast<char>('0' + whole % 10)};
 }
 
-std::string clockText(double hours, bool use24Hour) {
+std::string textOfHour(double hours, bool use24Hour) {
   const auto [hour, minute] = clockReading(hours);
   std::string text = twoDigits(!use24Hour && hour > 12 ? hour - 12 : hour);
   text += ':';

@@ -31,7 +31,7 @@ void MoonPhaseData::loadEventsFromFile() {
   const auto path = Bundle::library().pathForResource("Data/events", "txt");
   if (!path) return;
   if (const auto text = readTextFile(*path))
-    _eventsData = std::make_shared<const Eclipses>(readEclipseCatalogue(*text));
+    _eventsData = std::make_shared<const EclipseCatalogue>(readEclipseCatalogue(*text));
 }
 
 std::shared_ptr<const EclipseInfo> MoonPhaseData::eventsOnDate(Instant date, const TimeZone& inTimezone) {

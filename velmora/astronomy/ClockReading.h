@@ -23,6 +23,6 @@ std::string twoDigits(double number);
 
 /// `hours` as "17:05" or "05:05 PM".
 /// Kept: in the 12-hour form the hour after midnight is written 00 and 24:00 is written "12:00 PM".
-std::string clockText(double hours, bool use24Hour);
+std::string textOfHour(double hours, bool use24Hour);
 
 }  // namespace velmora
