@@ -75,8 +75,6 @@ bool isBelowAt(const LocalEclipse& local, ContactName name) {
   });
 }
 
-std::string percentText(double fraction) { return std::to_string(std::lround(100 * fraction)) + "%"; }
-
 /// Which part lies below the horizon; empty for none.
 std::string hiddenText(const LocalEclipse& local) {
   const bool isSolar = local.body == Body::sun;
@@ -86,6 +84,10 @@ std::string hiddenText(const LocalEclipse& local) {
   if (risesDuring) return isSolar ? words("partly before sunrise") : words("partly before moonrise");
   if (setsDuring) return isSolar ? words("partly after sunset") : words("partly after moonset");
   return "";
+}
+
+std::string withHidden(const std::string& text, const std::string& hidden) {
+  return hidden.empty() ? text : words("%1, %2", {text, hidden});
 }
 
 /// "partial 36%": of a partial eclipse of the Sun the covered part of its disc, of the Moon the magnitude.
@@ -117,8 +119,7 @@ void addMoment(TextTable& table, const std::string& what, const almanac::Eclipse
 std::string seenText(const SeenEclipse& seen) {
   if (!seen.isVisible()) return words("not seen from here");
   const LocalEclipse& local = *seen.local;
-  const std::string hidden = hiddenText(local);
-  return sizeText(local) + (hidden.empty() ? "" : ", " + hidden);
+  return withHidden(sizeText(local), hiddenText(local));
 }
 
 std::string momentsText(const LocalEclipse& local, const Query& query) {
@@ -138,9 +139,8 @@ std::string describedInLines(const SeenEclipse& seen, const Query& query) {
   if (!seen.isVisible()) return words("Not seen from here.");
   const LocalEclipse& local = *seen.local;
   const auto clock = [&](Instant at) { return localText(at, query.place.zone, query.use24HourClock); };
-  const std::string hidden = hiddenText(local);
   return words("Seen from here: %1, %2.",
-               {kindWord(seenKind(local)) + (hidden.empty() ? "" : ", " + hidden), sizeSentence(local)}) +
+               {withHidden(kindWord(seenKind(local)), hiddenText(local)), sizeSentence(local)}) +
          "\n" +
          words("From %1 to %2, most at %3.",
                {clock(local.visibleFrom), clock(local.visibleTo), clock(local.best.at)});

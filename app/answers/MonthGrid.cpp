@@ -39,8 +39,9 @@ std::string cellOf(const MoonDay& day, bool hasEclipse, const Query& query) {
 std::string marksText(const std::vector<std::pair<CivilDate, SeenEclipse>>& eclipses, const Query& query) {
   std::string lines;
   for (const auto& [date, eclipse] : eclipses) {
-    lines += std::string(eclipseMark) + " " + dayOfMonthText(date) + "  " + eclipseTitle(eclipse.eclipse) +
-             ", " + clockAt(bestMoment(eclipse), query) + ": " + seenText(eclipse) + "\n";
+    const std::string when = clockAt(bestMoment(eclipse), query);
+    lines += std::string(eclipseMark) + " " + dayOfMonthText(date) + "  " +
+             words("%1, %2", {eclipseTitle(eclipse.eclipse), when}) + ": " + seenText(eclipse) + "\n";
   }
   return lines;
 }

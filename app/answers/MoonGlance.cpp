@@ -47,7 +47,7 @@ Json phaseOfDayJson(const MoonDay& day, const Place& place) {
 }
 
 std::string litText(const almanac::Illumination& light) {
-  return std::to_string(std::lround(100 * light.fraction)) + "%, " + tiltText(light);
+  return words("%1, %2", {percentText(light.fraction), tiltText(light)});
 }
 
 std::string ageText(std::optional<std::int64_t> age) {
@@ -60,7 +60,7 @@ std::string nextText(const std::optional<Instant>& instant, const Query& query) 
 
 std::string eclipseText(const std::optional<SeenEclipse>& eclipse, const Query& query) {
   if (!eclipse) return words("none seen from here");
-  return eclipseTitle(eclipse->eclipse) + ", " + clockAt(bestMoment(*eclipse), query);
+  return words("%1, %2", {eclipseTitle(eclipse->eclipse), clockAt(bestMoment(*eclipse), query)});
 }
 
 bool comesFirst(const std::optional<Instant>& a, const std::optional<Instant>& b) {

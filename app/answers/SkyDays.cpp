@@ -33,7 +33,7 @@ std::string eventTimesText(const SkyDay& day, almanac::Body body, almanac::Event
                            const Query& query) {
   std::string text;
   for (const std::string& time : eventTimes(day, body, kind, query))
-    text += (text.empty() ? "" : ", ") + time;
+    text = text.empty() ? time : words("%1, %2", {text, time});
   return text.empty() ? words("none") : text;
 }
 

@@ -5,6 +5,7 @@
 
 #include <app/answers/SkyDays.h>
 #include <app/text/Errors.h>
+#include <app/text/TextTable.h>
 #include <app/text/ValueTexts.h>
 #include <velmora/astronomy/RiseAndSetCalc.h>
 #include <velmora/platform/resources/Words.h>
@@ -74,6 +75,10 @@ std::string degreesText(double degrees) {
   if (std::isnan(degrees)) return words("none");
   const double tenths = std::round(degrees * 10) / 10;
   return decimalText(tenths == 0 ? 0.0 : tenths, 1) + "°";
+}
+
+std::string percentText(double fraction, std::size_t width) {
+  return words("%1%", {rightAligned(std::lround(100 * fraction), width)});
 }
 
 std::string compassPoint(double azimuth) {

@@ -34,6 +34,10 @@ const std::vector<std::string>& positionColumns();
 /// "12.3°", without the sign of a zero; "none" for what is no number.
 std::string degreesText(double degrees);
 
+/// The fraction in whole percent, as the language writes it, the number taking that many columns at least:
+/// "62%", "62 %".
+std::string percentText(double fraction, std::size_t width = 0);
+
 /// "WSW", of sixteen points.
 std::string compassPoint(double azimuth);
 

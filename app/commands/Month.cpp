@@ -4,6 +4,7 @@
 #include <app/answers/MonthGrid.h>
 #include <app/answers/PhaseYear.h>
 #include <app/answers/Phases.h>
+#include <app/answers/SkyPositions.h>
 #include <app/commands/Commands.h>
 #include <app/text/LocalDate.h>
 #include <app/text/PhaseText.h>
@@ -91,7 +92,7 @@ std::string litText(const MoonDay& day, const Place& place) {
   constexpr std::chrono::hours noon{12};
   const Instant instant = day.event.value_or(instantOn(day.date, noon, place.zone));
   const auto light = almanac::illumination(place.observer(), instant);
-  return light ? rightAligned(std::lround(100 * light->fraction), 3) + "%" : "";
+  return light ? percentText(light->fraction, 3) : "";
 }
 
 std::string listText(const std::vector<MoonDay>& days, const Query& query) {

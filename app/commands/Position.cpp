@@ -35,8 +35,7 @@ std::string hoursText(double hours) {
 std::string minutesOfArcText(double degrees) { return decimalText(degrees * 60, 1) + "′"; }
 
 std::string litText(const almanac::Illumination& light) {
-  const std::string percent = std::to_string(std::lround(100 * light.fraction)) + "%";
-  return percent + ", " + tiltText(light);
+  return words("%1, %2", {percentText(light.fraction), tiltText(light)});
 }
 
 /// To the kilometre, of the Sun to the thousand, as exactly as it is known.

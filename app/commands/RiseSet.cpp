@@ -73,7 +73,7 @@ Columns columnsOf(const Request& request) {
   columns.push_back({words("Sunset"), Body::sun, EventKind::set});
   for (const Column& dusk : dusks(request.twilight)) columns.push_back(dusk);
   if (request.transits) columns.push_back({words("Noon"), Body::sun, EventKind::transit});
-  if (request.twilight != Twilight::all) columns.push_back({words("Day")});
+  if (request.twilight != Twilight::all) columns.push_back({words("Daytime")});
   columns.push_back({words("Moonrise"), Body::moon, EventKind::rise});
   columns.push_back({words("Moonset"), Body::moon, EventKind::set});
   if (request.transits) columns.push_back({words("Transit"), Body::moon, EventKind::transit});

@@ -81,7 +81,8 @@ std::string factsText(const SkyDay& day, const Query& query) {
 std::string presentText(Instant present, const Query& query) {
   const Reading reading = readingAt(std::chrono::floor<std::chrono::minutes>(present), query.place.zone);
   const std::int64_t offset = query.place.zone.secondsFromGMT(present);
-  return localDate(reading.date, DateForm::whole) + ", " + clockText(reading.minutes, query.use24HourClock) +
+  return words("%1, %2",
+               {localDate(reading.date, DateForm::whole), clockText(reading.minutes, query.use24HourClock)}) +
          " (" + TimeZone::fixed(offset).name() + ")\n";
 }
 

@@ -28,8 +28,16 @@ Form formOf(DateForm form) {
   return {};
 }
 
+/// With the digits of the numbers around it, unless the identifier says otherwise.
+Locale withPlainDigits(const Locale& locale) {
+  const std::string& identifier = locale.identifier();
+  const bool isPlainName =
+      identifier.find('@') == std::string::npos && identifier.find("-u-") == std::string::npos;
+  return isPlainName ? Locale(identifier + "@numbers=latn") : locale;
+}
+
 std::string written(CivilDate date, DateForm form) {
-  const Locale locale = localeOfWords();
+  const Locale locale = withPlainDigits(localeOfWords());
   const Form patterns = formOf(form);
   DateFormatter formatter;
   formatter.setLocale(locale);

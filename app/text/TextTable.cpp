@@ -4,6 +4,7 @@
 #include <numeric>
 
 #include <app/text/DisplayWidth.h>
+#include <app/text/WritingDirection.h>
 
 namespace velmora::app {
 namespace {
@@ -15,7 +16,7 @@ std::string lineOf(const TextTable::Row& row, const std::vector<std::size_t>& wi
   std::size_t column = 0, end = 0;
   for (const auto& cell : row) {
     line.append(end - std::min(end, displayWidth(line)), ' ');
-    line += cell.text;
+    line += isolated(cell.text);
     for (std::size_t i = 0; i < cell.span && column < widths.size(); ++i) end += widths[column++] + gap;
   }
   trimEnd(line);

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <regex>
@@ -58,6 +59,67 @@ TEST_P(LanguageTest, NothingIsLeftInEnglish) {
 INSTANTIATE_TEST_SUITE_P(OtherScripts, LanguageTest,
                          ::testing::Values("ru_RU", "ar_EG", "he_IL", "hi_IN", "ja_JP", "ko_KR", "zh_CN",
                                            "zh_TW"));
+
+class DataLanguageTest : public AppTest, public ::testing::WithParamInterface<const char*> {};
+
+/// Without the values that docs/json.md leaves to the locale.
+void eraseLocalTexts(Json& json) {
+  if (json.is_object())
+    for (const char* name : {"phaseName", "title", "time", "timeText"}) json.erase(name);
+  for (Json& part : json)
+    if (part.is_structured()) eraseLocalTexts(part);
+}
+
+std::vector<std::string> inLocale(std::vector<std::string> question, const char* locale, const char* form) {
+  question.insert(question.end(), {"--city", "New York", "--24h", "--locale", locale, form});
+  return question;
+}
+
+TEST_P(DataLanguageTest, JsonIsTheSameButForNamesAndClockTexts) {
+  for (const std::vector<std::string>& question : questions) {
+    if (question[0] == "ics" || question.back() == "--grid") continue;
+    Json english = Json::parse(answer(inLocale(question, "en_US", "--json")));
+    Json other = Json::parse(answer(inLocale(question, GetParam(), "--json")));
+    eraseLocalTexts(english);
+    eraseLocalTexts(other);
+    EXPECT_EQ(english, other) << question[0];
+  }
+}
+
+/// The rows without those of their values that are names.
+std::string withoutNameColumns(const std::string& csv) {
+  std::istringstream lines(csv);
+  std::vector<std::string> headings;
+  std::string kept;
+  for (std::string line; std::getline(lines, line);) {
+    std::istringstream values(line);
+    std::vector<std::string> cells;
+    for (std::string value; std::getline(values, value, ',');) cells.push_back(value);
+    if (headings.empty()) headings = cells;
+    for (std::size_t i = 0; i < cells.size(); ++i)
+      if (headings.at(i) != "phaseName" && headings[i] != "title") kept += cells[i] + ",";
+    kept += "\n";
+  }
+  return kept;
+}
+
+TEST_P(DataLanguageTest, CsvIsTheSameButForNames) {
+  const std::vector<std::vector<std::string>> tables = {
+      {"phases", "--from", "2024-04-01", "--to", "2024-04-30"},
+      {"riseset", "--from", "2024-04-01", "--to", "2024-04-03"},
+      {"track", "--body", "moon"},
+      {"elevation", "10", "--body", "sun"},
+      {"eclipses", "2024"}};
+  for (const std::vector<std::string>& question : tables) {
+    const std::string english = answer(inLocale(question, "en_US", "--csv"));
+    EXPECT_GT(std::count(english.begin(), english.end(), '\n'), 1) << question[0];
+    EXPECT_EQ(withoutNameColumns(english),
+              withoutNameColumns(answer(inLocale(question, GetParam(), "--csv"))));
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(OtherHabits, DataLanguageTest,
+                         ::testing::Values("de_DE", "ar_EG", "hi_IN", "zh_TW", "fa_IR"));
 
 /// The literals that stand as first argument of `words` and `wordsForCount` in a source.
 std::set<std::string> textsIn(const std::string& source) {

@@ -205,7 +205,7 @@ TEST_F(MonthGridTest, TheListStandsBelowIt) {
 
 TEST_F(MonthGridTest, TheWeekBeginsAsInTheLocale) {
   EXPECT_TRUE(grid({"2024-04", "--city", "Berlin", "--locale", "de_DE"})[0].starts_with("Mo "));
-  EXPECT_TRUE(grid({"2024-04", "--city", "Cairo", "--locale", "ar_EG"})[0].starts_with("السبت "));
+  EXPECT_TRUE(grid({"2024-04", "--city", "Cairo", "--locale", "ar_EG"})[0].starts_with("\u2067السبت "));
 }
 
 TEST_F(MonthGridTest, AMonthMayBeginWithTheWeekAndEndWithIt) {

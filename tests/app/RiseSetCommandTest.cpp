@@ -237,7 +237,7 @@ TEST_F(RiseSetCommandTest, HelsinkiAtMidsummer) {
             "60.1695° N, 24.9354° E, Europe/Helsinki\n"
             "Dawn and dusk: civil twilight\n"
             "\n"
-            "Date        Dawn   Sunrise  Sunset  Dusk   Day      Moonrise  Moonset\n"
+            "Date        Dawn   Sunrise  Sunset  Dusk   Daytime  Moonrise  Moonset\n"
             "2024-06-20  02:02  03:54    22:50   00:42  18h 56m  22:25     01:53\n"
             "2024-06-21  02:02  03:54    22:50   00:42  18h 56m  23:56     02:03\n"
             "2024-06-22  02:02  03:54    22:50   00:42  18h 56m  none      02:34\n");
@@ -253,7 +253,7 @@ TEST_F(RiseSetCommandTest, TheThreeTwilightsStandAroundTheDay) {
 TEST_F(RiseSetCommandTest, TransitsHaveColumnsOfTheirOwn) {
   const auto lines =
       linesOf(answer({"riseset", "--city", "Rome", "--date", "2024-03-20", "--transit", "--24h"}));
-  EXPECT_EQ(lines[4], "Date       Dawn  Sunrise Sunset Dusk  Noon  Day     Moonrise Moonset Transit");
+  EXPECT_EQ(lines[4], "Date       Dawn  Sunrise Sunset Dusk  Noon  Daytime Moonrise Moonset Transit");
   EXPECT_NE(lines[5].find(" 12:17 "), std::string::npos) << lines[5];
 }
 

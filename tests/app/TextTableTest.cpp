@@ -26,6 +26,12 @@ TEST(TextTable, WideLettersCountTwice) {
   EXPECT_EQ(table.text(false), "A     B\n満月  x\nabcd  y\n");
 }
 
+TEST(TextTable, WordsWrittenFromRightToLeftLeaveTheColumnsInTheirOrder) {
+  TextTable table({"שעה", "Time"});
+  table.add({"12:00", "צהריים 1"});
+  EXPECT_EQ(table.text(false), "\u2067שעה\u2069    Time\n12:00  \u2067צהריים 1\u2069\n");
+}
+
 TEST(TextTable, ANumberMayStandAtTheRight) {
   EXPECT_EQ(rightAligned(7, 3), "  7");
   EXPECT_EQ(rightAligned(100, 3), "100");
