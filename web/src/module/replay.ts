@@ -2,26 +2,25 @@ import { Operation, OperationReader, OutlineStep } from "./operations";
 import type { Pictures } from "./pictures";
 import { useTextStyle, type Line, type Texts } from "./texts";
 
-type Context = CanvasRenderingContext2D | OffscreenCanvasRenderingContext2D;
-
 /** Where drawing goes: the canvas, or a layer above it that begins at those pixels. */
 interface Target {
-  readonly context: Context;
+  readonly context: CanvasRenderingContext2D;
   readonly x: number;
   readonly y: number;
   readonly alpha: number;
 }
 
-const spareLayers: OffscreenCanvas[] = [];
+const spareLayers: HTMLCanvasElement[] = [];
 
-function layerOf(width: number, height: number): OffscreenCanvas {
-  const layer = spareLayers.pop() ?? new OffscreenCanvas(1, 1);
+/** An element, since browsers smooth the edges of clips on these alone. */
+function layerOf(width: number, height: number): HTMLCanvasElement {
+  const layer = spareLayers.pop() ?? document.createElement("canvas");
   layer.width = Math.max(width, 1);  // which clears it
   layer.height = Math.max(height, 1);
   return layer;
 }
 
-function trace(context: Context, operations: OperationReader): void {
+function trace(context: CanvasRenderingContext2D, operations: OperationReader): void {
   context.beginPath();
   for (let count = operations.next(); count > 0; --count) {
     switch (operations.next() as OutlineStep) {
@@ -47,7 +46,7 @@ class Replay {
   #target: Target;
   readonly #targetsBelow: (Target | undefined)[] = [];  // by open group; undefined for one without a layer
 
-  constructor(context: Context, readonly operations: OperationReader, readonly texts: Texts, readonly pictures: Pictures) {
+  constructor(context: CanvasRenderingContext2D, readonly operations: OperationReader, readonly texts: Texts, readonly pictures: Pictures) {
     this.#target = { context, x: 0, y: 0, alpha: 1 };
     useTextStyle(context);
   }
@@ -203,12 +202,12 @@ class Replay {
     below.context.globalCompositeOperation = "source-over";
     below.context.drawImage(context.canvas, x - below.x, y - below.y);
     below.context.restore();
-    spareLayers.push(context.canvas as OffscreenCanvas);
+    spareLayers.push(context.canvas);
   }
 }
 
 /** Draws what the views have recorded; the context is left as it was. */
-export function replay(context: Context, operations: Float64Array, texts: Texts, pictures: Pictures): void {
+export function replay(context: CanvasRenderingContext2D, operations: Float64Array, texts: Texts, pictures: Pictures): void {
   context.save();
   new Replay(context, new OperationReader(operations), texts, pictures).run();
   context.restore();

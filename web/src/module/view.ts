@@ -4,8 +4,8 @@ import { replay } from "./replay";
 import { svgOf } from "./svg";
 
 /** Draws on a canvas of that size in points, the background below or none. */
-function paint(module: Module, context: CanvasRenderingContext2D | OffscreenCanvasRenderingContext2D, view: number,
-               scale: number, background?: string): void {
+function paint(module: Module, context: CanvasRenderingContext2D, view: number, scale: number,
+               background?: string): void {
   context.setTransform(1, 0, 0, 1, 0, 0);
   context.clearRect(0, 0, context.canvas.width, context.canvas.height);
   context.setTransform(scale, 0, 0, scale, 0, 0);
@@ -123,10 +123,12 @@ export class CanvasView implements HostedView {
 
   async png(scale: number): Promise<Blob> {
     await this.ready();
-    const { width, height } = this.size;
-    const canvas = new OffscreenCanvas(Math.round(width * scale), Math.round(height * scale));
-    paint(this.#module, canvas.getContext("2d")!, this.#number, scale, this.#background);
-    return canvas.convertToBlob({ type: "image/png" });
+    const canvas = document.createElement("canvas");
+    fit(canvas, this.size, scale);
+    const context = canvas.getContext("2d");
+    if (context) paint(this.#module, context, this.#number, scale, this.#background);
+    return new Promise((done, fail) =>
+      canvas.toBlob((blob) => blob ? done(blob) : fail(new Error("the picture is too large for this browser"))));
   }
 
   close(): void {

@@ -25,13 +25,14 @@ mergeInto(LibraryManager.library, {
   $velmoraRootTag: '="en-u-hc-h23"',
 
   // The tag of a locale that the engine has data for. What it does not know, it would take for the locale of
-  // the device.
+  // the device. Arabic of no region is written with its own digits, which not every engine does by itself.
   $velmoraTag__deps: ['$velmoraKeep', '$velmoraLocale', '$velmoraRootTag'],
   $velmoraTag: function(identifier) {
     return velmoraKeep('tag ' + identifier, function() {
       var locale = velmoraLocale(identifier);
       var isKnown = locale && Intl.DateTimeFormat.supportedLocalesOf([locale.baseName]).length > 0;
-      return isKnown ? locale.baseName : velmoraRootTag;
+      if (!isKnown) return velmoraRootTag;
+      return locale.baseName == 'ar' ? 'ar-u-nu-arab' : locale.baseName;
     });
   },
 

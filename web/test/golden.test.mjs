@@ -1,0 +1,124 @@
+// The views in Chromium beside the pictures that the library draws natively. VELMORA_MODULE is the module's folder.
+import assert from "node:assert/strict";
+import { mkdir, readFile, writeFile } from "node:fs/promises";
+import { join } from "node:path";
+import { after, before, describe, test } from "node:test";
+import { fileURLToPath } from "node:url";
+import { serve } from "../static.mjs";
+import { launch } from "./browser.mjs";
+
+const project = fileURLToPath(new URL("../..", import.meta.url));
+const differing = join(project, "build/golden-web");
+
+/**
+ * Both draw the same shapes and texts, but each smooths edges and letters in its own way. A pixel differs where the
+ * 3 by 3 pixels around it differ on the average by more than the tolerance, of 255, in one colour.
+ */
+const tolerance = 48;
+const mostDiffering = 0.001;
+
+const greenwich = { latitude: 51.48, longitude: 0, name: "Somewhere", zone: "Etc/UTC" };
+const cairo = { latitude: 30.044, longitude: 31.236, name: "Cairo", zone: "Africa/Cairo" };
+const tokyo = { latitude: 35.69, longitude: 139.692, name: "Tokyo", zone: "Asia/Tokyo" };
+const honolulu = { latitude: 21.31, longitude: -157.86, name: "Honolulu", zone: "Pacific/Honolulu" };
+const english = { locale: "en-US", clock: 12, weekStart: 0, secondCalendar: "none", theme: "dark", isTablet: false };
+const date = (year, month, day) => ({ year, month, day });
+
+/**
+ * The golden picture and what is drawn. `without` are rectangles that are left out: rings around eclipses by the
+ * calendar's fixed rule, of which the almanac says that they are not seen from there.
+ */
+const scenes = [
+  { name: "month-phone", kind: "month", size: [390, 600], day: date(2024, 6, 20), now: "2024-06-14T12:00Z" },
+  { name: "month-south", kind: "month", size: [390, 600], day: date(2024, 6, 14), now: "2026-02-24T12:00Z",
+    place: { ...greenwich, latitude: -33.9 }, settings: { ...english, weekStart: 1 } },
+  { name: "month-eclipses", kind: "month", size: [390, 600], day: date(2000, 7, 16), now: "2000-07-16T23:00Z",
+    place: honolulu, without: [[320, 58, 60, 56], [0, 512, 60, 56]] },
+  { name: "month-arabic", kind: "month", size: [768, 650], day: date(2026, 2, 14), now: "2026-02-24T12:00Z",
+    settings: { ...english, locale: "ar-EG", secondCalendar: "islamic" }, without: [[440, 355, 120, 120]] },
+  { name: "month-hebrew", kind: "month", size: [768, 650], day: date(2026, 2, 14), now: "2026-02-24T12:00Z",
+    settings: { ...english, locale: "he-IL", secondCalendar: "hebrew" }, without: [[440, 355, 120, 120]] },
+  { name: "year-phone", kind: "year", size: [390, 510], day: date(2026, 5, 31), now: "2026-02-24T12:00Z" },
+  { name: "year-arabic", kind: "year", size: [460, 560], day: date(2026, 5, 31), now: "2026-02-24T12:00Z", place: cairo,
+    settings: { ...english, locale: "ar-EG" } },
+  { name: "year-japanese", kind: "year", size: [390, 510], day: date(2026, 5, 1), now: "2026-02-24T12:00Z", place: tokyo,
+    settings: { ...english, locale: "ja-JP" }, options: { phase: "new" } },
+  { name: "picture-month", kind: "pictures", size: [264, 445], day: date(2024, 6, 14), now: "2024-06-14T12:00Z", },
+  { name: "position-chart", kind: "chart", size: [480, 480], day: date(2024, 6, 14), now: "2024-06-14T12:00Z" },
+];
+
+/** Draws the scene in the page and compares it with the golden picture there. */
+async function compare({ base, scene, golden, tolerance: most }) {
+  Date.now = () => Date.parse(scene.now);
+  const { loadVelmora } = await import(`${base}load.js`);
+  const velmora = await loadVelmora({
+    base, settings: scene.settings, place: scene.place, day: scene.day,
+  });
+  const view = velmora.createView(scene.kind, document.createElement("canvas"), scene.options);
+  view.resize(...scene.size, 1);
+  const pixelsOf = async (blob) => {
+    const bitmap = await createImageBitmap(blob);
+    const context = new OffscreenCanvas(bitmap.width, bitmap.height).getContext("2d");
+    context.drawImage(bitmap, 0, 0);
+    return context.getImageData(0, 0, bitmap.width, bitmap.height);
+  };
+  const blob = await view.png(1);
+  const actual = await pixelsOf(blob), expected = await pixelsOf(await (await fetch(golden)).blob());
+  const { width, height } = expected;
+  const picture = await new Promise((done) => {
+    const reader = new FileReader();
+    reader.onload = () => done(reader.result.split(",")[1]);
+    reader.readAsDataURL(blob);
+  });
+  if (actual.width !== width || actual.height !== height) return { share: 1, picture };
+  const isDiffering = (x, y) => {
+    for (let colour = 0; colour < 3; ++colour) {
+      let sum = 0;
+      for (let down = y - 1; down <= y + 1; ++down) {
+        for (let right = x - 1; right <= x + 1; ++right) {
+          const at = (down * width + right) * 4 + colour;
+          sum += actual.data[at] - expected.data[at];
+        }
+      }
+      if (Math.abs(sum) > 9 * most) return true;
+    }
+    return false;
+  };
+  const isLeftOut = (x, y) => (scene.without ?? []).some(([left, top, across, down]) =>
+    x >= left && x < left + across && y >= top && y < top + down);
+  let count = 0;
+  for (let y = 1; y < height - 1; ++y) {
+    for (let x = 1; x < width - 1; ++x) if (!isLeftOut(x, y) && isDiffering(x, y)) ++count;
+  }
+  return { share: count / (width * height), picture };
+}
+
+describe("Views in Chromium", { skip: process.env.VELMORA_MODULE === undefined && "VELMORA_MODULE names no module" }, () => {
+  let module, goldens, browser;
+  before(async () => {
+    module = await serve(process.env.VELMORA_MODULE);
+    goldens = await serve(join(project, "tests/golden"));
+    browser = await launch(["--disable-web-security"]);
+  });
+  after(async () => {
+    await browser.close();
+    module.close();
+    goldens.close();
+  });
+
+  for (const scene of scenes) {
+    test(`${scene.name} LooksAsDrawnNatively`, async () => {
+      const page = await browser.newPage();
+      await page.goto(`${module.address}icons/sunrise.png`);
+      const { share, picture } = await page.evaluate(compare, {
+        base: module.address, golden: `${goldens.address}${scene.name}.png`, tolerance,
+        scene: { settings: english, place: greenwich, ...scene },
+      });
+      await page.close();
+      await mkdir(differing, { recursive: true });
+      await writeFile(join(differing, `${scene.name}.png`), Buffer.from(picture, "base64"));
+      console.log(`${scene.name}: ${(share * 100).toFixed(3)} %`);
+      assert.ok(share <= mostDiffering, `${(share * 100).toFixed(2)} % of the pixels differ; see build/golden-web`);
+    });
+  }
+});
