@@ -1,18 +1,23 @@
-// Makes the page of its sources and the module: node build.mjs MODULE OUTPUT
-// MODULE is a folder with load.js, velmora.wasm and the files that they read.
+// Makes the page of its sources and the module: node build.mjs MODULE FOLDER [FILE]
+// MODULE holds load.js, velmora.wasm and the files that they read. FOLDER becomes what any static host takes,
+// FILE the same page in one file, which opens from a disk.
 import { build } from "esbuild";
 import { createHash } from "node:crypto";
 import { cp, mkdir, readdir, readFile, rm, writeFile } from "node:fs/promises";
-import { join, relative } from "node:path";
+import { join, relative, resolve } from "node:path";
 import { fileURLToPath } from "node:url";
+import { gzipSync } from "node:zlib";
 
 const here = fileURLToPath(new URL(".", import.meta.url));
 const resources = join(here, "../velmora/resources");
+const zoneinfo = "/usr/share/zoneinfo";
 
-const common = {
-  absWorkingDir: here, bundle: true, minify: true, format: "esm", target: ["es2022"], legalComments: "none",
-  logLevel: "warning",
-};
+function bundled(module, options) {
+  return build({
+    absWorkingDir: here, bundle: true, minify: true, format: "esm", target: ["es2022"], legalComments: "none",
+    logLevel: "warning", alias: { "velmora-module": join(resolve(module), "load.js") }, ...options,
+  });
+}
 
 /** The texts of a property list of strings. */
 async function texts(file) {
@@ -41,7 +46,30 @@ async function writeWords(output) {
   }
 }
 
-export async function filesOf(folder, below = folder) {
+/** "+601000+0245800" in degrees. */
+function degreesOf(text) {
+  const parts = /^([+-])(\d{2,3})(\d{2})(\d{2})?$/.exec(text);
+  const value = Number(parts[2]) + Number(parts[3]) / 60 + Number(parts[4] ?? 0) / 3600;
+  return Number((parts[1] === "-" ? -value : value).toFixed(3));
+}
+
+/** Where the city of each zone lies, by all the zone's names: the place of a first visit. */
+async function zonePlaces() {
+  const places = {};
+  for (const line of (await readFile(join(zoneinfo, "zone.tab"), "utf8")).split("\n")) {
+    const [, where, zone] = line.split("\t");
+    if (line.startsWith("#") || !zone) continue;
+    const [, latitude, longitude] = /^([+-]\d+)([+-]\d+)$/.exec(where);
+    places[zone] = [degreesOf(latitude), degreesOf(longitude), zone.split("/").at(-1).replaceAll("_", " ")];
+  }
+  for (const line of (await readFile(join(zoneinfo, "tzdata.zi"), "utf8")).split("\n")) {
+    const [kind, target, alias] = line.split(" ");
+    if (kind === "L" && places[target] && !places[alias]) places[alias] = places[target];
+  }
+  return places;
+}
+
+async function filesOf(folder, below = folder) {
   const found = [];
   for (const entry of await readdir(below, { withFileTypes: true })) {
     const path = join(below, entry.name);
@@ -51,40 +79,65 @@ export async function filesOf(folder, below = folder) {
   return found.sort();
 }
 
-/** Pictures are many and large: they are kept as they are seen. */
-const isPicture = (file) => file.startsWith("velmora/images/");
-const isLater = (file) => file.startsWith("words/") || file === "velmora/cities.table" || file.startsWith("icons/");
+/** What the first view needs; the rest is kept once the page stands, and the other pictures as they are seen. */
+const isFirst = (file) => !/^(words|icons|velmora\/images)\/|^velmora\/cities/.test(file) || /\/IMG_(0|27)\.png$/.test(file);
+const isLater = (file) => /^(words|icons)\/|^velmora\/cities/.test(file);
 
-async function writeServiceWorker(output) {
+async function writeServiceWorker(module, output) {
   const files = await filesOf(output);
   const version = createHash("sha256");
   for (const file of files) version.update(file).update("\0").update(await readFile(join(output, file)));
-  await build({
-    ...common, entryPoints: ["src/service-worker.ts"], outdir: output,
+  await bundled(module, {
+    entryPoints: ["src/service-worker.ts"], outdir: output,
     define: {
       buildVersion: JSON.stringify(version.digest("hex").slice(0, 16)),
-      firstFiles: JSON.stringify(files.filter((file) => !isPicture(file) && !isLater(file))),
+      firstFiles: JSON.stringify(files.filter(isFirst)),
       laterFiles: JSON.stringify(files.filter(isLater)),
     },
   });
 }
 
-/** The page as a folder that any static host takes. */
 export async function buildFolder(module, output) {
   await rm(output, { recursive: true, force: true });
   await mkdir(output, { recursive: true });
-  await build({ ...common, entryPoints: { page: "src/main.ts" }, outdir: output });
-  await build({ ...common, entryPoints: { page: "src/style/page.css" }, outdir: output });
+  await cp(module, join(output, "velmora"), { recursive: true, filter: (file) => !file.endsWith("load.js") });
+  await bundled(module, { entryPoints: { page: "src/main.ts" }, outdir: output });
+  await bundled(module, { entryPoints: { page: "src/style/page.css" }, outdir: output });
   await writeWords(output);
+  await writeFile(join(output, "zones.json"), JSON.stringify(await zonePlaces()));
   await cp(join(here, "index.html"), join(output, "index.html"));
   await cp(join(here, "manifest.webmanifest"), join(output, "manifest.webmanifest"));
   await cp(join(here, "icons"), join(output, "icons"), { recursive: true });
-  await cp(module, join(output, "velmora"), { recursive: true });
-  await writeServiceWorker(output);
+  await writeServiceWorker(module, output);
+}
+
+const hashOf = (text) => `'sha256-${createHash("sha256").update(text).digest("base64")}'`;
+
+/** The page of the folder in one file. */
+export async function buildFile(module, folder, file) {
+  const { outputFiles: [script] } = await bundled(module, { entryPoints: ["src/single.ts"], write: false });
+  const style = await readFile(join(folder, "page.css"), "utf8");
+  const icon = (await readFile(join(folder, "icons/icon-192.png"))).toString("base64");
+  const policy = `default-src 'none'; script-src ${hashOf(script.text)} 'wasm-unsafe-eval'; style-src ${hashOf(style)}; `
+    + "img-src blob: data:; base-uri 'none'; form-action 'none'";
+  const parts = [];
+  for (const name of (await filesOf(folder)).filter((one) => /^(words|velmora)\/|^zones/.test(one))) {
+    const bytes = gzipSync(await readFile(join(folder, name)), { level: 9 }).toString("base64");
+    parts.push(`<script type="text/plain" id="file:${name}">${bytes}</script>\n`);
+  }
+  const page = (await readFile(join(here, "index.html"), "utf8"))
+    .replace(/(Content-Security-Policy" content=")[^"]*/, (_, begin) => begin + policy)
+    .replace(/<link rel="(manifest|apple-touch-icon|preload)"[^>]*>\n/g, "")
+    .replace(/href="icons\/icon-192\.png"/, `href="data:image/png;base64,${icon}"`)
+    .replace(/<link rel="stylesheet"[^>]*>/, () => `<style>${style}</style>`)
+    .replace(/<script type="module"[^>]*><\/script>\n/, "")
+    .replace("</body>", () => `${parts.join("")}<script type="module">${script.text}</script>\n</body>`);
+  await writeFile(file, page);
 }
 
 if (process.argv[1] === fileURLToPath(import.meta.url)) {
-  const [module, output] = process.argv.slice(2);
-  if (!output) throw new Error("usage: node build.mjs MODULE OUTPUT");
-  await buildFolder(module, output);
+  const [module, folder, file] = process.argv.slice(2);
+  if (!folder) throw new Error("usage: node build.mjs MODULE FOLDER [FILE]");
+  await buildFolder(module, folder);
+  if (file) await buildFile(module, folder, file);
 }

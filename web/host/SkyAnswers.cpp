@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cmath>
+#include <numbers>
 #include <vector>
 
 #include <velmora/almanac/Events.h>
@@ -88,6 +89,19 @@ const char* phaseAt(Instant at, double elongation) {
   return nameOfElongation(elongation);
 }
 
+/// Where the northern pole of the ecliptic lies as seen from the Moon's place in the sky, from straight up,
+/// counterclockwise. The Moon's axis stands 1.5 degrees from it.
+double northOfMoon(const almanac::Position& moon, const almanac::Illumination& lit) {
+  constexpr double radians = std::numbers::pi / 180;
+  constexpr double obliquity = 23.4393 * radians, hour = 15 * radians;
+  const double fromPole = 18 * hour - moon.topocentricRightAscension * hour;
+  const double declination = moon.topocentricDeclination * radians;
+  const double angle = std::atan2(std::sin(obliquity) * std::sin(fromPole),
+                                  std::cos(obliquity) * std::cos(declination) -
+                                      std::sin(obliquity) * std::sin(declination) * std::cos(fromPole));
+  return angle / radians - lit.parallacticAngle;
+}
+
 }  // namespace
 
 double milliseconds(Instant instant) { return std::round(unixSeconds(instant) * 1000); }
@@ -123,6 +137,7 @@ std::optional<std::string> momentInTheSky(Instant at) {
       .with("isWaxing", lit->isWaxing)
       .with("elongation", lit->elongation)
       .with("tilt", lit->tilt)
+      .with("north", northOfMoon(*moon, *lit))
       .with("phase", phaseAt(at, lit->elongation))
       .text();
 }

@@ -11,12 +11,12 @@ export type Change = "moment" | "day" | "all";
 /** What the page gets from outside: the module, and the files that lie beside the page. */
 export interface Surroundings {
   load: LoadVelmora;
-  texts(language: string): Promise<Record<string, string>>;
+  json(file: string): Promise<unknown>;
   file?: (name: string) => Promise<ArrayBuffer>;
   base: string;
 }
 
-const firstPlace: Place = { latitude: 51.4769, longitude: -0.0005, zone: "Europe/London", name: "Greenwich" };
+const greenwich: Place = { latitude: 51.4769, longitude: -0.0005, zone: "Europe/London", name: "Greenwich" };
 const oneMinute = 60_000;
 
 /** The state of the page, and all that changes it. */
@@ -49,7 +49,7 @@ export class App {
 
   /** The moment that is shown, of the selected day. */
   get at(): number {
-    return this.chosenMoment ?? Date.now();
+    return this.chosenMoment ?? Math.floor(Date.now() / oneMinute) * oneMinute;
   }
 
   get followsClock(): boolean {
@@ -70,8 +70,8 @@ export class App {
       return isFault(read) ? undefined : read.place;
     });
     this.choices = kept.choices;
-    this.places = kept.places.length > 0 ? [...kept.places] : [firstPlace];
     const link = this.linkOfAddress();
+    this.places = kept.places.length > 0 || link.place ? [...kept.places] : [await this.firstPlace()];
     if (link.place) this.putFirst(link.place);
     if (link.view) this.view = link.view;
 
@@ -90,6 +90,23 @@ export class App {
     this.makeFormat();
     this.takeMoment(link);
     moon.onDayChange(() => this.dayMoved());
+  }
+
+  /** One of the files that lie with the module. */
+  async file(name: string): Promise<ArrayBuffer> {
+    const { file, base } = this.surroundings;
+    if (file) return file(name);
+    const answer = await fetch(base + name);
+    if (!answer.ok) throw new Error(`${name}: ${answer.status}`);
+    return answer.arrayBuffer();
+  }
+
+  /** The city of the zone that the device's clock is in. */
+  private async firstPlace(): Promise<Place> {
+    const zone = new Intl.DateTimeFormat().resolvedOptions().timeZone;
+    const places = (await this.surroundings.json("zones.json").catch(() => ({}))) as Record<string, [number, number, string]>;
+    const found = places[zone];
+    return found ? { latitude: found[0], longitude: found[1], name: found[2], zone } : greenwich;
   }
 
   onChange(listener: (change: Change) => void): void {
@@ -205,8 +222,8 @@ export class App {
 
   private async loadTexts(): Promise<void> {
     const language = this.language;
-    const texts = language === "en" ? {} : await this.surroundings.texts(language).catch(() => ({}));
-    setTexts(texts);
+    const texts = language === "en" ? {} : await this.surroundings.json(`words/${language}.json`).catch(() => ({}));
+    setTexts(texts as Record<string, string>);
     document.documentElement.lang = this.language;
     document.documentElement.dir = this.isRightToLeft ? "rtl" : "ltr";
   }

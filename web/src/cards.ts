@@ -1,7 +1,7 @@
 import type { App } from "./app";
 import type { Day } from "./days";
 import { h, s } from "./dom";
-import type { Body, DayInTheSky, Moment, PhaseName, SkyEvent, SkyEventKind } from "./velmora";
+import type { Body, DayInTheSky, HorizontalPosition, Moment, PhaseName, SkyEvent, SkyEventKind } from "./velmora";
 import { t, w } from "./words";
 
 export const phaseNames: Record<PhaseName, string> = {
@@ -53,16 +53,14 @@ function eventRow(app: App, body: Body, event: SkyEvent): Row {
   return [w(eventNames[body][event.kind]!), format.time(event.at), note];
 }
 
-function standing(app: App, altitude: number, azimuth: number): string {
-  const { format } = app;
-  const text = altitude >= 0 ? "%1 above the horizon, %2" : "%1 below the horizon, %2";
-  return w(text, format.degrees(Math.abs(altitude)), format.direction(azimuth));
+function standing(app: App, { altitude, azimuth }: HorizontalPosition): Row {
+  return [w("Elevation"), app.format.degrees(altitude), app.format.direction(azimuth)];
 }
 
 export function moonCard(app: App, sky: DayInTheSky, moment: Moment): HTMLElement {
   return card(w("Moon"), [
     ...eventRows(app, sky, "moon"),
-    [app.followsClock ? w("Now") : app.format.time(moment.at), standing(app, moment.moon.altitude, moment.moon.azimuth)],
+    standing(app, moment.moon),
     [w("Distance"), app.format.kilometres(Math.round(moment.moon.distance))],
   ]);
 }
@@ -70,7 +68,7 @@ export function moonCard(app: App, sky: DayInTheSky, moment: Moment): HTMLElemen
 export function sunCard(app: App, sky: DayInTheSky, moment: Moment): HTMLElement {
   return card(w("Sun"), [
     ...eventRows(app, sky, "sun"),
-    [app.followsClock ? w("Now") : app.format.time(moment.at), standing(app, moment.sun.altitude, moment.sun.azimuth)],
+    standing(app, moment.sun),
     [w("Daylight"), app.format.duration(sky.daylight)],
   ]);
 }

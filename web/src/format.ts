@@ -1,6 +1,7 @@
 import { type Day, sameDay } from "./days";
 import { w } from "./words";
 
+const oneMinute = 60_000;
 const utcNoon = (day: Day): number => Date.UTC(day.year, day.month - 1, day.day, 12);
 
 /** Days, clocks and numbers as the language writes them, by the clocks of the place. */
@@ -23,10 +24,10 @@ export class Format {
     return format;
   }
 
-  /** "9:09 PM" */
+  /** "9:09 PM", to the nearest minute. */
   time(at: number): string {
     const options: Intl.DateTimeFormatOptions = { hour: "numeric", minute: "2-digit", hourCycle: this.hourCycle };
-    return this.dates(this.zone, options).format(at);
+    return this.dates(this.zone, options).format(Math.round(at / oneMinute) * oneMinute);
   }
 
   /** "9 PM", "21": for a scale of hours. */

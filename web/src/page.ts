@@ -1,4 +1,5 @@
 import { App, type Change, type Surroundings } from "./app";
+import { h } from "./dom";
 import { Shell, viewTitles } from "./shell";
 import { monthScreen, picturesScreen, riseSetScreen, yearScreen } from "./screens/calendar";
 import { eclipsesScreen } from "./screens/eclipses";
@@ -7,7 +8,6 @@ import type { Screen } from "./screens/screen";
 import { settingsScreen } from "./screens/settings";
 import { skyScreen } from "./screens/sky";
 import { todayScreen } from "./screens/today";
-import { keepOffline } from "./offline";
 import { openShare } from "./share";
 import { t } from "./words";
 
@@ -38,8 +38,14 @@ function faultText(app: App): string {
   return sentences[part as keyof typeof sentences];
 }
 
-/** Builds the page and keeps it to its state. */
-export async function startPage(surroundings: Surroundings): Promise<void> {
+/** Instead of the page. */
+export function sayFailure(error: unknown): void {
+  const text = error instanceof Error ? error.message : String(error);
+  document.body.replaceChildren(h("main", {}, h("p", { role: "alert", class: "failure" }, `Velmora could not start: ${text}`)));
+}
+
+/** Builds the page and keeps it to its state; what it returns offers a new version. */
+export async function startPage(surroundings: Surroundings): Promise<(takeOver: () => void) => void> {
   const app = new App(surroundings);
   await app.start();
   let screen: Screen | undefined;
@@ -102,5 +108,5 @@ export async function startPage(surroundings: Surroundings): Promise<void> {
     if (!document.hidden) app.tick();
   });
   document.documentElement.dataset["ready"] = "true";
-  keepOffline((takeOver) => shell.offer(t("A new version is ready."), t("Use it"), takeOver)).catch(() => undefined);
+  return (takeOver) => shell.offer(t("A new version is ready."), t("Use it"), takeOver);
 }

@@ -241,6 +241,8 @@ export interface Moment {
   readonly elongation: number;
   /** Of the lit limb's middle from straight up as seen from the place, counterclockwise. */
   readonly tilt: number;
+  /** Of the Moon's north from straight up, counterclockwise: that of the ecliptic's pole, at most 1.6° from it. */
+  readonly north: number;
   /** By the elongation; "new" and "full" and the quarters on the civil day of the principal phase alone. */
   readonly phase: PhaseName;
 }

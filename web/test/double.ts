@@ -52,7 +52,7 @@ export const loadVelmora: V.LoadVelmora = async (o) => {
         for (const b of ["sun", "moon"] as const) { const [p, q, r] = [-6e4, 0, 6e4].map((x) => altaz(b, at + x)) as [V.HorizontalPosition, V.HorizontalPosition, V.HorizontalPosition]; if (q.altitude > p.altitude && q.altitude >= r.altitude) events.push({ at, body: b, kind: "transit", ...q }); } }
       return { start, end, sun: "rises or sets", moon: "rises or sets", daylight: 30000, darkness: 30000, events }; },
     moment(at) { const b = (x: V.Body) => ({ ...altaz(x, at), distance: 384000, semidiameter: .26 }); const e = el(at);
-      return { at, sun: b("sun"), moon: b("moon"), fraction: (1 - Math.cos(e * Math.PI / 180)) / 2, isWaxing: e < 180, elongation: e, tilt: 300, phase: phaseOf(e) }; },
+      return { at, sun: b("sun"), moon: b("moon"), fraction: (1 - Math.cos(e * Math.PI / 180)) / 2, isWaxing: e < 180, elongation: e, tilt: 300, north: 20, phase: phaseOf(e) }; },
     track: (b, xs) => xs.map((x) => altaz(b, x)),
     nextPhases(after) { return moon.phases(after, after + synodic); },
     phases(from, to) { const out: V.PhaseEvent[] = []; for (let k = Math.ceil((from - epoch) / synodic * 4); ; ++k) { const at = epoch + k * synodic / 4; if (at >= to) return out; out.push({ at, phase: (["new", "firstQuarter", "full", "lastQuarter"] as const)[((k % 4) + 4) % 4]! }); } },

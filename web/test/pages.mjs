@@ -11,7 +11,7 @@ import { launch } from "./browser.mjs";
 const web = fileURLToPath(new URL("..", import.meta.url));
 
 /** The module's folder: VELMORA_MODULE, else one whose sky is invented and whose views are simple. */
-async function moduleFolder() {
+export async function moduleFolder() {
   if (process.env.VELMORA_MODULE) return process.env.VELMORA_MODULE;
   const folder = await mkdtemp(join(tmpdir(), "velmora-double-"));
   const outfile = join(folder, "load.js");

@@ -71,7 +71,7 @@ export function monthScreen(app: App): Screen {
 
 export function picturesScreen(app: App): Screen {
   return calendarScreen(app, {
-    ...months, kind: "pictures", title: "Pictures", pulls: true, heightOf: (width) => Math.min(width * 1.1, 680),
+    ...months, kind: "pictures", title: "Pictures", pulls: true, heightOf: (width) => Math.min(width * 1.32, 760),
   });
 }
 

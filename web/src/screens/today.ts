@@ -4,15 +4,25 @@ import { addDays } from "../days";
 import { h } from "../dom";
 import { eclipseCard } from "./eclipses";
 import { icon } from "../icons";
+import { type Light, MoonFace } from "../moon-face";
 import { Ruler } from "../ruler";
 import { Stage } from "../stage";
+import type { Moment } from "../velmora";
 import { t, w } from "../words";
 import type { Screen } from "./screen";
+
+/** Turned as it is seen from the place, or with north up; down where the Moon goes through the north. */
+function lightOf(app: App, { fraction, tilt, isWaxing, north }: Moment): Light {
+  if (app.choices.isTilted) return { fraction, tilt, north };
+  const isSouthern = app.place.latitude < 0;
+  return { fraction, tilt: isWaxing !== isSouthern ? 270 : 90, north: isSouthern ? 180 : 0 };
+}
 
 export function todayScreen(app: App): Screen {
   const options = (): object => ({ at: app.at, isTilted: app.choices.isTilted });
   const disc = new Stage(app, "disc", w("Moon"), (width) => width, options());
   const ruler = new Ruler(app);
+  const face = new MoonFace((name) => app.file(name));
   const date = h("h2", { class: "date" });
   const clock = h("p", { class: "clock" });
   const phase = h("p", { class: "phase" });
@@ -27,7 +37,7 @@ export function todayScreen(app: App): Screen {
       click: () => app.selectDay(addDays(app.day, days)) }, icon(name));
   const hero = h("section", { class: "hero" },
     h("div", { class: "date-line" }, step(-1, t("Previous day"), "back"), date, step(1, t("Next day"), "forward")),
-    h("div", { class: "moon" }, glow, disc.root),
+    h("div", { class: "moon" }, glow, disc.root, face.canvas),
     h("div", { class: "hero-texts" }, phase, lit));
   const time = h("section", { class: "time", "aria-label": t("Time of the day") },
     h("div", { class: "time-line" }, clock, now), ruler.root);
@@ -43,6 +53,7 @@ export function todayScreen(app: App): Screen {
     if (!moment || !sky) return;
     phase.textContent = w(phaseNames[moment.phase]);
     lit.textContent = t("%1 lit", app.format.percent(moment.fraction));
+    face.show(lightOf(app, moment));
     glow.style.opacity = String(0.15 + 0.85 * moment.fraction);
     cards.replaceChildren(moonCard(app, sky, moment), sunCard(app, sky, moment), twilightCard(app, sky));
   };
