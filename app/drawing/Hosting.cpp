@@ -2,11 +2,15 @@
 
 #include <algorithm>
 
+#include <app/text/Errors.h>
+
 namespace velmora::app {
 
 std::shared_ptr<VelmoraTheme> themeOf(const Query& query) {
-  const bool isCalendar = query.request.drawing.theme == ThemeChoice::calendarTheme;
-  return isCalendar ? VelmoraTheme::calendarTheme() : VelmoraTheme::defaultTheme();
+  const ThemeChoice theme = query.request.drawing.theme.value_or(ThemeChoice::calendarTheme);
+  if (theme == ThemeChoice::dark || theme == ThemeChoice::light)
+    throw BadInput("theme dark or light is for posters; accepted: calendar or default");
+  return theme == ThemeChoice::calendarTheme ? VelmoraTheme::calendarTheme() : VelmoraTheme::defaultTheme();
 }
 
 std::shared_ptr<View> makeHost(Size size) {

@@ -3,7 +3,9 @@
 #include <map>
 
 #include <app/drawing/CalendarViews.h>
+#include <app/drawing/DarknessDrawing.h>
 #include <app/drawing/Hosting.h>
+#include <app/drawing/NightDrawing.h>
 #include <app/drawing/SkyViews.h>
 #include <velmora/views/MoonCalendarView.h>
 #include <velmora/views/MoonPositionView.h>
@@ -55,6 +57,8 @@ const ViewMaking& makingOf(const DrawableView& view) {
       {"azel", {fixedSize<390, 390>, makeElevationArc}},
       {"chart", {fixedSize<390, 390>, makeView<MoonPositionView>}},
       {"timeline", {timelineSize, makeTimeline}},
+      {"night", {nightSize, makeNight}},
+      {"darkness", {darknessSize, makeDarkness}},
   };
   return makings.at(view.name);
 }

@@ -48,6 +48,12 @@ const std::vector<DrawableView>& allViews() {
        .titleFields = momentFields},
       {.name = "chart", .summary = "a fixed sample: the Moon's ways on five days"},
       {.name = "timeline", .summary = "the hours of a day", .titleFields = dayFields},
+      {.name = "night",
+       .summary = "a poster: Sun and Moon from noon to noon, twilights, moonlight",
+       .options = {"theme", "paper"}},
+      {.name = "darkness",
+       .summary = "a poster: the nights of the year, moonlight on them, the darkest of each month",
+       .options = {"theme", "paper"}},
   };
   return views;
 }

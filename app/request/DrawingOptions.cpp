@@ -30,8 +30,15 @@ double scale(double number) {
 }
 
 ThemeChoice theme(const std::string& text) {
-  return oneOf<ThemeChoice>(
-      text, {{"calendar", ThemeChoice::calendarTheme}, {"default", ThemeChoice::defaultTheme}});
+  return oneOf<ThemeChoice>(text, {{"calendar", ThemeChoice::calendarTheme},
+                                   {"default", ThemeChoice::defaultTheme},
+                                   {"dark", ThemeChoice::dark},
+                                   {"light", ThemeChoice::light}});
+}
+
+Paper paper(const std::string& text) {
+  return oneOf<Paper>(
+      text, {{"A4", Paper::a4}, {"A3", Paper::a3}, {"letter", Paper::letter}, {"24x36", Paper::inches24x36}});
 }
 
 AlternateCalendarType calendar(const std::string& text) {
@@ -102,8 +109,10 @@ std::vector<Option> drawingOptions() {
       {"rtl", "", "from right to left, whatever the language is", "",
        Switch([](R& r) { r.drawing.isRightToLeft = true; })},
       {"tablet", "", "as on a tablet", "", Switch([](R& r) { r.drawing.isTablet = true; })},
-      {"theme", "NAME", "colours: calendar (default) or default", "calendar or default",
-       Text([](R& r, S& v) { r.drawing.theme = theme(v); })},
+      {"theme", "NAME", "colours: calendar (default) or default; of posters dark (default) or light",
+       "calendar or default, of posters dark or light", Text([](R& r, S& v) { r.drawing.theme = theme(v); })},
+      {"paper", "NAME", "sheet of a poster: A4 (default), A3, letter or 24x36 inches",
+       "A4, A3, letter or 24x36", Text([](R& r, S& v) { r.drawing.paper = paper(v); })},
       {"calendar", "NAME", "days of a second calendar in brackets",
        "hebrew, islamic, buddhist, japanese, chinese or indian",
        Text([](R& r, S& v) { r.drawing.calendar = calendar(v); })},
@@ -125,8 +134,8 @@ const std::vector<std::string_view>& pictureOptions() {
 }
 
 const std::vector<std::string_view>& viewOptions() {
-  static const std::vector<std::string_view> names = {"theme",         "calendar", "week-start",
-                                                      "hide-eclipses", "phase",    "heading"};
+  static const std::vector<std::string_view> names = {"theme",         "paper", "calendar", "week-start",
+                                                      "hide-eclipses", "phase", "heading"};
   return names;
 }
 

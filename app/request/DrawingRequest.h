@@ -5,13 +5,14 @@
 #include <string>
 
 #include <velmora/platform/graphics/Geometry.h>
+#include <velmora/posters/Paper.h>
 #include <velmora/views/AlternateCalendarType.h>
 
 namespace velmora::app {
 
 struct DrawableView;
 
-enum class ThemeChoice { calendarTheme, defaultTheme };
+enum class ThemeChoice { calendarTheme, defaultTheme, dark, light };
 
 /// What a request for a picture says of it.
 struct DrawingRequest {
@@ -24,7 +25,8 @@ struct DrawingRequest {
   bool isRightToLeft = false;  ///< whatever the language is
   bool isTablet = false;
 
-  ThemeChoice theme = ThemeChoice::calendarTheme;
+  std::optional<ThemeChoice> theme;  ///< the view's own unless given
+  Paper paper = Paper::a4;           ///< of posters
   AlternateCalendarType calendar = kNoAlternateCalendar;
   std::int64_t weekStartDay = 0;  ///< 0 is Sunday
   bool hidesEclipses = false;

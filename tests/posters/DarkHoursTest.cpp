@@ -73,7 +73,8 @@ TEST(DarkHours, OfAnIntervalAreCutToIt) {
 // By the positions of Sun and Moon at each quarter of an hour of a year, which the events do not come from.
 TEST(DarkHours, AgreeWithThePositions) {
   for (const PosterPlace& place : {testing::helsinki(), testing::tromso(), testing::sydney()}) {
-    const Instant from = noonOf(place.zone, year(2026) / 1 / 1), to = noonOf(place.zone, year(2027) / 1 / 1);
+    const Instant from = nightOf(place.zone, year(2026) / 1 / 1).start,
+                  to = nightOf(place.zone, year(2026) / 12 / 31).end;
     const auto dark = darkHours(almanac::day(place.place, from, to).value());
     std::vector<Instant> moments;
     for (Instant at = from; at < to; at += Seconds(900)) moments.push_back(at);

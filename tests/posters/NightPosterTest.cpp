@@ -27,8 +27,8 @@ bool has(const std::vector<std::string>& texts, const std::string& text) {
 
 std::vector<Daypart> partsOf(const PosterPlace& place, std::chrono::year_month_day date) {
   std::vector<Daypart> parts;
-  for (const DaypartStretch& stretch : daypartStretches(NightSky::of(place, date).value()))
-    parts.push_back(stretch.part);
+  const NightSky night = NightSky::of(place, date).value();
+  for (const DaypartStretch& stretch : daypartStretches(night)) parts.push_back(stretch.part);
   return parts;
 }
 

@@ -2,28 +2,17 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numeric>
+
+#include <velmora/posters/KeyRow.h>
 
 namespace [[gnu::visibility("hidden")]] velmora {
 namespace {
 
 constexpr double leastHeight = 40, heightStep = 10, roomForText = 13;  // degrees
 
-constexpr double keyIndent = 17, leastGap = 9;  // units: of a key's texts, between two keys
-
 /// The rectangle below, of that height and as wide.
 Rect below(Rect above, double gap, double height) {
   return {above.x, above.maxY() + gap, above.width, height};
-}
-
-NightLayout::Key keyIn(Rect room, double unit) {
-  const double swatch = 11 * unit, indent = keyIndent * unit;
-  NightLayout::Key key;
-  key.swatch = {room.x, room.y + 2 * unit, swatch, swatch};
-  key.name = {room.x + indent, room.y, room.width - indent, 15 * unit};
-  key.lines[0] = below(key.name, 3 * unit, 14 * unit);
-  key.lines[1] = below(key.lines[0], 1 * unit, 14 * unit);
-  return key;
 }
 
 }  // namespace
@@ -53,16 +42,15 @@ NightLayout NightLayout::of(Size size, double unit, double highest, const std::a
   layout.heights = {margin, layout.chart.y, axis - 7 * unit, layout.chart.height};
   layout.hours = below(layout.chart, 5 * unit, 14 * unit);
 
-  const double indents = keys * keyIndent * unit, between = keys - 1;
-  const double texts = std::accumulate(wanted.begin(), wanted.end(), 0.0);
-  const double free = width - indents - leastGap * unit * between;
-  layout.keyShare = std::min(1.0, free / texts);
-  const double keyGap = (width - indents - texts * layout.keyShare) / between;
-  double x = margin;
+  const std::vector<double> widths(wanted.begin(), wanted.end());
+  const KeyRow row = KeyRow::of({margin, keysTop, width, 15 * unit}, unit, widths, true);
+  layout.keyShare = row.share;
   for (std::size_t i = 0; i < keys; ++i) {
-    const double keyWidth = keyIndent * unit + wanted[i] * layout.keyShare;
-    layout.legend[i] = keyIn({x, keysTop, keyWidth, keysHeight}, unit);
-    x += keyWidth + keyGap;
+    Key& key = layout.legend[i];
+    key.swatch = row.swatches[i];
+    key.name = row.names[i];
+    key.lines[0] = below(key.name, 3 * unit, 14 * unit);
+    key.lines[1] = below(key.lines[0], 1 * unit, 14 * unit);
   }
   return layout;
 }

@@ -21,8 +21,8 @@ std::string rangeText(const almanac::Interval& interval, const NightSky& night, 
 
 NightLegend::NightLegend(const NightSky& night, const PosterTexts& texts, const Palette& palette)
     : _palette(palette) {
-  constexpr std::array names = {"Day", "Twilight (civil)", "Twilight (nautical)", "Twilight (astronomical)",
-                                "Night"};
+  constexpr std::array names = {"Daytime", "Twilight (civil)", "Twilight (nautical)",
+                                "Twilight (astronomical)", "Night"};
   for (std::size_t i = 0; i < names.size(); ++i)
     _keys[i] = {palette.sky(static_cast<Daypart>(i)), words(names[i]), {}};
   _keys.back() = moonKey(night, texts);

@@ -55,6 +55,11 @@ double highestOf(const NightSky& night) {
 
 }  // namespace
 
+bool NightPoster::isCovered() const {
+  const almanac::Interval night = nightOf(place().zone, _date);
+  return ephemeris::covers(night.start) && ephemeris::covers(night.end);
+}
+
 void NightPoster::compose(Sheet& sheet) const {
   const auto night = NightSky::of(place(), _date);
   if (!night) return;

@@ -14,6 +14,7 @@ class NightPoster final : public Poster {
   NightPoster(PosterPlace place, std::chrono::year_month_day date, PaperTheme theme = PaperTheme::dark)
       : Poster(std::move(place), theme), _date(date) {}
 
+  bool isCovered() const override;
   void compose(Sheet& sheet) const override;
 
  private:

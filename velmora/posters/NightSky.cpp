@@ -34,13 +34,13 @@ bool changesDaypart(const almanac::Event& event) {
 
 }  // namespace
 
-Instant noonOf(const TimeZone& zone, std::chrono::year_month_day date) {
-  return zone.lookup(LocalTime(std::chrono::local_days(date)) + std::chrono::hours(12)).before;
+almanac::Interval nightOf(const TimeZone& zone, std::chrono::year_month_day evening) {
+  const LocalTime noon = LocalTime(std::chrono::local_days(evening)) + std::chrono::hours(12);
+  return {zone.lookup(noon).before, zone.lookup(noon + std::chrono::days(1)).before};
 }
 
 std::optional<NightSky> NightSky::of(const PosterPlace& place, std::chrono::year_month_day date) {
-  const auto nextDate = std::chrono::year_month_day(std::chrono::sys_days(date) + std::chrono::days(1));
-  const Instant start = noonOf(place.zone, date), end = noonOf(place.zone, nextDate);
+  const auto [start, end] = nightOf(place.zone, date);
   const auto events = almanac::day(place.place, start, end);
   const auto moon = almanac::illumination(place.place, start + (end - start) / 2);
   if (!events || !moon) return std::nullopt;

@@ -48,7 +48,7 @@ double moonlight(double litFraction, double moonHeight);
 /// The share of the Moon's colour in the sky under a full Moon overhead.
 inline constexpr double mostMoonlight = 0.55;
 
-/// Noon of the day on the zone's clocks.
-Instant noonOf(const TimeZone& zone, std::chrono::year_month_day date);
+/// From noon of the evening to the next noon on the zone's clocks.
+almanac::Interval nightOf(const TimeZone& zone, std::chrono::year_month_day evening);
 
 }  // namespace velmora

@@ -32,6 +32,9 @@ class Poster : public View {
   /// One element a text, in reading order.
   std::vector<AccessibilityElement> accessibilityElements() override;
 
+  /// Whether the almanac covers all that it shows; a poster is blank otherwise.
+  virtual bool isCovered() const = 0;
+
   /// Draws all of it on the sheet.
   virtual void compose(Sheet& sheet) const = 0;
 

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <velmora/posters/DarknessLayout.h>
+#include <velmora/posters/DarknessYear.h>
+#include <velmora/posters/Sheet.h>
+
+namespace [[gnu::visibility("hidden")]] velmora {
+
+/// The nights of a year as areas and lines.
+void drawCarpet(Sheet& sheet, const DarknessLayout& layout, const DarknessYear& year);
+
+/// The colour of the carpet's moonrises, and of its moonsets.
+Color moonriseColor(const Palette& palette);
+Color moonsetColor(const Palette& palette);
+
+/// The sky under the brightest moonlight that the carpet tells apart.
+Color brightestMoonlight(const Palette& palette);
+
+}  // namespace velmora
