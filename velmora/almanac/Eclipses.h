@@ -13,6 +13,10 @@
 /// a solar eclipse, the Sun's 959.63″ at an astronomical unit, the Earth's shadow by Danjon's rule, for which
 /// the Moon's parallax is enlarged by 1.01. The limb is taken as smooth: the Moon's mountains shift a second
 /// or third contact by seconds.
+///
+/// Instants are UTC, before 1972 UT1; after 2030 they suppose that the Earth keeps turning with UTC, no leap
+/// second inserted. The greatest moments of 1900 to 2100 agree with the Swiss Ephemeris within 1 s (RMS 0.22
+/// s of 913), contacts from a place within 3 s (RMS 0.3 s of 4032), but for grazes, magnitudes within 0.001.
 namespace velmora::almanac {
 
 using ephemeris::Body;

@@ -15,9 +15,10 @@
 
 /// What happens in the sky of a place. Start here: `day`.
 ///
-/// Instants are UTC, before 1972 UT1. Up to 66° of latitude events agree with the Swiss Ephemeris within
-/// 0.4 s (RMS 0.015 s of 58,701), nearer to the poles, where a body passes its altitude at a flat angle, within
-/// 11 s (RMS 0.16 s of 11,834). The air over a real horizon makes minutes.
+/// Instants are UTC, before 1972 UT1; after 2030 they suppose that the Earth keeps turning with UTC, no leap
+/// second inserted. Up to 66° of latitude events agree with the Swiss Ephemeris within 0.21 s (RMS 0.010 s of
+/// 58,701), nearer to the poles, where a body passes its altitude at a flat angle, within 5.2 s (RMS 0.08 s
+/// of 11,834). The air over a real horizon makes minutes.
 namespace velmora::almanac {
 
 using ephemeris::Body;

@@ -4,6 +4,10 @@
 
 #include <velmora/platform/time/Instant.h>
 
+/// Phases and apsides of the Moon, and seasons. Instants are UTC, before 1972 UT1; after 2030 they suppose
+/// that no leap second is inserted. Of 1900 to 2100 phases agree with the Swiss Ephemeris within 1 s (RMS
+/// 0.21 s of 9945), seasons within 4 s (1.1 s of 804), apsides within 2 minutes and 2 km (18 s and 0.5 km of
+/// 5329).
 namespace velmora::almanac {
 
 /// The four that calendars name.
