@@ -67,7 +67,7 @@ bool comesFirst(const std::optional<Instant>& a, const std::optional<Instant>& b
   return a && (!b || *a < *b);
 }
 
-/// The name of the phase, and under it a line a fact.
+/// The name of the phase, and below it one fact per line.
 std::vector<std::string> factLines(const MoonGlance& glance, const Query& query) {
   TextTable::Row newMoon{phaseName(kNewMoon), nextText(glance.newMoon, query)};
   TextTable::Row fullMoon{phaseName(kFullMoon), nextText(glance.fullMoon, query)};

@@ -44,7 +44,7 @@ std::string compassPoint(double azimuth);
 /// "12.3° above the horizon, WSW", as it is seen.
 std::string positionText(const almanac::Position& position);
 
-/// How the Moon's lit side lies for who looks at it: "lit from the lower right", "to the left".
+/// How the Moon's lit side lies for who looks at it: "lit from the lower right".
 std::string tiltText(const almanac::Illumination& light);
 
 }  // namespace velmora::app

@@ -1,18 +1,24 @@
 #include <app/program/Help.h>
 
+#include <cctype>
+
 #include <app/request/Options.h>
 #include <app/text/TextTable.h>
 
 namespace velmora::app {
 namespace {
 
+/// "--date YYYY-MM-DD".
+std::string spelled(const Option& option) {
+  return "--" + std::string(option.name) +
+         (option.valueName.empty() ? "" : " " + std::string(option.valueName));
+}
+
 std::string optionsText(const Command& command) {
   TextTable table({"Options", ""});
   for (const Option& option : allOptions()) {
     if (!command.takes(option.name) || option.name == command.positional) continue;
-    std::string spelling = "  --" + std::string(option.name);
-    if (!option.valueName.empty()) spelling += " " + std::string(option.valueName);
-    table.add({spelling, std::string(option.help)});
+    table.add({"  " + spelled(option), std::string(option.help)});
   }
   return table.text(false);
 }
@@ -20,8 +26,7 @@ std::string optionsText(const Command& command) {
 std::string positionalText(const Command& command) {
   if (command.positional.empty()) return "";
   const Option& option = *findOption(command.positional);
-  const std::string accepted = command.notes ? "" : ", " + std::string(option.accepts);
-  return std::string(option.valueName) + ": " + std::string(option.help) + accepted + "\n\n";
+  return std::string(option.valueName) + ": " + std::string(option.help) + "\n\n";
 }
 
 std::string commandsText() {
@@ -33,14 +38,21 @@ std::string commandsText() {
 
 std::string programText() {
   return "Usage: velmora [COMMAND] [options]\n\nSun and Moon for any place on Earth.\n\n" + commandsText() +
-         "\nvelmora COMMAND --help says what a command takes. Without a command it is " +
+         "\nvelmora COMMAND --help lists the options of a command. Without a command: " +
          std::string(allCommands().front().name) + ".\n\n";
+}
+
+std::string sentence(std::string_view words) {
+  std::string text = std::string(words) + ".";
+  text.front() = static_cast<char>(std::toupper(static_cast<unsigned char>(text.front())));
+  return text;
 }
 
 std::string usageText(const Command& command) {
   std::string line = "Usage: velmora " + std::string(command.name);
   if (!command.positional.empty()) line += " " + std::string(findOption(command.positional)->valueName);
-  return line + " [options]\n\nAnswers " + std::string(command.summary) + ".\n\n" + positionalText(command);
+  for (const auto name : command.required) line += " " + spelled(*findOption(name));
+  return line + " [options]\n\n" + sentence(command.summary) + "\n\n" + positionalText(command);
 }
 
 }  // namespace

@@ -14,6 +14,7 @@ struct Command {
   std::string_view positional = "";       ///< the option whose value stands without a name; empty for none
   std::string (*notes)() = nullptr;       ///< for the help: the positional option's values; none for most
   bool isForBatch = true;                 ///< whether a line of a batch may ask for it
+  std::vector<std::string_view> required = {};  ///< those of the options that must be given
 
   bool takes(std::string_view option) const;
 };

@@ -99,7 +99,7 @@ std::vector<Option> drawingOptions() {
       {"size", "WxH", "of the picture in points (default: the view's)",
        "width x height in points, such as 390x600, of 1 to 16384 pixels a side",
        Text([](R& r, S& v) { r.drawing.size = size(v); })},
-      {"scale", "NUMBER", "pixels a point of a PNG (default: 1)",
+      {"scale", "NUMBER", "pixels per point of a PNG (default: 1)",
        "a number above 0 that leaves at most 16384 pixels a side",
        Number([](R& r, double v) { r.drawing.scale = scale(v); })},
       {"background", "COLOR", acceptedColors, acceptedColors,

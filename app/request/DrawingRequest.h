@@ -19,7 +19,7 @@ struct DrawingRequest {
   const DrawableView* view = nullptr;
   std::optional<std::string> output;      ///< path of the file
   std::optional<Size> size;               ///< of the whole picture, in points
-  double scale = 1;                       ///< pixels a point of a PNG
+  double scale = 1;                       ///< pixels per point of a PNG
   std::optional<std::string> background;  ///< a colour, read where it is drawn
   bool hasTitle = true;
   bool isRightToLeft = false;  ///< whatever the language is

@@ -26,6 +26,23 @@ TEST_F(HelpTest, OfACommandNamesEachOfItsOptionsAndNoOther) {
   }
 }
 
+TEST_F(HelpTest, OfACommandBeginsWithWhatMustBeGiven) {
+  const auto usage = [&](const std::string& command) { return linesOf(answer({command, "--help"})).at(0); };
+  EXPECT_EQ(usage("phases"), "Usage: velmora phases --from YYYY-MM-DD --to YYYY-MM-DD [options]");
+  EXPECT_EQ(usage("ics"), "Usage: velmora ics --from YYYY-MM-DD --to YYYY-MM-DD [options]");
+  EXPECT_EQ(usage("draw"), "Usage: velmora draw VIEW --output FILE [options]");
+  EXPECT_EQ(usage("elevation"), "Usage: velmora elevation DEGREES [options]");
+  EXPECT_EQ(usage("year"), "Usage: velmora year [YYYY] [options]");
+}
+
+TEST_F(HelpTest, OfACommandAsksForNoMoreThanTheCommandDoes) {
+  for (const Command& command : allCommands()) {
+    const bool isComplete = command.required.empty() && command.positional != "degrees";
+    if (command.name == "batch") continue;  // reads its standard input
+    EXPECT_EQ(runProgram({std::string(command.name)}).status == 0, isComplete) << command.name;
+  }
+}
+
 TEST_F(HelpTest, FitsThePage) {
   for (const Command& command : allCommands()) {
     for (const std::string& line : linesOf(answer({std::string(command.name), "--help"})))
