@@ -28,7 +28,8 @@ target_compile_options(velmora_compiler_settings INTERFACE
   -Wall -Wextra -Wpedantic -Wconversion -Wshadow
   # The library calls its own functions, whoever links it.
   $<$<AND:$<CONFIG:Release>,$<STREQUAL:${VELMORA_PLATFORM},native>>:-fno-semantic-interposition>
-  $<$<STREQUAL:${VELMORA_PLATFORM},browser>:-Uunix>  # a name that emscripten takes from the program
+  # Vectors, which every browser since 2023 has; and a name that emscripten takes from the program.
+  $<$<STREQUAL:${VELMORA_PLATFORM},browser>:-msimd128;-Uunix>
   # At -O3 g++ 12 sees copies of impossible lengths where a text is joined to a literal (GCC bug 105651).
   $<$<AND:$<CONFIG:Release>,$<CXX_COMPILER_ID:GNU>,$<VERSION_LESS:$<CXX_COMPILER_VERSION>,13>>:-Wno-restrict>)
 if(VELMORA_WARNINGS_AS_ERRORS)

@@ -61,8 +61,8 @@ class Circumstances {
         std::sqrt(std::max(0.0, -gapAt(_maximum).value) / _discsAt(_maximum).separation.squaredSpeed);
     const double first = contact(gapAt, _maximum, _maximum - longestHalf, _maximum - half);
     const double last = contact(gapAt, _maximum, _maximum + longestHalf, _maximum + half);
-    _local.contacts.push_back({before, _sky.moment(first)});
-    _local.contacts.push_back({after, _sky.moment(last)});
+    const auto middle = _local.contacts.begin() + std::ssize(_local.contacts) / 2;
+    _local.contacts.insert(middle, {{before, _sky.moment(first)}, {after, _sky.moment(last)}});
     return {first, last};
   }
 
@@ -171,12 +171,7 @@ std::optional<LocalEclipse> seenFrom(const Eclipse& eclipse, const Place& place)
   if (!isValid(place)) return std::nullopt;
   const auto sky = EclipseSky::around(eclipse.maximum);
   if (!sky) return std::nullopt;
-  auto local = eclipse.body == Body::sun ? solarSeenFrom(*sky, place) : lunarSeenFrom(*sky, place);
-  if (local) {
-    std::sort(local->contacts.begin(), local->contacts.end(),
-              [](const Contact& a, const Contact& b) { return a.moment.at < b.moment.at; });
-  }
-  return local;
+  return eclipse.body == Body::sun ? solarSeenFrom(*sky, place) : lunarSeenFrom(*sky, place);
 }
 
 }  // namespace velmora::almanac

@@ -1,7 +1,6 @@
 #include <velmora/c/Answering.h>
 
-#include <array>
-#include <cstdio>
+#include <velmora/c/CopiedText.h>
 
 namespace [[gnu::visibility("hidden")]] velmora {
 namespace c {
@@ -10,16 +9,9 @@ namespace {
 constexpr std::size_t longestMessage = 256;
 
 /// A message that does not fit is cut.
-std::array<char, longestMessage>& keptMessage() noexcept {
-  thread_local std::array<char, longestMessage> message{};
+char (&keptMessage() noexcept)[longestMessage] {
+  thread_local char message[longestMessage] = {};
   return message;
-}
-
-void checkRange(double value, double low, double high, const char* name) {
-  if (value >= low && value <= high) return;
-  char message[longestMessage];
-  std::snprintf(message, sizeof message, "%s is %g; it lies between %g and %g", name, value, low, high);
-  throw Refusal{VELMORA_BAD_ARGUMENT, message};
 }
 
 void checkNumber(double value, const char* name) {
@@ -32,10 +24,15 @@ void checkNumber(double value, const char* name) {
 
 }  // namespace
 
-velmora_status refuse(velmora_status status, const char* message) noexcept {
-  auto& kept = keptMessage();
-  std::snprintf(kept.data(), kept.size(), "%s", message);
+velmora_status refuse(velmora_status status, std::string_view message) noexcept {
+  copyText(message, keptMessage());
   return status;
+}
+
+void checkRange(double value, int low, int high, const char* name) {
+  if (value >= low && value <= high) return;
+  throw Refusal{VELMORA_BAD_ARGUMENT,
+                std::string(name) + " lies outside " + std::to_string(low) + " to " + std::to_string(high)};
 }
 
 int choiceOf(int number, int choices, const char* name) {
@@ -46,12 +43,10 @@ int choiceOf(int number, int choices, const char* name) {
 
 almanac::Place placeOf(const velmora_place* place) {
   const velmora_place& taken = given(place, "place");
-  checkRange(taken.latitude, -90.0, 90.0, "latitude");
-  checkRange(taken.longitude, -180.0, 180.0, "longitude");
-  checkRange(taken.height, 0.0, std::numeric_limits<double>::max(), "height");
-  const almanac::Place answer{taken.latitude, taken.longitude, taken.height};
-  if (!almanac::isValid(answer)) throw Refusal{VELMORA_BAD_ARGUMENT, "height is above what is answered"};
-  return answer;
+  checkRange(taken.latitude, -90, 90, "latitude");
+  checkRange(taken.longitude, -180, 180, "longitude");
+  checkRange(taken.height, 0, 100'000, "height");
+  return {taken.latitude, taken.longitude, taken.height};
 }
 
 ephemeris::Body bodyOf(int number) {
@@ -77,4 +72,4 @@ std::pair<Instant, Instant> coveredInterval(double from, double to) {
 }  // namespace c
 }  // namespace velmora
 
-extern "C" const char* velmora_message(void) { return velmora::c::keptMessage().data(); }
+extern "C" const char* velmora_message(void) { return velmora::c::keptMessage(); }

@@ -7,6 +7,7 @@
 #include <limits>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 
 #include <velmora/almanac/Place.h>
@@ -28,7 +29,7 @@ struct Refusal {
 };
 
 /// Keeps the message for this thread and returns the status.
-velmora_status refuse(velmora_status status, const char* message) noexcept;
+velmora_status refuse(velmora_status status, std::string_view message) noexcept;
 
 /// Runs an operation: its status, or that of the refusal or failure that it ends with. No exception leaves.
 template <class Operation>
@@ -36,7 +37,7 @@ velmora_status answering(Operation&& operation) noexcept {
   try {
     return std::forward<Operation>(operation)();
   } catch (const Refusal& refusal) {
-    return refuse(refusal.status, refusal.message.c_str());
+    return refuse(refusal.status, refusal.message);
   } catch (const std::exception& failure) {
     return refuse(VELMORA_FAILED, failure.what());
   }
@@ -54,6 +55,9 @@ template <class Item>
 void checkRoom(const Item* items, std::size_t capacity, const char* name) {
   if (!items && capacity > 0) throw Refusal{VELMORA_BAD_ARGUMENT, std::string(name) + " is a null pointer"};
 }
+
+/// Refuses a number outside [low, high], and what is no number.
+void checkRange(double value, int low, int high, const char* name);
 
 /// Refuses a number of a list of choices that has `choices` of them.
 int choiceOf(int number, int choices, const char* name);

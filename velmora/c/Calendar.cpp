@@ -74,7 +74,7 @@ velmora_status velmora_set_resources(const char* folder) {
 velmora_status velmora_calendar_month(const velmora_zone* zone, int32_t year, int32_t month,
                                       velmora_calendar_day* days, size_t capacity, size_t* count) {
   return answering([&] {
-    if (month < 1 || month > months) throw Refusal{VELMORA_BAD_ARGUMENT, "month lies outside 1 to 12"};
+    checkRange(month, 1, months, "month");
     const auto table = tableFor(year);
     const GeoLocationData location = locationOf({}, zoneOf(zone));
     const Instant start = Calendar(*location.timezone).date({.year = year, .month = month});

@@ -9,7 +9,7 @@ using namespace velmora::c;
 namespace {
 
 constexpr int kindsOfEvents = 9;
-constexpr std::uint32_t mostThreads = 1024;
+constexpr int mostThreads = 1024;
 
 almanac::EventChoice choiceOfEvents(std::uint32_t choice) {
   constexpr std::uint32_t known = VELMORA_WITH_TWILIGHT | VELMORA_WITH_TRANSITS;
@@ -116,9 +116,7 @@ velmora_status velmora_at_places(const velmora_place* places, size_t count, doub
     const auto [from, to] = coveredInterval(start, end);
     checkRoom(places, count, "places");
     checkRoom(days, count, "days");
-    if (threads == 0 || threads > mostThreads) {
-      throw Refusal{VELMORA_BAD_ARGUMENT, "threads lies outside 1 to 1024"};
-    }
+    checkRange(threads, 1, mostThreads, "threads");
     std::vector<almanac::Place> taken;
     taken.reserve(count);
     for (std::size_t i = 0; i < count; ++i) taken.push_back(placeOf(places + i));
@@ -148,9 +146,7 @@ velmora_status velmora_next(const velmora_place* place, int32_t body, int32_t ki
 velmora_status velmora_crossings(const velmora_place* place, int32_t body, double altitude, double from,
                                  double to, velmora_crossing* crossings, size_t capacity, size_t* count) {
   return answering([&] {
-    if (!(altitude >= -90.0 && altitude <= 90.0)) {
-      throw Refusal{VELMORA_BAD_ARGUMENT, "altitude lies outside -90 to 90"};
-    }
+    checkRange(altitude, -90, 90, "altitude");
     const auto [start, end] = coveredInterval(from, to);
     const auto answer = almanac::crossings(placeOf(place), bodyOf(body), altitude, start, end);
     return fill(answer, crossings, capacity, count, "crossings", [](const almanac::Crossing& crossing) {

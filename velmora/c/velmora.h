@@ -56,7 +56,7 @@ VELMORA_API const char* velmora_version(void);
 typedef struct velmora_place {
   double latitude;  /**< -90..90, north positive */
   double longitude; /**< -180..180, east positive */
-  double height;    /**< metres above the horizon around, 0 or more: lowers the horizon by the dip */
+  double height;    /**< metres above the horizon around, 0..100000: lowers the horizon by the dip */
 } velmora_place;
 
 /** A time zone. Immutable; one object may be used by many threads. */
