@@ -1,4 +1,3 @@
-#include <bit>
 #include <cmath>
 #include <cstdint>
 #include <cstring>
@@ -35,8 +34,10 @@ TEST(Apparent, HasTheSameBitsAloneAndInARow) {
 class Digest {
  public:
   void add(double number) {
+    std::uint64_t bits = 0;  // std::bit_cast is not in every library yet
+    std::memcpy(&bits, &number, sizeof bits);
     for (int shift = 0; shift < 64; shift += 8) {
-      _value ^= std::bit_cast<std::uint64_t>(number) >> shift & 0xff;
+      _value ^= bits >> shift & 0xff;
       _value *= 0x100000001b3;
     }
   }
