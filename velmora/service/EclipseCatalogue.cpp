@@ -45,7 +45,7 @@ std::optional<Instant> instantOfFullDigits(std::string_view text) {
   const std::chrono::year_month_day day(std::chrono::year(year), std::chrono::month(unsigned(number(0, 2))),
                                         std::chrono::day(unsigned(number(3, 2))));
   if (year == 0 || !day.ok() || hour > 23 || minute > 59) return std::nullopt;
-  return std::chrono::sys_days(day) + std::chrono::hours(hour) + std::chrono::minutes(minute);
+  return Instant(std::chrono::sys_days(day)) + std::chrono::hours(hour) + std::chrono::minutes(minute);
 }
 
 /// The instant of a line's first field. The formatter decides what is a date, but is slow to: what the
