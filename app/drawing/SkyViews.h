@@ -7,13 +7,13 @@
 
 namespace velmora::app {
 
-/// A compass with the direction up that the request faces. On it lies the Moon's way, a half circle from the
+/// A compass with the direction up that the request faces. On it lies the Moon's path, a half circle from the
 /// azimuth of moonrise to that of moonset by the side on which the Moon is highest, and the Moon as it stands
-/// at the request's moment. There is no way where the Moon neither rises nor sets.
+/// at the request's moment. There is no path where the Moon neither rises nor sets.
 std::shared_ptr<View> makeCompass(const Query& query, Size size);
 
-/// The Moon's way alone as who faces its highest point sees it: the zenith up, due east and due west at the
-/// ends.
+/// The Moon's path alone, as seen facing its highest point: the zenith at the top, due east and due west at
+/// the ends.
 std::shared_ptr<View> makeElevationArc(const Query& query, Size size);
 
 }  // namespace velmora::app

@@ -53,7 +53,7 @@ std::string answerTo(const Line& line) {
   return isBlank(line.text) ? "" : batchAnswer(line.text) + '\n';
 }
 
-/// Whole lines alone are written, and none is cut by a signal that ends the program.
+/// Writes whole lines only: a signal that ends the program takes effect after the write.
 void writeLines(std::string& lines, std::ostream& out) {
   const HeldSignals untilWritten;
   out << lines << std::flush;

@@ -32,17 +32,17 @@ class ImageCalendar : public testing::Test {
 };
 
 /// The events of May between those of April and June.
-const YearTable kSpring = {{"4", {"26 12:00 LQ"}},
-                           {"5", {"3 12:00 NM", "10 12:00 FQ", "18 12:00 FM", "25 12:00 LQ"}},
-                           {"6", {"2 12:00 NM"}}};
+const YearTable spring = {{"4", {"26 12:00 LQ"}},
+                          {"5", {"3 12:00 NM", "10 12:00 FQ", "18 12:00 FM", "25 12:00 LQ"}},
+                          {"6", {"2 12:00 NM"}}};
 
 TEST_F(ImageCalendar, StepsThroughTheLunationDayByDay) {
-  EXPECT_EQ(picturesOf(kSpring, 4), (Pictures{50, 52, 0,  2,  4,  6,  8,  10, 12, 15, 16, 18, 19, 21, 22, 24,
-                                              25, 27, 28, 30, 32, 34, 36, 38, 40, 41, 43, 45, 47, 49, 51}));
+  EXPECT_EQ(picturesOf(spring, 4), (Pictures{50, 52, 0,  2,  4,  6,  8,  10, 12, 15, 16, 18, 19, 21, 22, 24,
+                                             25, 27, 28, 30, 32, 34, 36, 38, 40, 41, 43, 45, 47, 49, 51}));
 }
 
 TEST_F(ImageCalendar, PrincipalPhasesHaveTheirOwnPictures) {
-  const auto calendar = calendarOf(kSpring, 4, 2024);
+  const auto calendar = calendarOf(spring, 4, 2024);
   EXPECT_EQ(calendar.at(3), 0);
   EXPECT_EQ(calendar.at(10), 15);
   EXPECT_EQ(calendar.at(18), 27);
@@ -50,9 +50,9 @@ TEST_F(ImageCalendar, PrincipalPhasesHaveTheirOwnPictures) {
 }
 
 TEST_F(ImageCalendar, TheOrderOfTheListDoesNotMatter) {
-  YearTable shuffled = kSpring;
+  YearTable shuffled = spring;
   shuffled["5"] = {"25 12:00 LQ", "3 12:00 NM", "18 12:00 FM", "10 12:00 FQ"};
-  EXPECT_EQ(calendarOf(shuffled, 4, 2024), calendarOf(kSpring, 4, 2024));
+  EXPECT_EQ(calendarOf(shuffled, 4, 2024), calendarOf(spring, 4, 2024));
 }
 
 TEST_F(ImageCalendar, AnEventOnTheFirstAndTheLastNeedsNoNeighbour) {
@@ -109,19 +109,19 @@ TEST_F(ImageCalendar, NothingStandsBetweenTwoDaysOfUnknownPhase) {
 }
 
 TEST_F(ImageCalendar, AnUnknownPhaseBesideTheMonthKeepsThePictureOfTheEventBeforeIt) {
-  YearTable table = kSpring;
+  YearTable table = spring;
   table["4"] = {"20 12:00 LQ", "26 12:00 XX"};
-  EXPECT_EQ(calendarOf(table, 4, 2024), calendarOf(kSpring, 4, 2024));
-  table = kSpring;
+  EXPECT_EQ(calendarOf(table, 4, 2024), calendarOf(spring, 4, 2024));
+  table = spring;
   table["6"] = {"5 12:00 NM", "2 12:00 XX"};
-  EXPECT_EQ(calendarOf(table, 4, 2024), calendarOf(kSpring, 4, 2024));
+  EXPECT_EQ(calendarOf(table, 4, 2024), calendarOf(spring, 4, 2024));
 }
 
 TEST_F(ImageCalendar, OfTwoEventsOnOneDayBesideTheMonthTheFirstInTheListCounts) {
-  YearTable table = kSpring;
+  YearTable table = spring;
   table["4"] = {"26 01:00 LQ", "26 23:00 FQ"};
   table["6"] = {"2 01:00 NM", "2 23:00 LQ"};
-  EXPECT_EQ(calendarOf(table, 4, 2024), calendarOf(kSpring, 4, 2024));
+  EXPECT_EQ(calendarOf(table, 4, 2024), calendarOf(spring, 4, 2024));
 }
 
 TEST_F(ImageCalendar, BetweenTwoEqualPhasesThePictureStays) {

@@ -10,7 +10,7 @@
 namespace velmora {
 namespace {
 
-constexpr std::int64_t kHour = 3600;
+constexpr std::int64_t hour = 3600;
 
 class MonthEvents : public testing::Test {
  protected:
@@ -74,7 +74,7 @@ TEST_F(MonthEvents, TheInstantIsTheTrueOneInEveryZone) {
 TEST_F(MonthEvents, AnOffsetChosenOverANamedZoneMovesTheTimeTextAlone) {
   const YearTable table = {{"3", {"31 16:00 FM"}}};
   GeoLocationData place = placeInZone("Asia/Tokyo");
-  place.SetLocation(0, 0, "Tokyo", std::nullopt, 5 * kHour + 1800, true);
+  place.SetLocation(0, 0, "Tokyo", std::nullopt, 5 * hour + 1800, true);
   EXPECT_EQ(listed(table, 2024, 2, place), Texts()) << "1 April in Tokyo, still 31 March by the offset";
   EXPECT_EQ(listed(table, 2024, 3, place), Texts{"1 0 21:30"});
 }
@@ -82,20 +82,20 @@ TEST_F(MonthEvents, AnOffsetChosenOverANamedZoneMovesTheTimeTextAlone) {
 TEST_F(MonthEvents, WithoutAZoneTheOffsetInForceCountsNotOneKeptWithoutTheFlag) {
   const YearTable table = {{"3", {"31 16:00 FM"}}};
   GeoLocationData place;
-  place.SetLocation(0, 0, "no zone, no flag", std::nullopt, 9 * kHour, false);
+  place.SetLocation(0, 0, "no zone, no flag", std::nullopt, 9 * hour, false);
   EXPECT_EQ(listed(table, 2024, 2, place), Texts{"31 0 16:00"});
 }
 
 TEST_F(MonthEvents, AnEventOnTheFirstMayBelongToThePreviousMonthInTheWest) {
   const YearTable table = {{"6", {"1 02:00 LQ"}}};
-  const GeoLocationData place = placeAtOffset(-5 * kHour);
+  const GeoLocationData place = placeAtOffset(-5 * hour);
   EXPECT_EQ(listed(table, 2024, 4, place), Texts{"31 2 21:00"});
   EXPECT_EQ(listed(table, 2024, 5, place), Texts());
 }
 
 TEST_F(MonthEvents, AnEventOnTheLastMayBelongToTheNextMonthInTheEast) {
   const YearTable table = {{"5", {"31 23:00 LQ"}}};
-  const GeoLocationData place = placeAtOffset(2 * kHour);
+  const GeoLocationData place = placeAtOffset(2 * hour);
   EXPECT_EQ(listed(table, 2024, 5, place), Texts{"1 2 01:00"});
   EXPECT_EQ(listed(table, 2024, 4, place), Texts());
 }
@@ -103,9 +103,9 @@ TEST_F(MonthEvents, AnEventOnTheLastMayBelongToTheNextMonthInTheEast) {
 TEST_F(MonthEvents, ZonesMoveAnEventToAnotherDay) {
   const YearTable table = {{"3", {"15 11:00 FQ"}}};
   const std::pair<std::int64_t, std::string> expected[] = {
-      {-12 * kHour, "14 1 23:00"}, {-11 * kHour - 1800, "14 1 23:30"}, {-11 * kHour, "15 1 00:00"},
-      {0, "15 1 11:00"},           {5 * kHour + 2700, "15 1 16:45"},   {12 * kHour + 2700, "15 1 23:45"},
-      {13 * kHour, "16 1 00:00"},  {14 * kHour, "16 1 01:00"}};
+      {-12 * hour, "14 1 23:00"}, {-11 * hour - 1800, "14 1 23:30"}, {-11 * hour, "15 1 00:00"},
+      {0, "15 1 11:00"},          {5 * hour + 2700, "15 1 16:45"},   {12 * hour + 2700, "15 1 23:45"},
+      {13 * hour, "16 1 00:00"},  {14 * hour, "16 1 01:00"}};
   for (const auto& [offset, text] : expected) {
     EXPECT_EQ(listed(table, 2024, 2, placeAtOffset(offset)), Texts{text}) << offset;
   }
@@ -114,9 +114,9 @@ TEST_F(MonthEvents, ZonesMoveAnEventToAnotherDay) {
 TEST_F(MonthEvents, ListThePreviousMonthThenTheMonthThenTheNext) {
   const YearTable table = {
       {"4", {"30 23:30 FM"}}, {"5", {"3 12:00 LQ", "31 23:00 FM"}}, {"6", {"1 10:00 LQ"}}};
-  EXPECT_EQ(listed(table, 2024, 4, placeAtOffset(kHour)), (Texts{"1 0 00:30", "3 2 13:00"}));
+  EXPECT_EQ(listed(table, 2024, 4, placeAtOffset(hour)), (Texts{"1 0 00:30", "3 2 13:00"}));
   const YearTable eastAndWest = {{"5", {"10 12:00 LQ", "3 12:00 NM"}}, {"6", {"1 01:00 FM"}}};
-  EXPECT_EQ(listed(eastAndWest, 2024, 4, placeAtOffset(-2 * kHour)),
+  EXPECT_EQ(listed(eastAndWest, 2024, 4, placeAtOffset(-2 * hour)),
             (Texts{"10 2 10:00", "3 3 10:00", "31 0 23:00"}))
       << "a month's own events keep the order of the table";
 }
@@ -126,9 +126,9 @@ TEST_F(MonthEvents, PutThePreviousDecemberLastInJanuary) {
   folder.write("Data/2023.plist", propertyListOf({{"12", {"31 23:30 LQ"}}}));
   const ScopedLibraryBundle bundle(folder.path());
   const YearTable table = {{"1", {"11 11:57 NM"}}, {"2", {"1 00:30 FQ"}}};
-  EXPECT_EQ(listed(table, 2024, 0, placeAtOffset(kHour)), (Texts{"11 3 12:57", "1 2 00:30"}));
+  EXPECT_EQ(listed(table, 2024, 0, placeAtOffset(hour)), (Texts{"11 3 12:57", "1 2 00:30"}));
   const YearTable late = {{"1", {"11 11:57 NM"}}, {"2", {"1 00:30 FQ"}}};
-  EXPECT_EQ(listed(late, 2024, 0, placeAtOffset(-kHour)), (Texts{"11 3 10:57", "31 1 23:30"}));
+  EXPECT_EQ(listed(late, 2024, 0, placeAtOffset(-hour)), (Texts{"11 3 10:57", "31 1 23:30"}));
 }
 
 TEST_F(MonthEvents, ReadTheNextYearsJanuaryInDecember) {
@@ -136,8 +136,8 @@ TEST_F(MonthEvents, ReadTheNextYearsJanuaryInDecember) {
   folder.write("Data/2025.plist", propertyListOf({{"1", {"1 00:30 LQ"}}}));
   const ScopedLibraryBundle bundle(folder.path());
   const YearTable table = {{"11", {"30 23:30 NM"}}, {"12", {"15 09:00 FM"}}};
-  EXPECT_EQ(listed(table, 2024, 11, placeAtOffset(-kHour)), (Texts{"15 0 08:00", "31 2 23:30"}));
-  EXPECT_EQ(listed(table, 2024, 11, placeAtOffset(kHour)), (Texts{"1 3 00:30", "15 0 10:00"}));
+  EXPECT_EQ(listed(table, 2024, 11, placeAtOffset(-hour)), (Texts{"15 0 08:00", "31 2 23:30"}));
+  EXPECT_EQ(listed(table, 2024, 11, placeAtOffset(hour)), (Texts{"1 3 00:30", "15 0 10:00"}));
 }
 
 TEST_F(MonthEvents, TheTablesBefore2000AndAfter2040AreNotRead) {
@@ -147,18 +147,18 @@ TEST_F(MonthEvents, TheTablesBefore2000AndAfter2040AreNotRead) {
                  propertyListOf({{"1", {"1 00:30 NM"}}, {"12", {"31 23:30 FM"}}}));
   }
   const ScopedLibraryBundle bundle(folder.path());
-  EXPECT_EQ(listed({}, 2000, 0, placeAtOffset(kHour)), Texts()) << "January 2000";
-  EXPECT_EQ(listed({}, 2001, 0, placeAtOffset(kHour)), Texts{"1 0 00:30"}) << "January 2001";
-  EXPECT_EQ(listed({}, 2039, 11, placeAtOffset(-kHour)), Texts{"31 3 23:30"}) << "December 2039";
-  EXPECT_EQ(listed({}, 2040, 11, placeAtOffset(-kHour)), Texts()) << "December 2040";
+  EXPECT_EQ(listed({}, 2000, 0, placeAtOffset(hour)), Texts()) << "January 2000";
+  EXPECT_EQ(listed({}, 2001, 0, placeAtOffset(hour)), Texts{"1 0 00:30"}) << "January 2001";
+  EXPECT_EQ(listed({}, 2039, 11, placeAtOffset(-hour)), Texts{"31 3 23:30"}) << "December 2039";
+  EXPECT_EQ(listed({}, 2040, 11, placeAtOffset(-hour)), Texts()) << "December 2040";
 }
 
 TEST_F(MonthEvents, AMissingNeighbourYearGivesNoEvents) {
   const TemporaryFolder folder;
   const ScopedLibraryBundle bundle(folder.path());
   const YearTable table = {{"1", {"11 11:57 NM"}}, {"12", {"15 09:00 FM"}}};
-  EXPECT_EQ(listed(table, 2024, 0, placeAtOffset(kHour)), Texts{"11 3 12:57"});
-  EXPECT_EQ(listed(table, 2024, 11, placeAtOffset(kHour)), Texts{"15 0 10:00"});
+  EXPECT_EQ(listed(table, 2024, 0, placeAtOffset(hour)), Texts{"11 3 12:57"});
+  EXPECT_EQ(listed(table, 2024, 11, placeAtOffset(hour)), Texts{"15 0 10:00"});
 }
 
 TEST_F(MonthEvents, AnEventOfNewYearsNightMayBelongToAnotherYear) {

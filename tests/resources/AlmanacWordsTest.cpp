@@ -14,9 +14,9 @@
 namespace velmora {
 namespace {
 
-const std::filesystem::path kLibrary = sourceDirectory() + "/velmora/resources";
+const std::filesystem::path library = sourceDirectory() + "/velmora/resources";
 
-Texts wordsOf(const std::string& language) { return textsOf(kLibrary, language, "Almanac"); }
+Texts wordsOf(const std::string& language) { return textsOf(library, language, "Almanac"); }
 
 bool isPluralForm(const std::string& key) { return key.ends_with(']'); }
 

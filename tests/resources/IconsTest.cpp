@@ -5,7 +5,7 @@
 namespace velmora::shipped {
 namespace {
 
-constexpr int kIconSize = 60;  // pixels: 20 points at a scale of 3
+constexpr int iconSize = 60;  // pixels: 20 points at a scale of 3
 
 std::shared_ptr<const Image> icon(const std::string& name) {
   return shippedImage("app/resources/" + name + ".png");
@@ -14,7 +14,7 @@ std::shared_ptr<const Image> icon(const std::string& name) {
 /// Number of pixels in a row of which more than half is drawn.
 int drawnInRow(const Image& image, int row, int firstColumn) {
   int drawn = 0;
-  for (int column = firstColumn; column < kIconSize; ++column)
+  for (int column = firstColumn; column < iconSize; ++column)
     drawn += pixelAt(image, column, row).alpha > 127;
   return drawn;
 }
@@ -23,13 +23,13 @@ class RiseAndSetIcons : public testing::TestWithParam<const char*> {};
 
 TEST_P(RiseAndSetIcons, AreLightShapesOverAHorizonOnTransparency) {
   const auto image = icon(GetParam());
-  ASSERT_EQ(image->pixelSize(), (PixelSize{.width = kIconSize, .height = kIconSize}));
-  for (const int corner : {0, kIconSize - 1})
-    for (const int other : {0, kIconSize - 1}) EXPECT_EQ(pixelAt(*image, corner, other).alpha, 0);
+  ASSERT_EQ(image->pixelSize(), (PixelSize{.width = iconSize, .height = iconSize}));
+  for (const int corner : {0, iconSize - 1})
+    for (const int other : {0, iconSize - 1}) EXPECT_EQ(pixelAt(*image, corner, other).alpha, 0);
   constexpr int horizonRow = 52;
   EXPECT_GT(drawnInRow(*image, horizonRow, 0), 48);
-  EXPECT_GT(pixelAt(*image, kIconSize / 2, horizonRow).brightness(), 180);
-  EXPECT_EQ(drawnInRow(*image, kIconSize - 3, 0), 0);
+  EXPECT_GT(pixelAt(*image, iconSize / 2, horizonRow).brightness(), 180);
+  EXPECT_EQ(drawnInRow(*image, iconSize - 3, 0), 0);
 }
 
 INSTANTIATE_TEST_SUITE_P(All, RiseAndSetIcons, testing::Values("moonrise", "moonset", "sunrise", "sunset"),

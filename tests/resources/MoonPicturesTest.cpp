@@ -10,13 +10,13 @@
 namespace velmora::shipped {
 namespace {
 
-constexpr int kPictureCount = 56;
-constexpr double kDegree = 3.14159265358979323846 / 180;
+constexpr int pictureCount = 56;
+constexpr double degree = 3.14159265358979323846 / 180;
 
 const std::vector<MoonPicture>& lunation() {
   static const std::vector<MoonPicture> pictures = [] {
     std::vector<MoonPicture> all;
-    for (int number = 0; number < kPictureCount; ++number) all.emplace_back("IMG_" + std::to_string(number));
+    for (int number = 0; number < pictureCount; ++number) all.emplace_back("IMG_" + std::to_string(number));
     return all;
   }();
   return pictures;
@@ -71,7 +71,7 @@ double litShareMeantBy(int number) {
     elongation = 180 + (number - 27) * 90 / 13.0;
   else
     elongation = 270 + (number - 40) * 90 / 16.0;
-  return (1 - std::cos(elongation * kDegree)) / 2;
+  return (1 - std::cos(elongation * degree)) / 2;
 }
 
 void expectDiscOnTransparency(const Image& image) {
@@ -86,7 +86,7 @@ void expectDiscOnTransparency(const Image& image) {
 }
 
 TEST(MoonPictures, EveryPictureIsADiscOnTransparency) {
-  for (int number = 0; number < kPictureCount; ++number) {
+  for (int number = 0; number < pictureCount; ++number) {
     SCOPED_TRACE(number);
     expectDiscOnTransparency(picture(number).image());
   }
@@ -96,26 +96,26 @@ TEST(MoonPictures, EveryPictureIsADiscOnTransparency) {
 TEST(MoonPictures, LitShareIsWhatTheNumberMeans) {
   constexpr double tolerance = 0.02;
   double largest = 0, sumOfSquares = 0;
-  for (int number = 0; number < kPictureCount; ++number) {
+  for (int number = 0; number < pictureCount; ++number) {
     const double error = litShare(picture(number)) - litShareMeantBy(number);
     EXPECT_NEAR(error, 0, tolerance) << "picture " << number;
     largest = std::max(largest, std::abs(error));
     sumOfSquares += error * error;
   }
-  std::cout << kPictureCount << " pictures, RMS " << std::sqrt(sumOfSquares / kPictureCount) << ", largest "
+  std::cout << pictureCount << " pictures, RMS " << std::sqrt(sumOfSquares / pictureCount) << ", largest "
             << largest << " of the disc\n";
 }
 
 TEST(MoonPictures, LitShareGrowsToFullMoonAndShrinksAfterIt) {
   for (int number = 1; number <= 27; ++number)
     EXPECT_GT(litShare(picture(number)), litShare(picture(number - 1))) << number;
-  for (int number = 28; number < kPictureCount; ++number)
+  for (int number = 28; number < pictureCount; ++number)
     EXPECT_LT(litShare(picture(number)), litShare(picture(number - 1))) << number;
 }
 
 TEST(MoonPictures, WaxingMoonIsLitOnTheRightAndWaningMoonOnTheLeft) {
   for (int number = 1; number < 27; ++number) EXPECT_GT(sidedness(picture(number)), 0) << number;
-  for (int number = 28; number < kPictureCount; ++number) EXPECT_LT(sidedness(picture(number)), 0) << number;
+  for (int number = 28; number < pictureCount; ++number) EXPECT_LT(sidedness(picture(number)), 0) << number;
 }
 
 TEST(MoonPictures, NewMoonShowsFaintBluishEarthshine) {

@@ -11,17 +11,17 @@
 namespace velmora {
 namespace {
 
-const std::filesystem::path kLibrary = sourceDirectory() + "/velmora/resources";
-const std::filesystem::path kHost = sourceDirectory() + "/app/resources";
+const std::filesystem::path libraryFolder = sourceDirectory() + "/velmora/resources";
+const std::filesystem::path hostFolder = sourceDirectory() + "/app/resources";
 
 std::string libraryText(const std::string& key, const std::string& locale) {
-  const ScopedLibraryBundle shipped(kLibrary);
+  const ScopedLibraryBundle shipped(libraryFolder);
   const ScopedLocale scoped(locale);
   return Bundle::library().localizedString(key);
 }
 
 std::string hostText(const std::string& key, const std::string& locale) {
-  const ScopedMainBundle shipped(kHost);
+  const ScopedMainBundle shipped(hostFolder);
   const ScopedLocale scoped(locale);
   return Bundle::main().localizedString(key);
 }
@@ -32,7 +32,7 @@ struct Reader {
   std::string waningGibbous;
 };
 
-const std::vector<Reader> kReaders = {
+const std::vector<Reader> readers = {
     {"en_US", "Total Lunar Eclipse", "Waning Gibbous"},
     {"de_AT", "Totale Mondfinsternis", "Abnehmender Dreiviertelmond"},
     {"fr-CA", "Éclipse totale de Lune", "Gibbeuse décroissante"},
@@ -52,7 +52,7 @@ const std::vector<Reader> kReaders = {
 };
 
 TEST(TranslationLookup, AReaderGetsTheTextsOfTheLanguageWhateverTheRegion) {
-  for (const Reader& reader : kReaders) {
+  for (const Reader& reader : readers) {
     EXPECT_EQ(libraryText("Total Lunar Eclipse", reader.locale), reader.totalLunarEclipse) << reader.locale;
     EXPECT_EQ(libraryText("Waning Gibbous", reader.locale), reader.waningGibbous) << reader.locale;
     EXPECT_EQ(hostText("Waning Gibbous", reader.locale), reader.waningGibbous) << reader.locale;

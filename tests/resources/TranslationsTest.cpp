@@ -16,24 +16,24 @@
 namespace velmora {
 namespace {
 
-const std::filesystem::path kLibrary = sourceDirectory() + "/velmora/resources";
-const std::filesystem::path kHost = sourceDirectory() + "/app/resources";
+const std::filesystem::path libraryFolder = sourceDirectory() + "/velmora/resources";
+const std::filesystem::path host = sourceDirectory() + "/app/resources";
 
-const std::set<std::string> kPhaseNames = {"Full Moon",      "First Quarter",   "Last Quarter",
-                                           "New Moon",       "Waxing Crescent", "Waxing Gibbous",
-                                           "Waning Gibbous", "Waning Crescent"};
-const std::set<std::string> kEclipseTitles = {
+const std::set<std::string> phaseNames = {"Full Moon",      "First Quarter",   "Last Quarter",
+                                          "New Moon",       "Waxing Crescent", "Waxing Gibbous",
+                                          "Waning Gibbous", "Waning Crescent"};
+const std::set<std::string> eclipseTitles = {
     "Total Lunar Eclipse",   "Partial Lunar Eclipse", "Penumbra Lunar Eclipse", "Total Solar Eclipse",
     "Partial Solar Eclipse", "Annular Solar Eclipse", "Hybrid Solar Eclipse"};
-const std::set<std::string> kUpperCaseTexts = {"FULL MOON", "NEW MOON", "ELEVATION: %@", "TIME"};
-const std::set<std::string> kOtherViewTexts = {
+const std::set<std::string> upperCaseTexts = {"FULL MOON", "NEW MOON", "ELEVATION: %@", "TIME"};
+const std::set<std::string> otherViewTexts = {
     "at", "Full Moon - Year Calendar (%@)", "New Moon - Year Calendar (%@)", "Tap to select date", "Select"};
-const std::set<std::string> kSpokenTexts = {
+const std::set<std::string> spokenTexts = {
     "moonrise %@",    "moonset %@",       "sunrise %@",           "sunset %@",           "%@ the next day",
     "Sun up all day", "Sun down all day", "Moon up all day",      "Moon down all day",   "Compass",
     "Moon",           "%@ at the top",    "%@ above the horizon", "%@ below the horizon"};
-const std::set<std::string> kDirections = {"north", "northeast", "east", "southeast",
-                                           "south", "southwest", "west", "northwest"};
+const std::set<std::string> directions = {"north", "northeast", "east", "southeast",
+                                          "south", "southwest", "west", "northwest"};
 
 std::set<std::string> united(std::initializer_list<std::set<std::string>> sets) {
   std::set<std::string> all;
@@ -41,8 +41,8 @@ std::set<std::string> united(std::initializer_list<std::set<std::string>> sets) 
   return all;
 }
 
-const std::set<std::string> kLibraryKeys =
-    united({kPhaseNames, kEclipseTitles, kUpperCaseTexts, kOtherViewTexts, kSpokenTexts, kDirections});
+const std::set<std::string> libraryKeys =
+    united({phaseNames, eclipseTitles, upperCaseTexts, otherViewTexts, spokenTexts, directions});
 
 std::set<std::string> languagesIn(const std::filesystem::path& bundle) {
   std::set<std::string> languages;
@@ -55,7 +55,7 @@ std::set<std::string> languagesIn(const std::filesystem::path& bundle) {
 /// Calls check(language, key, text) for every text of both bundles.
 template <class Check>
 void forEachText(const Check& check) {
-  for (const std::filesystem::path& bundle : {kLibrary, kHost}) {
+  for (const std::filesystem::path& bundle : {libraryFolder, host}) {
     for (const auto& [language, script] : kLanguages) {
       for (const auto& [key, text] : textsOf(bundle, language)) {
         SCOPED_TRACE(language + ": " + key + ": " + text);
@@ -72,14 +72,14 @@ bool hasAnyOf(const std::string& text, std::u32string_view characters) {
 TEST(Translations, BothBundlesSpeakTheSameLanguages) {
   std::set<std::string> languages;
   for (const auto& [language, script] : kLanguages) languages.insert(language);
-  EXPECT_EQ(languagesIn(kLibrary), languages);
-  EXPECT_EQ(languagesIn(kHost), languages);
+  EXPECT_EQ(languagesIn(libraryFolder), languages);
+  EXPECT_EQ(languagesIn(host), languages);
 }
 
 TEST(Translations, EveryLanguageIsComplete) {
   for (const auto& [language, script] : kLanguages) {
-    EXPECT_EQ(keysOf(textsOf(kLibrary, language)), kLibraryKeys) << language;
-    EXPECT_EQ(keysOf(textsOf(kHost, language)), kPhaseNames) << language;
+    EXPECT_EQ(keysOf(textsOf(libraryFolder, language)), libraryKeys) << language;
+    EXPECT_EQ(keysOf(textsOf(host, language)), phaseNames) << language;
   }
 }
 
@@ -124,22 +124,22 @@ TEST(Translations, SimplifiedAndTraditionalCharactersDoNotMix) {
 
 TEST(Translations, UpperCaseTextsAreInUpperCaseInEveryLanguage) {
   forEachText([](const std::string&, const std::string& key, const std::string& text) {
-    if (kUpperCaseTexts.count(key) == 0) return;
+    if (upperCaseTexts.count(key) == 0) return;
     const std::u32string characters = charactersOf(text);
     EXPECT_TRUE(std::none_of(characters.begin(), characters.end(), isLowerCaseLetter));
   });
 }
 
 TEST(Translations, TurkishCapitalIKeepsItsDot) {
-  EXPECT_EQ(textsOf(kLibrary, "tr")["NEW MOON"], "YENİ AY");
-  EXPECT_EQ(textsOf(kHost, "tr")["First Quarter"], "İlk Dördün");
+  EXPECT_EQ(textsOf(libraryFolder, "tr")["NEW MOON"], "YENİ AY");
+  EXPECT_EQ(textsOf(host, "tr")["First Quarter"], "İlk Dördün");
 }
 
 TEST(Translations, NoTwoPhasesEclipsesSpokenTextsAndDirectionsAreTheSame) {
   for (const auto& [language, script] : kLanguages) {
-    const Texts texts = textsOf(kLibrary, language);
+    const Texts texts = textsOf(libraryFolder, language);
     std::set<std::string> names;
-    for (const std::string& key : united({kPhaseNames, kEclipseTitles, kSpokenTexts, kDirections})) {
+    for (const std::string& key : united({phaseNames, eclipseTitles, spokenTexts, directions})) {
       EXPECT_TRUE(names.insert(texts.at(key)).second) << language << ": " << texts.at(key);
     }
   }
@@ -147,14 +147,14 @@ TEST(Translations, NoTwoPhasesEclipsesSpokenTextsAndDirectionsAreTheSame) {
 
 TEST(Translations, TheHostNamesThePhasesAsTheLibraryDoes) {
   for (const auto& [language, script] : kLanguages) {
-    const Texts library = textsOf(kLibrary, language);
-    for (const auto& [name, text] : textsOf(kHost, language)) EXPECT_EQ(text, library.at(name)) << language;
+    const Texts library = textsOf(libraryFolder, language);
+    for (const auto& [name, text] : textsOf(host, language)) EXPECT_EQ(text, library.at(name)) << language;
   }
 }
 
 TEST(Translations, TheYearTitlesNameTheirPhase) {
   for (const auto& [language, script] : kLanguages) {
-    Texts texts = textsOf(kLibrary, language);
+    Texts texts = textsOf(libraryFolder, language);
     for (const std::string phase : {"Full Moon", "New Moon"}) {
       EXPECT_EQ(texts[phase + " - Year Calendar (%@)"].find(texts[phase]), 0U) << language;
     }
@@ -163,7 +163,7 @@ TEST(Translations, TheYearTitlesNameTheirPhase) {
 
 TEST(Translations, APhaseItsTimeAndTheWordBetweenReadAsOneLine) {
   const auto line = [](const std::string& language, const std::string& time) {
-    Texts texts = textsOf(kLibrary, language);
+    Texts texts = textsOf(libraryFolder, language);
     return texts["FULL MOON"] + " " + texts["at"] + " " + time;
   };
   EXPECT_EQ(line("en", "5:30 PM"), "FULL MOON at 5:30 PM");

@@ -6,10 +6,10 @@
 namespace velmora {
 namespace {
 
-constexpr std::array kScripts = {Script::latin,      Script::cyrillic, Script::arabic, Script::hebrew,
-                                 Script::devanagari, Script::japanese, Script::korean, Script::chinese};
+constexpr std::array scripts = {Script::latin,      Script::cyrillic, Script::arabic, Script::hebrew,
+                                Script::devanagari, Script::japanese, Script::korean, Script::chinese};
 
-constexpr std::u32string_view kLowerCaseLetters =
+constexpr std::u32string_view lowerCaseLetters =
     U"abcdefghijklmnopqrstuvwxyzàáâãäåæçèéêëìíîïñòóôõöùúûüýÿœßąćęłńóśźżğışабвгдеёжзийклмнопрстуфхцчшщъыьэюя";
 
 bool isChineseCharacter(char32_t c) { return c >= U'\u4E00' && c <= U'\u9FFF'; }
@@ -46,12 +46,12 @@ bool isLetterOf(Script script, char32_t c) {
 }
 
 bool isLetterOfAnyScript(char32_t character) {
-  return std::any_of(kScripts.begin(), kScripts.end(),
+  return std::any_of(scripts.begin(), scripts.end(),
                      [character](Script script) { return isLetterOf(script, character); });
 }
 
 bool isLowerCaseLetter(char32_t character) {
-  return kLowerCaseLetters.find(character) != std::u32string_view::npos;
+  return lowerCaseLetters.find(character) != std::u32string_view::npos;
 }
 
 std::u32string charactersOf(std::string_view utf8) {

@@ -31,7 +31,7 @@ class EclipseCatalogueReading : public ServiceTest {
 };
 
 using Messages = std::vector<std::string>;
-const Messages kInvalidEntry = {"Invalid entry"};
+const Messages invalidEntry = {"Invalid entry"};
 
 TEST_F(EclipseCatalogueReading, ALineGivesAllOfAnEclipse) {
   const auto eclipse = onlyOf(read("04/08/2024 18:17,TSE"));
@@ -81,13 +81,13 @@ TEST_F(EclipseCatalogueReading, ALineOfOtherThanTwoFieldsIsInvalid) {
        {"04/08/2024 18:17,TSE,x", "04/08/2024 18:17", "TSE", " ", "04/08/2024 18:17,TSE,"}) {
     const ScopedLogRecord own;
     EXPECT_TRUE(read(line).empty()) << line;
-    EXPECT_EQ(own.messages(), kInvalidEntry) << line;
+    EXPECT_EQ(own.messages(), invalidEntry) << line;
   }
 }
 
 TEST_F(EclipseCatalogueReading, ALineOfOneCarriageReturnIsInvalid) {
   EXPECT_EQ(read("04/08/2024 18:17,TSE\n\r\n").size(), 1U);
-  EXPECT_EQ(log.messages(), kInvalidEntry);
+  EXPECT_EQ(log.messages(), invalidEntry);
 }
 
 TEST_F(EclipseCatalogueReading, ADateThatCannotBeReadIsInvalid) {
@@ -95,7 +95,7 @@ TEST_F(EclipseCatalogueReading, ADateThatCannotBeReadIsInvalid) {
                            "04/08/2024 24:17", "04/08/2024 18:60", "2024-04-08 18:17", "04/08/2024 18:17x"}) {
     const ScopedLogRecord own;
     EXPECT_TRUE(read(std::string(date) + ",TSE").empty()) << date;
-    EXPECT_EQ(own.messages(), kInvalidEntry) << date;
+    EXPECT_EQ(own.messages(), invalidEntry) << date;
   }
 }
 

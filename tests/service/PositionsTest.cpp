@@ -7,8 +7,8 @@
 namespace velmora {
 namespace {
 
-constexpr double kPi = 3.14159265358979323846;
-constexpr std::int64_t kHour = 3600;
+constexpr double pi = 3.14159265358979323846;
+constexpr std::int64_t secondsPerHour = 3600;
 
 /// Whether two records are the same in every field.
 void expectSame(const std::optional<PositionData>& actual, const PositionData& expected) {
@@ -32,8 +32,8 @@ using Positions = ServiceTest;
 TEST_F(Positions, AreTheEnginesWithTheOffsetOfTheInstant) {
   const Place place = helsinki();
   service().SetSelectedLocation(place);
-  for (const auto& [date, offset] :
-       {std::pair(utc(2024, 3, 31, 0, 59), 2 * kHour), std::pair(utc(2024, 3, 31, 1, 0), 3 * kHour)}) {
+  for (const auto& [date, offset] : {std::pair(utc(2024, 3, 31, 0, 59), 2 * secondsPerHour),
+                                     std::pair(utc(2024, 3, 31, 1, 0), 3 * secondsPerHour)}) {
     expectSame(service().GetMoonPositionDataForDate(date),
                RiseAndSetCalc::ComputeMoonPosition(date, *place, offset));
     expectSame(service().GetSunPositionDataForDate(date),
@@ -145,9 +145,9 @@ TEST_F(Positions, OfTheDayAreTheEnginesSeries) {
   service().SetSelectedLocation(place);
   const Instant date = localTime(place, 2024, 7, 4, 15, 20);
   expectSame(service().Get24HourSunPositionsForDate(date),
-             RiseAndSetCalc::Get24HourSunPositionsForDate(date, *place, -7 * kHour));
+             RiseAndSetCalc::Get24HourSunPositionsForDate(date, *place, -7 * secondsPerHour));
   expectSame(service().Get24HourMoonPositionsForDate(date),
-             RiseAndSetCalc::Get24HourMoonPositionsForDate(date, *place, -7 * kHour));
+             RiseAndSetCalc::Get24HourMoonPositionsForDate(date, *place, -7 * secondsPerHour));
   EXPECT_EQ(service().Get24HourSunPositionsForDate(date)->size(), 24U);
   EXPECT_EQ(service().Get24HourMoonPositionsForDate(date)->size(), 25U);
 }
@@ -157,19 +157,20 @@ TEST_F(Positions, OfTheDayTakeTheMorningsOffsetForTheMoonAlone) {
   service().SetSelectedLocation(place);
   const Instant date = utc(2024, 3, 30, 22, 30);  // 00:30 on the day of the change
   expectSame(service().Get24HourSunPositionsForDate(date),
-             RiseAndSetCalc::Get24HourSunPositionsForDate(date, *place, 2 * kHour));
+             RiseAndSetCalc::Get24HourSunPositionsForDate(date, *place, 2 * secondsPerHour));
   expectSame(service().Get24HourMoonPositionsForDate(date),
-             RiseAndSetCalc::Get24HourMoonPositionsForDate(date, *place, 3 * kHour));
+             RiseAndSetCalc::Get24HourMoonPositionsForDate(date, *place, 3 * secondsPerHour));
 }
 
 TEST_F(Positions, TheMorningsOffsetIsThatAtNineOfThePlacesDay) {
   const TimeZone zone = *TimeZone::named("Europe/Helsinki");
   const Instant changeDay = utc(2024, 3, 30, 22, 30);
-  EXPECT_EQ(service().gmtIntervalForDate(changeDay, zone), 2 * kHour) << "30 March in the default zone";
+  EXPECT_EQ(service().gmtIntervalForDate(changeDay, zone), 2 * secondsPerHour)
+      << "30 March in the default zone";
   service().SetSelectedLocation(helsinki());
-  EXPECT_EQ(service().gmtIntervalForDate(changeDay, zone), 3 * kHour);
-  EXPECT_EQ(service().gmtIntervalForDate(utc(2024, 10, 26, 21, 30), zone), 2 * kHour);
-  EXPECT_EQ(service().gmtIntervalForDate(changeDay, *TimeZone::named("Asia/Tokyo")), 9 * kHour);
+  EXPECT_EQ(service().gmtIntervalForDate(changeDay, zone), 3 * secondsPerHour);
+  EXPECT_EQ(service().gmtIntervalForDate(utc(2024, 10, 26, 21, 30), zone), 2 * secondsPerHour);
+  EXPECT_EQ(service().gmtIntervalForDate(changeDay, *TimeZone::named("Asia/Tokyo")), 9 * secondsPerHour);
 }
 
 /// A zone in which clocks jump over nine in the morning every day.
@@ -187,7 +188,7 @@ TEST_F(Positions, TheMorningsOffsetIsThatOfTheDaysStartWhereNineIsSkipped) {
   place->timezone = TimeZone("NoNine", std::make_shared<NoNineOClock>());
   service().SetSelectedLocation(place);
   EXPECT_EQ(service().gmtIntervalForDate(utc(2024, 3, 31, 12), *TimeZone::named("Europe/Helsinki")),
-            2 * kHour);
+            2 * secondsPerHour);
 }
 
 PositionData at(double altitude, double azimuth) { return {altitude, azimuth, 0.0, "", ""}; }
@@ -199,18 +200,18 @@ double orientation(double moonAltitude, double moonAzimuth, double sunAltitude, 
 
 TEST_F(Positions, TheLitSideFacesUpOrDownWhereTheSunStandsAboveOrBelow) {
   EXPECT_EQ(orientation(20, 130, 50, 130), 0.0);
-  EXPECT_EQ(orientation(50, 130, 20, 130), kPi);
-  EXPECT_EQ(orientation(10, 130, -40, 130), kPi);
+  EXPECT_EQ(orientation(50, 130, 20, 130), pi);
+  EXPECT_EQ(orientation(10, 130, -40, 130), pi);
 }
 
 TEST_F(Positions, TheLitSideFacesTowardsTheSun) {
-  EXPECT_NEAR(orientation(0, 180, 0, 270), kPi / 2, 1e-15) << "toward increasing azimuth";
-  EXPECT_NEAR(orientation(0, 180, 0, 90), -kPi / 2, 1e-15);
-  EXPECT_NEAR(orientation(0, 350, 0, 80), kPi / 2, 1e-14) << "across north";
-  EXPECT_NEAR(orientation(30, 180, 0, 270), kPi / 2, 1e-15)
+  EXPECT_NEAR(orientation(0, 180, 0, 270), pi / 2, 1e-15) << "toward increasing azimuth";
+  EXPECT_NEAR(orientation(0, 180, 0, 90), -pi / 2, 1e-15);
+  EXPECT_NEAR(orientation(0, 350, 0, 80), pi / 2, 1e-14) << "across north";
+  EXPECT_NEAR(orientation(30, 180, 0, 270), pi / 2, 1e-15)
       << "a quarter away the moon's height does not count";
-  EXPECT_NEAR(orientation(0, 100, 45, 190), kPi / 4, 1e-15);
-  EXPECT_NEAR(orientation(0, 100, -45, 190), 3 * kPi / 4, 1e-15);
+  EXPECT_NEAR(orientation(0, 100, 45, 190), pi / 4, 1e-15);
+  EXPECT_NEAR(orientation(0, 100, -45, 190), 3 * pi / 4, 1e-15);
 }
 
 TEST_F(Positions, TheOrientationLiesWithinAHalfTurn) {
@@ -218,8 +219,8 @@ TEST_F(Positions, TheOrientationLiesWithinAHalfTurn) {
     for (double sunAltitude = -90; sunAltitude <= 90; sunAltitude += 15) {
       for (double azimuth = -360; azimuth <= 360; azimuth += 15) {
         const double angle = orientation(moonAltitude, 0, sunAltitude, azimuth);
-        EXPECT_GE(angle, -kPi);
-        EXPECT_LE(angle, kPi);
+        EXPECT_GE(angle, -pi);
+        EXPECT_LE(angle, pi);
         EXPECT_NEAR(std::sin(angle), -std::sin(orientation(moonAltitude, azimuth, sunAltitude, 0)), 1e-9);
       }
     }

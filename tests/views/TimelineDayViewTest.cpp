@@ -25,7 +25,7 @@ using testing::RecordingCanvas;
 using Texts = std::vector<std::string>;
 
 // What English puts between the hour and the half of the day.
-constexpr const char* kNarrowBlank = "\u202F";
+constexpr const char* narrowBlank = "\u202F";
 
 void select(const char* zone, std::int64_t customOffset = 0) {
   auto place = std::make_shared<GeoLocationData>();
@@ -144,7 +144,7 @@ TEST_F(TimelineDayViewTest, PlainHoursWhereTheClockCountsTo24) {
 TEST_F(TimelineDayViewTest, HoursWithTheHalfOfTheDayWhereItCountsTo12) {
   const ScopedLocale american("en_US");
   Texts expected = {"12 AM", "4 AM", "8 AM", "12 PM", "4 PM", "8 PM", "12 AM"};
-  for (std::string& label : expected) label.replace(label.find(' '), 1, kNarrowBlank);
+  for (std::string& label : expected) label.replace(label.find(' '), 1, narrowBlank);
   EXPECT_EQ(TimelineDayView::timelineLabels(), expected);
   EXPECT_EQ(drawnTexts().back(),
             "drawText \"" + expected.back() + "\" at 216.25 32 System bold 11 #B3B3B3FF");
@@ -191,7 +191,7 @@ TEST_F(TimelineDayViewTest, LabelsStayAsFirstMadeUntilTheProcessValuesAreReset) 
   select("Asia/Tokyo");
   EXPECT_EQ(TimelineDayView::timelineLabels(), first);
   ProcessValues::resetAll();
-  EXPECT_EQ(TimelineDayView::timelineLabels().front(), std::string("12") + kNarrowBlank + "AM");
+  EXPECT_EQ(TimelineDayView::timelineLabels().front(), std::string("12") + narrowBlank + "AM");
 }
 
 TEST_F(TimelineDayViewTest, TextsAreBoldCentredAndCut) {

@@ -25,10 +25,10 @@ struct Placemark {
 /// follows the date) or a fixed offset from GMT that the user chose. A mutable record, not thread-safe.
 class GeoLocationData {
  public:
-  double latitude = 0.0;            ///< degrees, north positive
-  double longitude = 0.0;           ///< degrees, east positive
-  std::int64_t secondsFromGMT = 0;  ///< offset given with a named zone; answers where that zone is missing
-  std::optional<std::string> name;  ///< as shown to the user
+  double latitude = 0.0;                  ///< degrees, north positive
+  double longitude = 0.0;                 ///< degrees, east positive
+  std::int64_t secondsFromGMT = 0;        ///< offset given with a named zone; used where that zone is missing
+  std::optional<std::string> name;        ///< as shown to the user
   std::optional<std::string> timezoneId;  ///< identifier of the named zone; none with a fixed offset
   std::optional<TimeZone> timezone;       ///< the zone found by `timezoneId`
   std::string locationText = "--";        ///< coordinates as text, "--" until they are set

@@ -9,7 +9,7 @@ namespace [[gnu::visibility("hidden")]] velmora {
 /// Asks for the events of one month after another as seen from a place.
 class MonthQuery {
  public:
-  /// `date` only tells the location's offset from GMT.
+  /// `date` is used for the location's offset from GMT alone.
   MonthQuery(Instant date, const GeoLocationData& location, bool use24HourTimeFormat)
       : _location(location),
         _secondsFromGMT(location.GetTimezoneIntervalFromGMT(date)),

@@ -67,8 +67,8 @@ class MoonPhaseCalc {
 
   // Calendars of a month
 
-  /// The phase, lit fraction and age of each day, 1 to the month's length. `table` is the year's; `date` only
-  /// tells the location's offset from GMT. (PhaseCalendar.cpp)
+  /// The phase, lit fraction and age of each day, 1 to the month's length. `table` is the year's; `date` is
+  /// used for the location's offset from GMT alone. (PhaseCalendar.cpp)
   /// Kept: between two principal phases the lit fraction is linear in whole days; a day without an event
   /// before it, where the tables begin, follows a full moon on day 0; after a month without a new moon the
   /// age starts at that month's length + 3.

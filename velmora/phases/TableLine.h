@@ -19,7 +19,7 @@ struct TableEvent {
 /// blanks counts as one, in a single pass: three blanks leave an empty field, and so no event.
 std::optional<TableEvent> readTableLine(std::string_view line, std::int64_t year, std::int64_t month);
 
-/// The phase of a code, told by exact comparison: "FM" 0, "FQ" 1, "LQ" 2, "NM" 3, anything else −1.
+/// The phase of a code, by exact comparison: "FM" 0, "FQ" 1, "LQ" 2, "NM" 3, anything else −1.
 std::int64_t phaseForCode(std::string_view code);
 
 /// The lit fraction of the disc at a principal phase: 1 full, 0.5 at the quarters, 0 new and for anything

@@ -38,7 +38,7 @@ class ArcTextView : public View {
   /// The point on a circle around the origin, the angle in radians.
   static Point pointOnArcWithAngle(double angle, double withRadius);
 
-  /// What holds the text and lays it out: the storage tells the manager, which fills the container.
+  /// The text and its layout: the storage notifies the manager, which fills the container.
   const std::shared_ptr<TextStorage>& textStorage() const { return _textStorage; }
   const std::shared_ptr<LayoutManager>& layoutManager() const { return _layoutManager; }
   const std::shared_ptr<TextContainer>& textContainer() const { return _textContainer; }

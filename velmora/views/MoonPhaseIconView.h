@@ -10,7 +10,7 @@ namespace velmora {
 struct PhaseItem;
 
 /// The phase disc of one day, as an icon on a clear background. It needs a frame, a day and, south of the
-/// equator, to be told so; nothing is drawn without a day. A changed property asks for a drawing.
+/// equator, `isSouthernHemisphere`; nothing is drawn without a day. A changed property asks for a drawing.
 class MoonPhaseIconView : public View {
  public:
   /// The day that is drawn.

@@ -67,7 +67,7 @@ void MoonPhaseYearView::clearSelection() {
   setNeedsDisplay();
 }
 
-// Whoever is told may let go of the view.
+// An observer may release the view.
 void MoonPhaseYearView::changeSelectedItem(std::shared_ptr<RiseSetPhaseItem> item) {
   const auto self = weak_from_this().lock();
   _selectedPhaseItem = item;

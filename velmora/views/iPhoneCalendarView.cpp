@@ -65,7 +65,7 @@ void iPhoneCalendarView::followSelectedDate() {
   setNeedsDisplay();
 }
 
-// Whoever is told may let go of the view, or start the service afresh.
+// An observer may release the view, or replace the service.
 void iPhoneCalendarView::changeSelectedDay(std::int64_t day) {
   const auto self = weak_from_this().lock();
   MoonPhaseData& service = MoonPhaseData::sharedInstance();

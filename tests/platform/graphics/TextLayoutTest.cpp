@@ -76,7 +76,6 @@ TEST_F(TextLayoutTest, ALineThatDoesNotClipHangsOut) {
 TEST_F(TextLayoutTest, GlyphsStandBehindThePaddingOfTheirLineFragment) {
   const TextLayout layout(text("123", TextAlignment::left));
   EXPECT_EQ(layout.glyphCount(), 3U);
-  EXPECT_EQ(layout.lineFragment(), (Rect{0, 0, 40, 20}));
   EXPECT_EQ(layout.glyphRect(0), (Rect{5, 0, 10, 20}));
   EXPECT_EQ(layout.glyphRect(2), (Rect{25, 0, 10, 20}));
   EXPECT_THROW(layout.glyphRect(3), std::out_of_range);

@@ -9,7 +9,7 @@
 namespace velmora {
 namespace {
 
-const std::filesystem::path kData = std::filesystem::path(sourceDirectory()) / "tests/data/resources";
+const std::filesystem::path dataFolder = std::filesystem::path(sourceDirectory()) / "tests/data/resources";
 
 TEST(Bundle, TheLibrarysIsFoundByItsIdentifier) {
   EXPECT_EQ(Bundle::library().identifier(), "velmora");
@@ -63,7 +63,7 @@ TEST(Bundle, AFolderOfThatNameIsNoResource) {
 
 TEST(Bundle, FindsPicturesInItsImagesFolderThenInItself) {
   const TemporaryFolder folder;
-  const std::string sample = readFile(kData / "images/sample.png").value();
+  const std::string sample = readFile(dataFolder / "images/sample.png").value();
   folder.write("images/moon.png", sample);
   folder.write("sun.png", sample);
   const Bundle bundle("test", folder.path());
@@ -79,7 +79,7 @@ TEST(Bundle, APictureThatIsMissingOrNoneIsLookedForAgain) {
   EXPECT_FALSE(bundle.image("moon"));
   folder.write("images/moon.png", "no picture");
   EXPECT_FALSE(bundle.image("moon"));
-  folder.write("images/moon.png", readFile(kData / "images/sample.png").value());
+  folder.write("images/moon.png", readFile(dataFolder / "images/sample.png").value());
   EXPECT_TRUE(bundle.image("moon"));
 }
 

@@ -13,10 +13,10 @@ std::string encodedSample() {
   return readFile(sourceDirectory() + "/tests/data/resources/images/sample.png").value();
 }
 
-const PixelBytes kPixels = {255, 0,   0,   255, 0, 255, 0, 255, 0, 0, 255, 255,  //
-                            128, 128, 128, 128, 1, 1,   0, 1,   0, 0, 0,   0};
-const PixelBytes kMirroredPixels = {0, 0, 255, 255, 0, 255, 0, 255, 255, 0,   0,   255,  //
-                                    0, 0, 0,   0,   1, 1,   0, 1,   128, 128, 128, 128};
+const PixelBytes givenPixels = {255, 0,   0,   255, 0, 255, 0, 255, 0, 0, 255, 255,  //
+                                128, 128, 128, 128, 1, 1,   0, 1,   0, 0, 0,   0};
+const PixelBytes mirroredPixels = {0, 0, 255, 255, 0, 255, 0, 255, 255, 0,   0,   255,  //
+                                   0, 0, 0,   0,   1, 1,   0, 1,   128, 128, 128, 128};
 
 TEST(Image, KnowsNameScaleAndPixelSize) {
   const auto image = Image::fromBytes("sample", encodedSample(), 2.0);
@@ -29,7 +29,7 @@ TEST(Image, KnowsNameScaleAndPixelSize) {
 }
 
 TEST(Image, PixelsArePremultipliedByAlpha) {
-  EXPECT_EQ(Image::fromBytes("sample", encodedSample())->pixels(), kPixels);
+  EXPECT_EQ(Image::fromBytes("sample", encodedSample())->pixels(), givenPixels);
 }
 
 TEST(Image, PixelsAreDecodedOnce) {
@@ -41,17 +41,17 @@ TEST(Image, AMirroredCopyExchangesLeftAndRight) {
   const auto image = Image::fromBytes("sample", encodedSample(), 2.0);
   const auto mirrored = image->mirrored();
   EXPECT_TRUE(mirrored->isMirrored());
-  EXPECT_EQ(mirrored->pixels(), kMirroredPixels);
+  EXPECT_EQ(mirrored->pixels(), mirroredPixels);
   EXPECT_EQ(mirrored->name(), "sample");
   EXPECT_EQ(mirrored->scale(), 2.0);
   EXPECT_EQ(mirrored->pixelSize(), image->pixelSize());
-  EXPECT_EQ(image->pixels(), kPixels) << "the original stays as it is";
+  EXPECT_EQ(image->pixels(), givenPixels) << "the original stays as it is";
 }
 
 TEST(Image, MirroringTwiceIsTheIdentity) {
   const auto twice = Image::fromBytes("sample", encodedSample())->mirrored()->mirrored();
   EXPECT_FALSE(twice->isMirrored());
-  EXPECT_EQ(twice->pixels(), kPixels);
+  EXPECT_EQ(twice->pixels(), givenPixels);
 }
 
 TEST(Image, BytesThatDoNotBeginLikeAPictureGiveNone) {

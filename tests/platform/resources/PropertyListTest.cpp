@@ -9,7 +9,7 @@
 namespace velmora {
 namespace {
 
-const std::filesystem::path kData = std::filesystem::path(sourceDirectory()) / "tests/data/resources";
+const std::filesystem::path dataFolder = std::filesystem::path(sourceDirectory()) / "tests/data/resources";
 
 /// An XML list around the given root.
 std::string xml(const std::string& root) {
@@ -67,8 +67,8 @@ TEST(PropertyList, OfAKeyThatStandsTwiceTheLastValueCounts) {
 }
 
 TEST(PropertyList, ReadsTheBinaryFormAsTheXmlForm) {
-  const auto binary = PropertyList::fromFile(kData / "table-binary.plist");
-  const auto text = PropertyList::fromFile(kData / "table-xml.plist");
+  const auto binary = PropertyList::fromFile(dataFolder / "table-binary.plist");
+  const auto text = PropertyList::fromFile(dataFolder / "table-xml.plist");
   EXPECT_EQ(described(binary), described(text));
   EXPECT_EQ(
       described(binary),
@@ -91,7 +91,7 @@ TEST(PropertyList, ATextThatIsNotUtf8IsNoText) {
 
 TEST(PropertyList, AFileCutShortAnywhereGivesNone) {
   for (const char* name : {"table-xml.plist", "table-binary.plist"}) {
-    const std::string whole = readFile(kData / name).value();
+    const std::string whole = readFile(dataFolder / name).value();
     const std::size_t end = whole.find_last_not_of('\n') + 1;
     for (std::size_t size = 0; size < end; ++size) {
       ASSERT_EQ(read(whole.substr(0, size)), "none") << name << " cut to " << size << " bytes";
@@ -101,7 +101,7 @@ TEST(PropertyList, AFileCutShortAnywhereGivesNone) {
 }
 
 TEST(PropertyList, AnyOneByteChangedInABinaryFileIsReadOrRefused) {
-  const std::string whole = readFile(kData / "table-binary.plist").value();
+  const std::string whole = readFile(dataFolder / "table-binary.plist").value();
   int refused = 0;
   for (std::size_t i = 0; i < whole.size(); ++i) {
     for (const char byte : {'\0', '\x01', '\x7F', '\xA1', '\xD1', '\xFF'}) {
@@ -135,7 +135,7 @@ std::string binary(const std::vector<std::string>& objects) {
          std::string(15, '\0') + table;
 }
 
-const std::string kFirstObject(1, '\0');
+const std::string firstObject(1, '\0');
 
 TEST(PropertyList, BinaryObjectsMayBeTextsInSeveralPlaces) {
   EXPECT_EQ(read(binary({"\xA2\x01\x01", "\x54moon"})), "[\"moon\", \"moon\"]");
@@ -147,8 +147,8 @@ TEST(PropertyList, BinaryObjectsMayBeTextsInSeveralPlaces) {
 }
 
 TEST(PropertyList, ABinaryListThatIsNoTreeGivesNone) {
-  EXPECT_EQ(read(binary({"\xA1" + kFirstObject})), "none") << "holds itself";
-  EXPECT_EQ(read(binary({"\xA1\x01", "\xA1" + kFirstObject})), "none") << "holds its holder";
+  EXPECT_EQ(read(binary({"\xA1" + firstObject})), "none") << "holds itself";
+  EXPECT_EQ(read(binary({"\xA1\x01", "\xA1" + firstObject})), "none") << "holds its holder";
   EXPECT_EQ(read(binary({"\xA1\x01", "\xA1\x02", "\xA1\x01"})), "none") << "a circle below the root";
   EXPECT_EQ(read(binary({"\xA1\x07"})), "none") << "no such object";
   std::vector<std::string> doubling;

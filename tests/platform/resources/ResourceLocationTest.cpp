@@ -9,14 +9,14 @@
 namespace velmora {
 namespace {
 
-const char* const kVariable = "VELMORA_TEST_RESOURCES";
+const char* const variable = "VELMORA_TEST_RESOURCES";
 
 class ResourceLocation : public testing::Test {
  protected:
-  void TearDown() override { unsetenv(kVariable); }
+  void TearDown() override { unsetenv(variable); }
 
   /// The places with an installed folder that lies under no prefix of this program.
-  static ResourcePlaces uninstalled() { return {kVariable, "no/such/folder", {}}; }
+  static ResourcePlaces uninstalled() { return {variable, "no/such/folder", {}}; }
 
   static std::filesystem::path besideTheCode() {
     return codeDirectories().at(0).parent_path() / "no/such/folder";
@@ -24,12 +24,12 @@ class ResourceLocation : public testing::Test {
 };
 
 TEST_F(ResourceLocation, IsWhereTheEnvironmentSays) {
-  setenv(kVariable, "/nowhere/resources", 1);
+  setenv(variable, "/nowhere/resources", 1);
   EXPECT_EQ(resourceDirectory(uninstalled()), "/nowhere/resources");
 }
 
 TEST_F(ResourceLocation, AnEmptyVariableSaysNothing) {
-  setenv(kVariable, "", 1);
+  setenv(variable, "", 1);
   EXPECT_EQ(resourceDirectory(uninstalled()), besideTheCode());
 }
 
@@ -52,7 +52,7 @@ TEST_F(ResourceLocation, IsFoundFromWhereTheCodeLies) {
 
 TEST_F(ResourceLocation, TheLastPrefixIsLookedUnderWhenAllElseFails) {
   const TemporaryFolder prefix;
-  ResourcePlaces places = {kVariable, "no/such/folder", prefix.path()};
+  ResourcePlaces places = {variable, "no/such/folder", prefix.path()};
   const std::filesystem::path installed = prefix.path() / places.installed;
   EXPECT_NE(resourceDirectory(places), installed) << "not installed there";
   std::filesystem::create_directories(installed);
@@ -63,7 +63,7 @@ TEST_F(ResourceLocation, TheLastPrefixIsLookedUnderWhenAllElseFails) {
 }
 
 TEST_F(ResourceLocation, TheEnvironmentStandsBeforeAnInstallation) {
-  setenv(kVariable, "/elsewhere", 1);
+  setenv(variable, "/elsewhere", 1);
   ResourcePlaces places = uninstalled();
   places.installed = codeDirectories().at(0).filename();
   EXPECT_EQ(resourceDirectory(places), "/elsewhere");

@@ -15,7 +15,7 @@ namespace {
 
 using testing::RecordingCanvas;
 
-constexpr double kQuarterTurn = 1.5707963267948966;
+constexpr double quarterTurn = 1.5707963267948966;
 
 void expectNear(Rect actual, Rect expected) {
   EXPECT_NEAR(actual.x, expected.x, 1e-9);
@@ -80,7 +80,7 @@ TEST(Layer, ShiftingThePositionWithTheAnchorPointLeavesTheLayerInPlace) {
 TEST(Layer, ATurnHappensAroundTheAnchorPoint) {
   Layer layer;
   layer.setFrame({0, 0, 100, 50});
-  layer.setAffineTransform(AffineTransform::rotation(kQuarterTurn));
+  layer.setAffineTransform(AffineTransform::rotation(quarterTurn));
   expectNear(layer.frame(), {25, -25, 50, 100});
   EXPECT_EQ(layer.untransformedFrame(), (Rect{0, 0, 100, 50}));
 
@@ -92,7 +92,7 @@ TEST(Layer, ATurnHappensAroundTheAnchorPoint) {
 TEST(Layer, AFrameSetUnderAQuarterTurnIsTheFrameOfTheTurnedLayer) {
   Layer layer;
   layer.setAnchorPoint({0, 0.25});
-  layer.setAffineTransform(AffineTransform::rotation(kQuarterTurn));
+  layer.setAffineTransform(AffineTransform::rotation(quarterTurn));
   layer.setFrame({10, 20, 30, 60});
   expectNear(layer.bounds(), {0, 0, 60, 30});
   expectNear(layer.frame(), {10, 20, 30, 60});
@@ -113,7 +113,7 @@ TEST(Layer, RectanglesAreConvertedIntoTheLayerAbove) {
   Layer layer;
   layer.setFrame({10, 20, 40, 30});
   EXPECT_EQ(layer.convertToSuperlayer({5, 7, 10, 2}), (Rect{15, 27, 10, 2}));
-  layer.setAffineTransform(AffineTransform::rotation(kQuarterTurn));
+  layer.setAffineTransform(AffineTransform::rotation(quarterTurn));
   expectNear(layer.convertToSuperlayer({0, 0, 40, 30}), {15, 15, 30, 40});
   expectNear(layer.convertToSuperlayer({0, 0, 10, 0}), {45, 15, 0, 10});
 }

@@ -104,12 +104,12 @@ TEST_F(SubviewLayoutTest, FollowsItsSuperviewsSize) {
 }
 
 TEST_F(SubviewLayoutTest, RowsOfAMonthAreStackedByTheirIntrinsicHeights) {
-  constexpr int kDays = 31;
+  constexpr int days = 31;
   std::vector<std::shared_ptr<View>> rows;
-  for (int day = 0; day < kDays; ++day) stack(rows, {View::noIntrinsicMetric, 80.0 + day});
+  for (int day = 0; day < days; ++day) stack(rows, {View::noIntrinsicMetric, 80.0 + day});
   root->layoutSubviews();
   double y = 0;
-  for (int day = 0; day < kDays; ++day) {
+  for (int day = 0; day < days; ++day) {
     EXPECT_EQ(rows[static_cast<std::size_t>(day)]->frame(), (Rect{0, y, 320, 80.0 + day}));
     y += 80.0 + day;
   }

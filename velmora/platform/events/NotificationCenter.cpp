@@ -21,7 +21,7 @@ NotificationCenter::Subscription NotificationCenter::subscribe(std::string_view 
 void NotificationCenter::post(std::string_view name) {
   const auto found = _observers.find(name);
   if (found == _observers.end()) return;
-  // A copy: observers may subscribe while they are told. Each is held until its call returns.
+  // A copy: observers may subscribe while they are called. Each is held until its call returns.
   const auto observers = found->second;
   for (const auto& subscribed : observers) {
     if (const auto observer = subscribed.lock()) (*observer)();

@@ -10,14 +10,15 @@
 
 namespace velmora {
 
-/// Tells observers by name that something changed. A notification is a name and carries no object: whoever
-/// is told asks the sender for its new state. For the main thread only.
+/// Calls observers by name when something has changed. A notification is a name and carries no object: the
+/// observer asks the sender for its new state. For the main thread only.
 ///
 /// While a notification is being posted, an observer may
-/// - subscribe: the new observer is not told of the post under way, but of every later one;
-/// - end a subscription, its own or another's: at once, so an observer not yet reached is not told any more;
+/// - subscribe: the new observer is called for every later post, not for the one under way;
+/// - end a subscription, its own or another's: at once, so an observer not yet reached is not called any
+/// more;
 /// - post, also the same name: the inner notification is delivered to all before the outer one goes on;
-/// - throw: the exception leaves `post`, the observers not yet reached are not told, and the centre stays
+/// - throw: the exception leaves `post`, the observers not yet reached are not called, and the centre stays
 ///   usable.
 class NotificationCenter {
  public:
@@ -50,10 +51,10 @@ class NotificationCenter {
   NotificationCenter(const NotificationCenter&) = delete;
   NotificationCenter& operator=(const NotificationCenter&) = delete;
 
-  /// Tells the observer of every later post of that name, until the subscription ends.
+  /// Calls the observer at every later post of that name, until the subscription ends.
   Subscription subscribe(std::string_view name, Observer observer);
 
-  /// Tells every observer of that name, in order of subscription, and returns when all have been told.
+  /// Calls every observer of that name, in order of subscription, and returns when all have returned.
   void post(std::string_view name);
 
  private:

@@ -7,7 +7,7 @@ namespace velmora {
 
 enum class FontWeight { regular = 400, medium = 500, semibold = 600, bold = 700 };
 
-/// A face asked for by family, size and weight. Which installed face answers is the text engine's choice.
+/// A face asked for by family, size and weight. Which installed face is used is the text engine's choice.
 struct Font {
   static constexpr double labelFontSize = 17;        ///< of labels, in points
   static constexpr double systemFontSize = 14;       ///< of standard text, in points

@@ -38,10 +38,10 @@ struct EdgeInsets {
   friend bool operator==(const EdgeInsets&, const EdgeInsets&) = default;
 };
 
-/// A rectangle: one corner and the way to the opposite one. Width and height may be negative; the area is
-/// then the same as that of the standardised rectangle, and so are the edges below.
+/// A rectangle: one corner and the distance to the opposite one. Width and height may be negative; the area
+/// is then the same as that of the standardised rectangle, and so are the edges below.
 struct Rect {
-  /// The corner, and the way to the opposite one.
+  /// The corner, and the distance to the opposite one.
   double x = 0;
   double y = 0;
   double width = 0;

@@ -39,7 +39,6 @@ class TextLayout {
   /// stands behind the padding.
   std::size_t glyphCount() const { return glyphBoxes().size(); }
   Rect glyphRect(std::size_t glyph) const;
-  Rect lineFragment() const { return {0, 0, width() + 2 * lineFragmentPadding, height()}; }
 
   /// Draws one glyph where it stands in a line fragment whose origin is the point.
   void drawGlyph(Canvas& canvas, std::size_t glyph, Point fragmentOrigin) const;

@@ -16,7 +16,7 @@ inline constexpr std::size_t maximumResourceSize = std::size_t{16} << 20;
 bool isFile(const std::filesystem::path& path);
 bool isFolder(const std::filesystem::path& path);
 
-/// What tells a file from what lay at its path before: when it was written, and its size.
+/// What distinguishes a file from an earlier one at the same path: when it was written, and its size.
 struct FileVersion {
   std::int64_t written = 0;
   std::uintmax_t size = 0;

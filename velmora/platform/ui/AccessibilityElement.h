@@ -39,8 +39,8 @@ class AccessibilityCustomAction : public std::enable_shared_from_this<Accessibil
   /// The text that the user chooses the action by.
   const std::string& name() const { return _name; }
 
-  /// Does it: the host says so when the user chose it. The action lives until the handler is done, even if
-  /// that lets go of the element.
+  /// Runs the handler: the host calls this when the user chose the action. The action lives until the handler
+  /// has returned, even if that releases the element.
   void activate() const {
     const auto self = weak_from_this().lock();
     if (_handler) _handler(*this);

@@ -15,7 +15,7 @@ enum class LayoutRelation { lessThanOrEqual, equal, greaterThanOrEqual };
 
 /// A demand on where views lie: an edge equals an edge of the same axis plus a constant, in points, or a size
 /// equals a constant. Equalities place views while they are active, the earlier ones first; one that
-/// contradicts these, or asks for a negative size, gives way. Inequalities can be looked up, but place
+/// contradicts these, or demands a negative size, is dropped. Inequalities can be looked up, but place
 /// nothing. A constraint does not keep its views alive.
 class LayoutConstraint {
  public:

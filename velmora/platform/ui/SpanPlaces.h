@@ -6,9 +6,9 @@
 
 namespace [[gnu::visibility("hidden")]] velmora {
 
-/// Where spans, views seen along one axis, begin and end. Told step by step how far edges lie from each
-/// other, the most important first; what contradicts the steps before it, or would make a span smaller than
-/// nothing, gives way to them. N spans take up to N log N time.
+/// Where spans, views seen along one axis, begin and end. Distances between edges are demanded one by one,
+/// the most important first. A demand that contradicts those before it, or would make a span's length
+/// negative, is dropped. N spans take up to N log N time.
 class SpanPlaces {
  public:
   /// An edge by its number; the origin, from which places count, is an edge too.

@@ -17,7 +17,7 @@ namespace [[gnu::visibility("hidden")]] velmora {
 ///    subview has with itself;
 /// 2. the intrinsic widths and heights of the subviews;
 /// 3. the sizes that the subviews have, then the places they have.
-/// What contradicts something stronger, or asks for a negative size, gives way, so every list of constraints
+/// What contradicts something stronger, or demands a negative size, is dropped, so every list of constraints
 /// has one definite layout. A subview that no such equality mentions keeps its frame. Equalities with views
 /// further down place nothing. Frames are those without the views' transforms.
 class [[gnu::visibility("hidden")]] SubviewLayout {

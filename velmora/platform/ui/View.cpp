@@ -86,7 +86,7 @@ void View::dropConstraintsOn(const View& leaving) {
   _layout.reset();
 }
 
-/// What a view demands of itself alone is heeded where it lies.
+/// A constraint on this view alone is solved with its superview's.
 void View::constraintsChanged() {
   _layout.reset();
   if (_superview != nullptr) _superview->_layout.reset();

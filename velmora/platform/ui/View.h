@@ -19,7 +19,7 @@ class LayoutConstraint;
 /// A host makes a topmost view, sets its frame, draws it with `render` whenever `needsDisplay` returns true,
 /// finds the view under a finger with `hitTest` and hands that view the touches. Views are held by
 /// std::shared_ptr: a view by the one it lies in; constraints and `superview` hold nothing. A view of the
-/// library that tells others something lives until its own call returns, even if they let go of it. For the
+/// library that notifies others lives until its own call returns, even if an observer releases it. For the
 /// main thread only.
 class View : public std::enable_shared_from_this<View> {
  public:

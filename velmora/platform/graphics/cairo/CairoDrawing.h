@@ -66,7 +66,7 @@ class [[gnu::visibility("hidden")]] CairoCanvas::Drawing {
   void drawFigure(const ShapeKey& key, const Path& path, const Rect& box, const std::function<void()>& draw);
   /// Draws without keeping the pixels.
   void drawOnce(const Rect& box, const std::function<void()>& draw);
-  /// Draws by way of pixels in a picture that has none.
+  /// Draws as pixels in a picture that is made of shapes, such as an SVG.
   void drawOverlay(const Rect& box, const std::function<void()>& draw);
   void notePaint(const Rect& box);
   void finishPendingClear();

@@ -22,7 +22,7 @@ struct ShapedLine {
     std::size_t byte;                 ///< where its character begins in the text
   };
 
-  std::uint64_t serial;  ///< tells it from every other line of the process
+  std::uint64_t serial;  ///< another for every line of the process
   TextMetrics metrics;
   std::vector<Glyph> glyphs;        ///< in reading order
   std::set<std::string> uncovered;  ///< the characters without a glyph

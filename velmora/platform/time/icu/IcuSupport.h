@@ -28,7 +28,7 @@ icu::Locale canonicalLocale(const std::string& identifier);
 /// one. One that ICU does not know is the root locale, never the one that ICU takes from the environment.
 icu::Locale icuLocale(const Locale& locale);
 
-/// A text that tells locales apart, for the keys of caches, also with something behind it.
+/// A text that differs between locales, for the keys of caches; other text may be appended.
 std::string cacheKey(const Locale& locale);
 
 /// The maker of the locale's own patterns, which the calling thread keeps; none if ICU's data is missing.

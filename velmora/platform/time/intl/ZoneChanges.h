@@ -9,7 +9,7 @@
 
 namespace [[gnu::visibility("hidden")]] velmora {
 
-/// What an engine answers of one zone; times are whole seconds since 1970.
+/// What an engine returns for one zone; times are whole seconds since 1970.
 struct ZoneQuestions {
   std::function<std::int64_t(std::int64_t)> offset;
   /// The next change after a time; the largest number if there is none, none where the engine cannot say.
