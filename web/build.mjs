@@ -138,6 +138,6 @@ export async function buildFile(module, folder, file) {
 if (process.argv[1] === fileURLToPath(import.meta.url)) {
   const [module, folder, file] = process.argv.slice(2);
   if (!folder) throw new Error("usage: node build.mjs MODULE FOLDER [FILE]");
-  await buildFolder(module, folder);
-  if (file) await buildFile(module, folder, file);
+  await buildFolder(module, resolve(folder));
+  if (file) await buildFile(module, resolve(folder), file);
 }

@@ -3,7 +3,7 @@ import assert from "node:assert/strict";
 import { readFile } from "node:fs/promises";
 import { createRequire } from "node:module";
 import { after, before, describe, test } from "node:test";
-import { at, desktop, drawn, focusedDay, hash, phone, press, Site, settled, tablet, text, views } from "./pages.mjs";
+import { at, desktop, drawn, focusedDay, hash, phone, press, Site, settled, text, views } from "./pages.mjs";
 
 const axe = await readFile(createRequire(import.meta.url).resolve("axe-core/axe.min.js"), "utf8");
 
@@ -24,7 +24,7 @@ describe("Access", () => {
   after(() => site.close());
 
   for (const [name, options] of Object.entries({
-    OnAPhone: { size: phone }, OnATablet: { size: tablet, scheme: "light" }, OnADesktopInTheLight: { size: desktop, scheme: "light" },
+    OnAPhone: { size: phone }, OnADesktopInTheLight: { size: desktop, scheme: "light" },
     InArabic: { language: "ar-EG" }, InJapanese: { language: "ja-JP" },
   })) {
     test(`NoViewViolatesARule${name}`, async () => {

@@ -23,7 +23,6 @@ export const isReal = process.env.VELMORA_MODULE !== undefined;
 export const helsinki = "lat=60.1699&lon=24.9384&zone=Europe/Helsinki&name=Helsinki";
 export const views = ["today", "month", "year", "riseset", "sky", "eclipses", "pictures", "place", "settings"];
 export const phone = { width: 390, height: 844, deviceScaleFactor: 2, isMobile: true, hasTouch: true };
-export const tablet = { width: 834, height: 1112, deviceScaleFactor: 1, hasTouch: true };
 export const desktop = { width: 1440, height: 900, deviceScaleFactor: 1 };
 
 export class Site {
