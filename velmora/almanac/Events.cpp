@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include <velmora/almanac/CivilDay.h>
 #include <velmora/almanac/Course.h>
 #include <velmora/almanac/DayRecord.h>
 #include <velmora/almanac/EventFinder.h>
@@ -124,11 +125,7 @@ std::vector<Day> days(const Place& place, const TimeZone& zone, std::chrono::yea
                       std::chrono::year_month_day last, const EventChoice& choice,
                       const Convention& convention) {
   if (!isValid(place) || !isValid(convention) || !mayBeCovered(first) || !mayBeCovered(last)) return {};
-  std::vector<Interval> intervals;
-  for (local_days date(first); date <= local_days(last); date += std::chrono::days(1)) {
-    if (const auto interval = civilDay(zone, std::chrono::year_month_day(date)))
-      intervals.push_back(*interval);
-  }
+  const std::vector<Interval> intervals = civilDays(zone, first, last);
   if (intervals.empty()) return {};
   const Interval all{intervals.front().start, intervals.back().end};
   if (!isCovered(all)) return {};
