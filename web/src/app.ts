@@ -28,6 +28,7 @@ export class App {
   choices!: Choices;
   /** The moment shown; none follows the clock. */
   private chosenMoment: number | undefined;
+  private remembering: ReturnType<typeof setTimeout> | undefined;
   private readonly store = new Store();
   private readonly listeners = new Set<(change: Change) => void>();
   /** What was wrong with the link that the page was opened by. */
@@ -119,6 +120,7 @@ export class App {
 
   go(view: ViewName): void {
     if (view === this.view) return;
+    this.remember();
     this.view = view;
     history.pushState(null, "", this.address());
     this.tell("all");
@@ -148,7 +150,7 @@ export class App {
   /** Shows a moment of the selected day. */
   showMoment(at: number): void {
     this.chosenMoment = Math.round(at / oneMinute) * oneMinute;
-    this.remember();
+    this.rememberSoon();
     this.tell("moment");
   }
 
@@ -277,7 +279,14 @@ export class App {
     });
   }
 
+  /** Browsers take an address only so often: while time is pulled along, the last one is enough. */
+  private rememberSoon(): void {
+    clearTimeout(this.remembering);
+    this.remembering = setTimeout(() => this.remember(), 200);
+  }
+
   private remember(): void {
+    clearTimeout(this.remembering);
     history.replaceState(null, "", this.address());
   }
 

@@ -1,7 +1,7 @@
 import type { App } from "./app";
 import type { Day } from "./days";
 import { h, s } from "./dom";
-import type { Body, DayInTheSky, HorizontalPosition, Moment, PhaseName, SkyEvent, SkyEventKind } from "./velmora";
+import type { Body, DayInTheSky, Moment, PhaseName, SkyEvent, SkyEventKind } from "./velmora";
 import { t, w } from "./words";
 
 export const phaseNames: Record<PhaseName, string> = {
@@ -53,24 +53,31 @@ function eventRow(app: App, body: Body, event: SkyEvent): Row {
   return [w(eventNames[body][event.kind]!), format.time(event.at), note];
 }
 
-function standing(app: App, { altitude, azimuth }: HorizontalPosition): Row {
-  return [w("Elevation"), app.format.degrees(altitude), app.format.direction(azimuth)];
+/** A body's day, and below it where the body stands at the moment that is shown. */
+export interface BodyCard {
+  readonly root: HTMLElement;
+  show(moment: Moment): void;
 }
 
-export function moonCard(app: App, sky: DayInTheSky, moment: Moment): HTMLElement {
-  return card(w("Moon"), [
-    ...eventRows(app, sky, "moon"),
-    standing(app, moment.moon),
-    [w("Distance"), app.format.kilometres(Math.round(moment.moon.distance))],
-  ]);
-}
-
-export function sunCard(app: App, sky: DayInTheSky, moment: Moment): HTMLElement {
-  return card(w("Sun"), [
-    ...eventRows(app, sky, "sun"),
-    standing(app, moment.sun),
-    [w("Daylight"), app.format.duration(sky.daylight)],
-  ]);
+export function bodyCard(app: App, sky: DayInTheSky, body: Body): BodyCard {
+  const { format } = app;
+  const altitude = h("span", {});
+  const direction = h("small", {});
+  const last = h("span", {}, format.duration(sky.daylight));
+  const fact = (label: string, ...values: Node[]): HTMLElement =>
+    h("div", { class: "fact" }, h("dt", {}, label), h("dd", {}, ...values));
+  const root = card(w(body === "moon" ? "Moon" : "Sun"), eventRows(app, sky, body));
+  root.querySelector("dl")!.append(fact(w("Elevation"), altitude, direction),
+    fact(w(body === "moon" ? "Distance" : "Daylight"), last));
+  return {
+    root,
+    show(moment) {
+      const position = moment[body];
+      altitude.textContent = format.degrees(position.altitude);
+      direction.textContent = format.direction(position.azimuth);
+      if (body === "moon") last.textContent = format.kilometres(Math.round(position.distance));
+    },
+  };
 }
 
 export function twilightCard(app: App, sky: DayInTheSky): HTMLElement {

@@ -68,7 +68,7 @@ function turned(context: CanvasRenderingContext2D, size: number, degrees: number
 function paint(context: CanvasRenderingContext2D, image: ImageBitmap, size: number, north: number): void {
   const width = size / discShare;
   context.save();
-  context.imageSmoothingQuality = "high";
+  context.imageSmoothingQuality = "medium";
   turned(context, size, north);
   context.drawImage(image, -width / 2, -width / 2, width, width);
   context.restore();

@@ -1,5 +1,5 @@
 import type { App } from "../app";
-import { moonCard, phaseNames, phasesCard, sunCard, twilightCard } from "../cards";
+import { type BodyCard, bodyCard, phaseNames, phasesCard, twilightCard } from "../cards";
 import { addDays } from "../days";
 import { h } from "../dom";
 import { eclipseCard } from "./eclipses";
@@ -30,6 +30,7 @@ export function todayScreen(app: App): Screen {
   const now = h("button", { type: "button", class: "plain", click: () => app.showNow() }, t("Now"));
   const glow = h("div", { class: "glow", "aria-hidden": "true" });
   const cards = h("div", { class: "cards" });
+  let bodies: BodyCard[] = [];
   const later = h("div", { class: "cards" });
 
   const step = (days: number, label: string, name: "back" | "forward"): HTMLElement =>
@@ -45,20 +46,22 @@ export function todayScreen(app: App): Screen {
 
   const showMoment = (): void => {
     const moment = app.moon.moment(app.at);
-    const sky = app.moon.skyOfDay(app.day);
     clock.textContent = app.format.time(app.at);
     now.hidden = app.followsClock;
     disc.view.setOptions(options());
     ruler.showMoment();
-    if (!moment || !sky) return;
+    if (!moment) return;
     phase.textContent = w(phaseNames[moment.phase]);
     lit.textContent = t("%1 lit", app.format.percent(moment.fraction));
     face.show(lightOf(app, moment));
     glow.style.opacity = String(0.15 + 0.85 * moment.fraction);
-    cards.replaceChildren(moonCard(app, sky, moment), sunCard(app, sky, moment), twilightCard(app, sky));
+    for (const body of bodies) body.show(moment);
   };
   const showDay = (): void => {
     date.textContent = app.format.fullDay(app.day);
+    const sky = app.moon.skyOfDay(app.day);
+    bodies = sky ? [bodyCard(app, sky, "moon"), bodyCard(app, sky, "sun")] : [];
+    cards.replaceChildren(...bodies.map(({ root }) => root), ...(sky ? [twilightCard(app, sky)] : []));
     ruler.showDay();
     showMoment();
     const eclipse = app.moon.nextEclipses(app.at, 1)[0];
