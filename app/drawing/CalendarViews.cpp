@@ -2,10 +2,12 @@
 
 #include <algorithm>
 
+#include <app/answers/Days.h>
 #include <app/answers/ShippedData.h>
 #include <app/drawing/Hosting.h>
 #include <app/text/Errors.h>
 #include <velmora/phases/Phase.h>
+#include <velmora/posters/SkyDisc.h>
 #include <velmora/service/MoonPhaseData.h>
 #include <velmora/views/MoonPhaseIconView.h>
 #include <velmora/views/MoonPhaseYearView.h>
@@ -34,9 +36,21 @@ std::int64_t phaseOfYear(const Request& request) {
   return phase;
 }
 
+/// With the zenith up.
+std::shared_ptr<View> makeTiltedDisc(const Query& query, Size size) {
+  const auto theme = themeOf(query);
+  auto disc = std::make_shared<SkyDisc>(query.place.observer(), presentOf(query), theme->lightTextColor,
+                                        theme->backgroundColor);
+  disc->setFrame(squareIn(size).inset(discMargin, discMargin));
+  auto host = makeHost(size);
+  host->addSubview(disc);
+  return host;
+}
+
 }  // namespace
 
 std::shared_ptr<View> makeDisc(const Query& query, Size size) {
+  if (query.request.drawing.isTilted) return makeTiltedDisc(query, size);
   MoonPhaseData& service = MoonPhaseData::sharedInstance();
   const auto phases = service.currentMonthPhaseDictionary();
   const auto theme = themeOf(query);

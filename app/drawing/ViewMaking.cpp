@@ -7,6 +7,7 @@
 #include <app/drawing/Hosting.h>
 #include <app/drawing/NightDrawing.h>
 #include <app/drawing/SkyViews.h>
+#include <app/drawing/YearPosterDrawing.h>
 #include <velmora/views/MoonCalendarView.h>
 #include <velmora/views/MoonPositionView.h>
 #include <velmora/views/TimelineDayView.h>
@@ -57,6 +58,7 @@ const ViewMaking& makingOf(const DrawableView& view) {
       {"azel", {fixedSize<390, 390>, makeElevationArc}},
       {"chart", {fixedSize<390, 390>, makeView<MoonPositionView>}},
       {"timeline", {timelineSize, makeTimeline}},
+      {"poster", {yearPosterSize, makeYearPoster}},
       {"night", {nightSize, makeNight}},
       {"darkness", {darknessSize, makeDarkness}},
   };

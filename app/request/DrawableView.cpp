@@ -15,7 +15,7 @@ const std::vector<DrawableView>& allViews() {
   static const std::vector<DrawableView> views = {
       {.name = "disc",
        .summary = "the phase of the day",
-       .options = {"theme"},
+       .options = {"theme", "tilt"},
        .titleFields = dayFields,
        .needsTables = true},
       {.name = "month",
@@ -48,6 +48,9 @@ const std::vector<DrawableView>& allViews() {
        .titleFields = momentFields},
       {.name = "chart", .summary = "a fixed example: the Moon's paths on five days"},
       {.name = "timeline", .summary = "the hours of a day", .titleFields = dayFields},
+      {.name = "poster",
+       .summary = "a poster: the Moons of the year, a column a month",
+       .options = {"theme", "paper", "landscape", "align", "tilt"}},
       {.name = "night",
        .summary = "a poster: Sun and Moon from noon to noon, twilights, moonlight",
        .options = {"theme", "paper"}},

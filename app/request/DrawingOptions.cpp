@@ -36,6 +36,10 @@ ThemeChoice theme(const std::string& text) {
                                    {"light", ThemeChoice::light}});
 }
 
+bool alignsWeekdays(const std::string& text) {
+  return oneOf<bool>(text, {{"date", false}, {"weekday", true}});
+}
+
 Paper paper(const std::string& text) {
   return oneOf<Paper>(
       text, {{"A4", Paper::a4}, {"A3", Paper::a3}, {"letter", Paper::letter}, {"24x36", Paper::inches24x36}});
@@ -113,6 +117,12 @@ std::vector<Option> drawingOptions() {
        "calendar or default, of posters dark or light", Text([](R& r, S& v) { r.drawing.theme = theme(v); })},
       {"paper", "NAME", "sheet of a poster: A4 (default), A3, letter or 24x36 inches",
        "A4, A3, letter or 24x36", Text([](R& r, S& v) { r.drawing.paper = paper(v); })},
+      {"landscape", "", "the sheet lies: months are rows", "",
+       Switch([](R& r) { r.drawing.isLandscape = true; })},
+      {"align", "NAME", "what days beside each other share: their date (default) or weekday",
+       "date or weekday", Text([](R& r, S& v) { r.drawing.alignsWeekdays = alignsWeekdays(v); })},
+      {"tilt", "", "the disc as it hangs in the sky of the place", "",
+       Switch([](R& r) { r.drawing.isTilted = true; })},
       {"calendar", "NAME", "days of a second calendar in brackets",
        "hebrew, islamic, buddhist, japanese, chinese or indian",
        Text([](R& r, S& v) { r.drawing.calendar = calendar(v); })},
@@ -134,8 +144,9 @@ const std::vector<std::string_view>& pictureOptions() {
 }
 
 const std::vector<std::string_view>& viewOptions() {
-  static const std::vector<std::string_view> names = {"theme",         "paper", "calendar", "week-start",
-                                                      "hide-eclipses", "phase", "heading"};
+  static const std::vector<std::string_view> names = {"theme", "paper",    "landscape",  "align",
+                                                      "tilt",  "calendar", "week-start", "hide-eclipses",
+                                                      "phase", "heading"};
   return names;
 }
 

@@ -27,6 +27,9 @@ struct DrawingRequest {
 
   std::optional<ThemeChoice> theme;  ///< the view's own unless given
   Paper paper = Paper::a4;           ///< of posters
+  bool isLandscape = false;          ///< whether the sheet lies
+  bool alignsWeekdays = false;       ///< whether the months of a poster begin at their weekday
+  bool isTilted = false;             ///< whether discs hang as they do in the sky
   AlternateCalendarType calendar = kNoAlternateCalendar;
   std::int64_t weekStartDay = 0;  ///< 0 is Sunday
   bool hidesEclipses = false;

@@ -48,7 +48,9 @@ std::string PosterTexts::number(std::int64_t number) const {
   return formatter.stringFromNumber(number);
 }
 
-std::string PosterTexts::percent(double share) const { return number(std::llround(100 * share)) + "%"; }
+std::string PosterTexts::percent(double share) const {
+  return words("%1%", {number(std::llround(100 * share))});
+}
 
 std::string PosterTexts::duration(Seconds length) const {
   const auto minutes = std::llround(length.count() / minute);
