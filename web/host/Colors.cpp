@@ -16,20 +16,21 @@ const DarkThemes& darkThemes() {
   return themes;
 }
 
-/// On paper the lit part of a disc is golden.
+/// On paper the lit part of a disc is golden, dark enough to be read as text. Bars are dark enough for the
+/// icons on them, which overlay makes lighter.
 VelmoraTheme lightTheme() {
-  constexpr Color gold = {0.68, 0.47, 0.08, 1}, paper = {0.98, 0.98, 0.99, 1}, night = {0.2, 0.25, 0.48, 1};
+  constexpr Color gold = {0.6, 0.41, 0.05, 1}, paper = {0.98, 0.98, 0.99, 1}, night = {0.2, 0.25, 0.48, 1};
   VelmoraTheme theme;
-  theme.defaultTextColor = Color::withWhite(0.25, 1);
+  theme.defaultTextColor = gold;
   theme.lightTextColor = gold;
-  theme.darkTextColor = Color::withWhite(0.3, 1);
+  theme.darkTextColor = Color::withWhite(0.15, 1);
   theme.selectedBackgroundColor = night;
   theme.selectedForegroundColor = {0.3, 0.36, 0.6, 1};
   theme.borderColor = Color::withWhite(0.72, 1);
   theme.backgroundColor = paper;
   theme.headerBackgroundColor = {0.89, 0.9, 0.95, 1};
-  theme.dayLightColor = {0.96, 0.8, 0.45, 0.75};
-  theme.moonLightColor = {0.72, 0.77, 0.92, 0.9};
+  theme.dayLightColor = {0.82, 0.62, 0.34, 1};
+  theme.moonLightColor = {0.58, 0.65, 0.88, 1};
   return theme;
 }
 

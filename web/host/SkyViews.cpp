@@ -123,6 +123,13 @@ class Compass : public HostedView {
     screen.addSubview(sky);
   }
 
+  /// The letters are light in every theme.
+  static void darken(TextLayer& letter) {
+    TextAttributes attributes = letter.attributedText().paragraph();
+    attributes.color = VelmoraTheme::calendarTheme()->darkTextColor;
+    letter.setAttributedText(AttributedText(letter.attributedText().text(), attributes));
+  }
+
   static std::shared_ptr<View> makeHolder(Rect frame) {
     auto holder = std::make_shared<View>();
     holder->setFrame(frame);
@@ -135,6 +142,10 @@ class Compass : public HostedView {
     ring->setRadius(static_cast<float>(std::max(radius, 0.0)));
     ring->setStrokeColor(VelmoraTheme::calendarTheme()->darkTextColor);
     ring->updateLayer();
+    for (const auto& letter :
+         {ring->northLabel(), ring->eastLabel(), ring->southLabel(), ring->westLabel()}) {
+      if (Session::shared().settings().isLight) darken(*letter);
+    }
     return ring;
   }
 };

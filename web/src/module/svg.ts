@@ -43,6 +43,7 @@ function outlineOf(operations: OperationReader): string {
 class Writer {
   readonly #parts: string[] = [];
   readonly #states: State[] = [];
+  readonly #pictures = new Set<string>();
   #clips = 0;
   #state: State = {
     matrix: [1, 0, 0, 1, 0, 0], fill: "#000", stroke: "#000", lineWidth: 1, dash: [], dashOffset: 0, alpha: 1,
@@ -157,13 +158,19 @@ class Writer {
     this.#open(`<g clip-path="url(#${id})">`);
   }
 
+  /** Each picture stands in the file once. */
   #image(): void {
     const [number, isMirrored, x, y, width, height] = this.operations.take(6);
+    const id = `picture${number!}`;
+    if (!this.#pictures.has(id)) {
+      this.#pictures.add(id);
+      const href = this.pictures.dataUrl(number!);
+      this.#parts.push(`<defs><image id="${id}" href="${href}" width="1" height="1" preserveAspectRatio="none"/></defs>`);
+    }
+    const place = isMirrored ? [-width!, 0, 0, height!, x! + width!, y!] : [width!, 0, 0, height!, x!, y!];
     this.#save();
-    if (isMirrored) this.#set({ matrix: product([-1, 0, 0, 1, 2 * x! + width!, 0], this.#state.matrix) });
-    this.#add("image", {
-      href: this.pictures.dataUrl(number!), x: x!, y: y!, width: width!, height: height!, preserveAspectRatio: "none",
-    });
+    this.#set({ matrix: product(place, this.#state.matrix) });
+    this.#add("use", { href: `#${id}` });
     this.#restore();
   }
 
