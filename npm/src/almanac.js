@@ -137,11 +137,12 @@ function convention(core, given) {
   return at;
 }
 
-/** How many days there are from one to the other, both included; at least one. */
+/** The most days that there can be to answer from one to the other, both included. */
 function dayCount(first, last) {
-  const millisecondsPerDay = 86_400_000;
+  const millisecondsPerDay = 86_400_000, daysAnswered = 73_414; // 1900 to 2100
   const start = ({year, month, day}) => Date.UTC(year, month - 1, day);
-  return Math.max((start(last) - start(first)) / millisecondsPerDay + 1, 1);
+  const count = (start(last) - start(first)) / millisecondsPerDay + 1;
+  return count >= 1 ? Math.min(count, daysAnswered) : 1;
 }
 
 const wanted = ({twilight = true, transits = true}) =>
@@ -205,9 +206,9 @@ class Almanac {
   position(place, body, at) { return this.positions(place, body, [at])[0]; }
 
   positions(place, body, instants) {
-    const number = choice(bodies, body, 'body');
+    const chosen = choice(bodies, body, 'body');
     return this.#atInstants(instants, POSITION, position, (at, count, answers) =>
-      this.#core.ask(this.#c._velmora_positions, this.#core.place(place), number, at, count, answers));
+      this.#core.ask(this.#c._velmora_positions, this.#core.place(place), chosen, at, count, answers));
   }
 
   illumination(place, at) { return this.illuminations(place, [at])[0]; }

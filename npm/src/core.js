@@ -5,6 +5,7 @@ const NONE = 2; // VELMORA_NONE
 // Where in the scratch memory an argument or an answer lies.
 const PLACE = 0, DATE = 24, LAST_DATE = 40, CONVENTION = 56, COUNT = 80, EVENT_COUNT = 84, ANSWER = 88;
 const scratchSize = 416;
+const mostMemory = 2 ** 31;
 
 /** The module compiled, of what is given or of the file at the URL. */
 async function compiled(given, url) {
@@ -86,8 +87,9 @@ export class Core {
 
   reserve(size) {
     this.module._free(this.items ?? 0);
-    this.items = this.module._malloc(size);
-    this.room = size;
+    this.items = size <= mostMemory ? this.module._malloc(size) : 0;
+    this.room = this.items ? size : 0;
+    if (!this.items) throw new RangeError('more is asked for than memory holds');
   }
 
   /** The handle of a zone; kept, as there are few. */

@@ -49,6 +49,9 @@ range(() => almanac.day(helsinki, 'UTC', {...day, year: 2 ** 32 + 2024}),
 type(() => almanac.day(helsinki, 'UTC', anything), 'date is no date of year, month, day');
 range(() => almanac.days(helsinki, 'UTC', day, {...day, day: 20}), 'last lies before first');
 
+range(() => almanac.days(helsinki, 'UTC', day, {...day, year: 200_000}), 'last is no day of the calendar');
+range(() => almanac.days(helsinki, 'UTC', day, {...day, year: 2200}), 'last lies outside the years 1900 to 2100');
+
 range(() => almanac.next(helsinki, 'sun', 'rise', now, {convention: {horizonRefraction: 11}}),
   'an angle of the convention lies outside 0 to 10 degrees');
 range(() => almanac.next(helsinki, 'sun', 'rise', now, {convention: {limb: 'left' as any}}),
