@@ -8,6 +8,7 @@ import type { Screen } from "./screens/screen";
 import { settingsScreen } from "./screens/settings";
 import { skyScreen } from "./screens/sky";
 import { todayScreen } from "./screens/today";
+import { printViews } from "./printing";
 import { openShare } from "./share";
 import { t } from "./words";
 
@@ -91,12 +92,15 @@ export async function startPage(surroundings: Surroundings): Promise<(takeOver: 
   changed("all");
   if (app.linkFault) shell.warn(faultText(app));
 
+  printViews(app, () => screen?.view);
   addEventListener("hashchange", () => {
     app.followAddress();
     if (app.linkFault) shell.warn(faultText(app));
   });
   for (const query of ["(prefers-color-scheme: light)", "(min-width: 760px) and (min-height: 600px)"]) {
-    matchMedia(query).addEventListener("change", () => app.settingsChanged());
+    matchMedia(query).addEventListener("change", () => {
+      if (!matchMedia("print").matches) app.settingsChanged();  // a sheet of paper is no other device
+    });
   }
   addEventListener("languagechange", () => void app.choose({ language: app.choices.language }));
   const minute = (): void => {

@@ -43,7 +43,7 @@ export const loadVelmora: V.LoadVelmora = async (o) => {
         setOptions(o) { options = o; mark(); }, draw() { if (needs) paint(canvas, day); needs = false; }, drawDay(d, cv) { paint(cv, d); }, get needsDisplay() { return needs; },
         onNeedsDisplay(f) { ls.add(f); return () => ls.delete(f); }, ready: async () => {}, touchBegan() {}, touchMoved() {}, touchCancelled() {},
         touchEnded(x, y) { const c = elements().find((e) => e.day && x >= e.frame.x && x < e.frame.x + e.frame.width && y >= e.frame.y && y < e.frame.y + e.frame.height); if (c?.day) moon.selectDay(c.day); },
-        scrollOffset: (day.day - 1) * 90, elements, perform(i) { const d = elements()[i]?.day; if (d) moon.selectDay(d); }, svg: () => "<svg/>", png: async () => new Blob(), close() { dirty.delete(mark); } };
+        scrollOffset: (day.day - 1) * 90, elements, perform(i) { const d = elements()[i]?.day; if (d) moon.selectDay(d); }, svg: () => `<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 9 9"><circle cx="4" cy="4" r="4"/></svg>`, png: async () => new Blob(), close() { dirty.delete(mark); } };
       return v;
     },
     skyOfDay(d) { const start = instantOf(d, 0, place.zone), end = instantOf(addDays(d, 1), 0, place.zone); const events: V.SkyEvent[] = [];

@@ -274,6 +274,18 @@ describe("Page", () => {
     await page.context.close();
   });
 
+  test("APrintedViewIsADrawingAndGoesAfterwards", async () => {
+    const page = await site.visitor();
+    await site.show(page, at("month"));
+    await page.evaluate(() => dispatchEvent(new Event("beforeprint")));
+    await page.emulateMediaType("print");
+    assert.equal(await page.$eval(".printed svg", (drawing) => drawing.getBoundingClientRect().height > 100), true);
+    await page.evaluate(() => dispatchEvent(new Event("afterprint")));
+    assert.equal(await page.$(".printed"), null);
+    assert.deepEqual(page.faults, []);
+    await page.context.close();
+  });
+
   test("TheLightAndTheSizeOfTheDeviceAreFollowed", async () => {
     const page = await site.visitor({ size: phone, scheme: "dark" });
     await site.show(page, at("month"));
