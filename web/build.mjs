@@ -131,7 +131,7 @@ export async function buildFile(module, folder, file) {
     .replace(/href="icons\/icon-192\.png"/, `href="data:image/png;base64,${icon}"`)
     .replace(/<link rel="stylesheet"[^>]*>/, () => `<style>${style}</style>`)
     .replace(/<script type="module"[^>]*><\/script>\n/, "")
-    .replace("</body>", () => `${parts.join("")}<script type="module">${script.text}</script>\n</body>`);
+    .replace("</head>", () => `${parts.join("")}<script type="module">${script.text}</script>\n</head>`);
   await writeFile(file, page);
 }
 

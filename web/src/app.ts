@@ -224,7 +224,10 @@ export class App {
 
   private async loadTexts(): Promise<void> {
     const language = this.language;
-    const texts = language === "en" ? {} : await this.surroundings.json(`words/${language}.json`).catch(() => ({}));
+    const texts = language === "en" ? {} : await this.surroundings.json(`words/${language}.json`).catch((error: unknown) => {
+      console.error(error);
+      return {};
+    });
     setTexts(texts as Record<string, string>);
     document.documentElement.lang = this.language;
     document.documentElement.dir = this.isRightToLeft ? "rtl" : "ltr";
