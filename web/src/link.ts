@@ -41,7 +41,6 @@ function placeOf(fields: URLSearchParams, isZone: (name: string) => boolean): Pl
   const zone = fields.get("zone");
   const name = fields.get("name") ?? "";
   if (latitude === undefined || longitude === undefined || zone === null || !isZone(zone)) return undefined;
-  // eslint-disable-next-line no-control-regex
   if ([...name].length > longestName || /[\u0000-\u001f\u007f-\u009f\u2028\u2029\ufffd]/.test(name)) return undefined;
   return { latitude, longitude, zone, name };
 }
