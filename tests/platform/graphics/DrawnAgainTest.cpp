@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <malloc.h>
 
 #include <functional>
 #include <map>
@@ -355,6 +356,26 @@ TEST(DrawnAgain, MoreShapesThanAreKeptLookTheSame) {
   const PictureBytes first = ellipse(0);
   for (int narrowing = 1; narrowing < 70; ++narrowing) ellipse(narrowing);
   EXPECT_EQ(ellipse(0), first);
+}
+
+// A window may keep one canvas for as long as it is open. Sanitizers count no memory here.
+TEST(DrawnAgain, OnOneCanvasTheSameDrawingTakesNoMoreMemory) {
+  CairoCanvas canvas(PictureFormat::png, size, scale);
+  const auto bytesInUseAfter = [&](int drawings) {
+    for (int i = 0; i < drawings; ++i) {
+      canvas.setFillColor(Color::white());
+      canvas.fillRect({0, 0, 60, 40});
+      canvas.beginGroup(0.5);
+      canvas.setFillColor(Color::black());
+      canvas.fillEllipse({i % 30 + 0.0, i % 20 + 0.0, 20, 20});
+      canvas.clearRect({10, 10, 5, 5});
+      canvas.endGroup();
+    }
+    const auto inUse = mallinfo2();
+    return inUse.uordblks + inUse.hblkhd;
+  };
+  const std::size_t before = bytesInUseAfter(1000);
+  EXPECT_LT(bytesInUseAfter(10'000), before + 100'000);
 }
 
 }  // namespace

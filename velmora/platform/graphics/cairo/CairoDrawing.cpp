@@ -117,7 +117,7 @@ CairoCanvas::Drawing::Drawing(PictureFormat pictureFormat, Size pictureSize, dou
       _isVector(format != PictureFormat::png),
       _keepsShapes(!_isVector),
       _states(context()),
-      _painted(background) {
+      _painted(background, _isVector) {
   cairo_set_line_width(context(), 1);
   if (!_isVector) cairo_scale(context(), scale, scale);
   cairo_set_tolerance(context(), curveTolerance(pixelsAPoint(context())));
@@ -130,7 +130,7 @@ CairoCanvas::Drawing::Drawing(cairo_t* host, Size hostSize)
       _isVector(isRecorded(cairo_get_group_target(host))),
       _keepsShapes(cairo_surface_get_type(cairo_get_group_target(host)) == CAIRO_SURFACE_TYPE_IMAGE),
       _states(host),
-      _painted(background) {
+      _painted(background, _isVector) {
   cairo_save(host);
   cairo_new_path(host);
   cairo_rectangle(host, 0, 0, size.width, size.height);

@@ -4,6 +4,21 @@
 #include <utility>
 
 namespace [[gnu::visibility("hidden")]] velmora {
+namespace {
+
+bool holds(const Rect& outer, const Rect& inner) { return outer.intersection(inner) == inner; }
+
+}  // namespace
+
+void PaintedLayers::note(const Rect& box) {
+  Layer& layer = _layers.back();
+  if (!_knowsColors) {
+    const auto isHeld = [&](const Paint& paint) { return holds(paint.box, box); };
+    if (box.isEmpty() || std::any_of(layer.begin(), layer.end(), isHeld)) return;
+    std::erase_if(layer, [&](const Paint& paint) { return holds(box, paint.box); });
+  }
+  layer.push_back({box, {}, {}});
+}
 
 void PaintedLayers::end() {
   const Layer painted = std::move(_layers.back());
@@ -26,8 +41,7 @@ std::optional<Color> PaintedLayers::colorBelow(const Rect& rect) const {
   for (auto layer = _layers.rbegin() + 1; layer != _layers.rend(); ++layer) {
     const auto topmost = std::find_if(layer->rbegin(), layer->rend(), isThere);
     if (topmost == layer->rend()) continue;
-    const bool coversAll = topmost->filled.intersection(rect) == rect;
-    return coversAll ? std::optional(topmost->color) : std::nullopt;
+    return holds(topmost->filled, rect) ? std::optional(topmost->color) : std::nullopt;
   }
   return _background.alpha >= 1 ? std::optional(_background) : std::nullopt;
 }

@@ -12,21 +12,23 @@ namespace [[gnu::visibility("hidden")]] velmora {
 /// that cannot clear paints its holes with what they show.
 class PaintedLayers {
  public:
-  /// The background lies below them all.
-  explicit PaintedLayers(const Color& background) : _background(background) {}
+  /// The background lies below them all. Colours are known only if `knowsColors`; without them a layer holds
+  /// no more paints than lie beside each other, however long it is drawn on.
+  PaintedLayers(const Color& background, bool knowsColors)
+      : _background(background), _knowsColors(knowsColors) {}
 
   void begin() { _layers.emplace_back(); }
   /// Lays the topmost down onto the one below it.
   void end();
 
   /// Notes that something was painted within the rectangle.
-  void note(const Rect& box) { _layers.back().push_back({box, {}, {}}); }
-  /// Notes of the last paint that it filled the rectangle with the opaque colour.
+  void note(const Rect& box);
+  /// Notes of the last paint that it filled the rectangle with the opaque colour. For layers with colours.
   void noteFilled(const Rect& rect, const Color& color);
 
   /// Whether anything was painted within the rectangle on the topmost layer.
   bool isPainted(const Rect& rect) const;
-  /// What a hole in the topmost layer shows, if that is one opaque colour.
+  /// What a hole in the topmost layer shows, if that is one opaque colour. For layers with colours.
   std::optional<Color> colorBelow(const Rect& rect) const;
 
  private:
@@ -38,6 +40,7 @@ class PaintedLayers {
   using Layer = std::vector<Paint>;
 
   Color _background;
+  bool _knowsColors;
   std::vector<Layer> _layers{Layer()};
 };
 
