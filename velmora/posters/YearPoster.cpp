@@ -75,7 +75,7 @@ class YearDrawing {
     const std::size_t first = firstLine(month, alignment, _style.firstWeekday);
     const unsigned last = static_cast<unsigned>((month / std::chrono::last).day());
     for (unsigned day = 1; day <= last; ++day) {
-      const MoonDay* const moon = _moons.find(month / day);
+      const MoonDay* const moon = _moons.find(month / std::chrono::day(day));
       if (moon) drawDay(*moon, _layout.cell(column, first + day - 1));
     }
   }
@@ -161,7 +161,7 @@ void YearPoster::compose(Sheet& sheet) const {
   drawing.drawTitle(_year, place().name);
   drawing.drawLegend();
   drawing.drawLineNames();
-  for (unsigned month = 1; month <= 12; ++month) drawing.drawMonth(_year / month);
+  for (unsigned month = 1; month <= 12; ++month) drawing.drawMonth(_year / std::chrono::month(month));
   drawing.drawNotes();
 }
 
