@@ -12,7 +12,7 @@ namespace {
 using std::chrono::local_days;
 using std::chrono::year_month_day;
 
-constexpr std::chrono::minutes valueStep{15};
+constexpr std::chrono::minutes valueStep{30};
 constexpr double horizonRefraction = 34.0 / 60;
 constexpr double brightTwilight = -6, darkTwilight = -12;  // between them moonlight begins to show
 

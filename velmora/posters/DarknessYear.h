@@ -10,7 +10,7 @@
 
 namespace [[gnu::visibility("hidden")]] velmora {
 
-/// A night from noon to noon as its clocks show it: values at each quarter of an hour. Hours that the clocks
+/// A night from noon to noon as its clocks show it: values at each half hour. Hours that the clocks
 /// repeat count once, of hours that they skip there is the moment after the change.
 struct NightRow {
   std::chrono::year_month_day evening;
@@ -24,7 +24,7 @@ struct NightRow {
 /// The nights of a year.
 struct DarknessYear {
   /// From noon to noon.
-  static constexpr std::size_t valuesOfRow = 24 * 4 + 1;
+  static constexpr std::size_t valuesOfRow = 24 * 2 + 1;
 
   std::vector<NightRow> nights;
   /// In each month the longest time for which it is fully dark without the Moon; none where it never is.

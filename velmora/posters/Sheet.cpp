@@ -7,6 +7,9 @@
 namespace [[gnu::visibility("hidden")]] velmora {
 namespace {
 
+/// By which a text that was made to fit may still be too wide: a size of its own is a font to look up.
+constexpr double rounding = 0.01;
+
 double unitOf(Size size) {
   const Size a4 = paperSize(Paper::a4, size.width > size.height);
   return std::min(size.width / a4.width, size.height / a4.height);
@@ -81,7 +84,7 @@ void Sheet::label(const std::string& text, Rect room, const LabelStyle& style) {
   wanted.alignment = alignment(style.side, _isRightToLeft);
   TextLayout line(AttributedText(text, wanted));
   const double wantedWidth = line.width();
-  if (wantedWidth > room.width) {
+  if (wantedWidth > room.width * (1 + rounding)) {
     wanted.font.size *= std::max(leastShare, room.width / wantedWidth);
     line = TextLayout(AttributedText(text, wanted));
   }

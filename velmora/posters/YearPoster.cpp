@@ -32,7 +32,8 @@ class YearDrawing {
         _local(place.zone),
         _plain(TimeZone::fixed(0)),
         _palette(sheet.palette()),
-        _unit(sheet.unit()) {}
+        _unit(sheet.unit()),
+        _timeStyle(timeStyle()) {}
 
   void drawTitle(std::chrono::year year, const std::string& place) const {
     _sheet.label(words("Phases of the Moon"), _layout.caption,
@@ -54,7 +55,7 @@ class YearDrawing {
       drawMoon(_sheet, {room.midX(), room.y + radius}, radius, upright(moon, _isSouthern));
       _sheet.label(phaseName(phase),
                    {room.x + 2 * _unit, room.y + 2 * radius + 6 * _unit, room.width - 4 * _unit, 13 * _unit},
-                   {9 * _unit, _palette.quiet, Side::middle});
+                   {8.5 * _unit, _palette.quiet, Side::middle});
     }
   }
 
@@ -62,7 +63,7 @@ class YearDrawing {
     std::vector<std::string> names;
     for (std::size_t i = 0; i < _layout.lineCount(); ++i) names.push_back(lineName(i));
     const double gap = 1.5 * _unit, width = _layout.lineNames.front().width - 2 * gap;
-    const LabelStyle style = Sheet::fitting({7 * _unit, _palette.quiet, Side::middle}, names, width);
+    const LabelStyle style = Sheet::fitting({6.5 * _unit, _palette.quiet, Side::middle}, names, width);
     for (std::size_t i = 0; i < names.size(); ++i)
       _sheet.label(names[i], _layout.lineNames[i].inset(gap, 0), style);
   }
@@ -105,18 +106,26 @@ class YearDrawing {
     return _weekdays.at((line + _style.firstWeekday) % daysInWeek);
   }
 
+  Side sideOfTexts() const { return _layout.hasColumns ? Side::leading : Side::middle; }
+
+  /// One size for the times of all phases.
+  LabelStyle timeStyle() const {
+    std::vector<std::string> times;
+    for (const MoonDay& day : _moons.days)
+      if (day.phase) times.push_back(_local.time(day.phase->at));
+    return Sheet::fitting({5.6 * _unit, _palette.accent, sideOfTexts(), FontWeight::semibold}, times,
+                          _layout.cell(0, 0).time.width);
+  }
+
   void drawDay(const MoonDay& day, const YearLayout::Cell& cell) const {
     drawMoon(_sheet, cell.center, cell.radius,
              _style.isTilted ? tilted(day.moon) : upright(day.moon, _isSouthern));
     if (day.eclipse) drawRing(cell);
     const bool isPrincipal = day.phase.has_value();
-    const Side side = _layout.hasColumns ? Side::leading : Side::middle;
     _sheet.label(_plain.number(static_cast<unsigned>(day.date.day())), cell.day,
-                 {6.5 * _unit, isPrincipal ? _palette.ink : _palette.quiet, side,
+                 {6.5 * _unit, isPrincipal ? _palette.ink : _palette.quiet, sideOfTexts(),
                   isPrincipal ? FontWeight::bold : FontWeight::regular});
-    if (isPrincipal)
-      _sheet.label(_local.time(day.phase->at), cell.time,
-                   {5.6 * _unit, _palette.accent, side, FontWeight::semibold});
+    if (isPrincipal) _sheet.label(_local.time(day.phase->at), cell.time, _timeStyle);
   }
 
   void drawRing(const YearLayout::Cell& cell) const {
@@ -141,6 +150,7 @@ class YearDrawing {
   const std::vector<std::string> _weekdays = DateFormatter::shortWeekdaySymbols(localeOfWords());
   const Palette& _palette;
   const double _unit;
+  const LabelStyle _timeStyle;
 };
 
 }  // namespace
