@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <chrono>
+#include <cmath>
 #include <limits>
 #include <string>
 #include <vector>
@@ -99,6 +100,29 @@ TEST(AlmanacDay, OfClockChangesIsAsLongAsTheClocksMakeIt) {
   }
   const auto lordHowe = dayOf({-31.55, 159.0833}, "Australia/Lord_Howe", 2024y / April / 7);
   EXPECT_EQ((lordHowe->end - lordHowe->start).count() / 3600, 24.5);
+}
+
+TEST(AlmanacDay, OfTheShortestTimeThereIsIsWhollyDayOrNight) {
+  constexpr double never = std::numeric_limits<double>::infinity();
+  const auto after = [](Instant at) {
+    return instantFromUnixSeconds(std::nextafter(unixSeconds(at), never));
+  };
+  const auto before = [](Instant at) {
+    return instantFromUnixSeconds(std::nextafter(unixSeconds(at), -never));
+  };
+  const Instant midnight = sys_days(2024y / January / 1), noon = midnight + hours(12);
+  const Instant end = ephemeris::endInstant(), first = ephemeris::firstInstant();
+  for (const auto& [from, to] : {Interval{midnight, after(midnight)}, Interval{before(midnight), midnight},
+                                 Interval{instantFromUnixSeconds(0), instantFromUnixSeconds(1e-320)},
+                                 Interval{before(end), end}, Interval{first, after(first)}}) {
+    const auto found = day({51.5, 0}, from, to);
+    ASSERT_TRUE(found) << unixSeconds(from);
+    EXPECT_TRUE(found->events.empty());
+    EXPECT_EQ(found->sun, AllDay::down);
+    EXPECT_EQ(found->darkness, to - from);
+  }
+  EXPECT_EQ(day({51.5, 0}, noon, after(noon))->sun, AllDay::up);
+  EXPECT_EQ(day({51.5, 0}, before(noon), noon)->sun, AllDay::up);
 }
 
 TEST(AlmanacDay, IsNoneWhereApiaSkippedIt) {

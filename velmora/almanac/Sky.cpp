@@ -11,8 +11,11 @@ namespace almanac {
 using ephemeris::Body;
 
 Sky::Blocks Sky::blocksOf(Instant start, Instant end) {
-  const auto first = static_cast<std::int64_t>(std::floor(unixSeconds(start) / blockSeconds));
-  const auto past = static_cast<std::int64_t>(std::ceil(unixSeconds(end) / blockSeconds));
+  auto first = static_cast<std::int64_t>(std::floor(unixSeconds(start) / blockSeconds));
+  auto past = static_cast<std::int64_t>(std::ceil(unixSeconds(end) / blockSeconds));
+  // The quotient of an instant next to a block's start is rounded to that block.
+  if (start < startOfBlock(first)) --first;
+  if (startOfBlock(past) < end) ++past;
   return {first, past - first};
 }
 
