@@ -1,6 +1,8 @@
 #include <app/drawing/DrawAnswer.h>
 
 #include <app/drawing/Drawing.h>
+#include <app/text/Errors.h>
+#include <app/text/Utf8.h>
 
 namespace velmora::app {
 namespace {
@@ -12,6 +14,8 @@ Json number(double side) {
 }
 
 Json json(const Query& query) {
+  if (query.request.drawing.output == "-")
+    throw BadInput("json and the output - exclude each other: both would be standard output");
   const Picture picture = drawing().picture(query);
   return {{"view", std::string(picture.view.name)},
           {"output", picture.file},
@@ -21,7 +25,8 @@ Json json(const Query& query) {
 
 std::string text(const Query& query) {
   const Picture picture = drawing().picture(query);
-  return "Wrote " + picture.file + ", " + number(picture.size.width).dump() + " x " +
+  if (!picture.bytes.empty()) return picture.bytes;
+  return "Wrote " + printable(picture.file) + ", " + number(picture.size.width).dump() + " x " +
          number(picture.size.height).dump() + " " + picture.unit + "\n";
 }
 

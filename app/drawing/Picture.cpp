@@ -1,13 +1,13 @@
 #include <app/drawing/Picture.h>
 
 #include <algorithm>
-#include <cctype>
-#include <filesystem>
+#include <sstream>
 
 #include <app/answers/Days.h>
 #include <app/answers/PhaseYear.h>
 #include <app/answers/ShippedData.h>
 #include <app/drawing/Hosting.h>
+#include <app/drawing/OutputFile.h>
 #include <app/drawing/Title.h>
 #include <app/drawing/ViewMaking.h>
 #include <app/request/DrawingOptions.h>
@@ -57,22 +57,6 @@ const DrawableView& viewOf(const Request& request) {
                    "; accepted of a picture's options: " + accepted);
   }
   return *view;
-}
-
-const std::string& fileOf(const DrawingRequest& drawing) {
-  if (!drawing.output) throw BadInput("output is missing; accepted: a file that ends in .png, .svg or .pdf");
-  return *drawing.output;
-}
-
-PictureFormat formatOf(const std::string& file) {
-  const bool isPlain = file.find('\0') == std::string::npos;
-  std::string ending = std::filesystem::path(file).extension().string();
-  for (char& letter : ending) letter = static_cast<char>(std::tolower(static_cast<unsigned char>(letter)));
-  if (isPlain && ending == ".png") return PictureFormat::png;
-  if (isPlain && ending == ".svg") return PictureFormat::svg;
-  if (isPlain && ending == ".pdf") return PictureFormat::pdf;
-  throw BadInput("output " + quote(file) +
-                 " has no known format; accepted: a file that ends in .png, .svg or .pdf");
 }
 
 /// A shell takes what begins with "#" for a comment, so that it may be left out.
@@ -128,6 +112,13 @@ Layout layoutOf(const Query& query, const DrawableView& view) {
   return {size, Rect{0, 0, size.width, titleHeight}, {0, top, size.width, size.height - top}};
 }
 
+/// So that no request takes all the memory there is.
+void checkPixels(PictureFormat format, Size size, double scale) {
+  constexpr double mostPixels = 64e6;
+  if (format == PictureFormat::png && size.width * scale * size.height * scale > mostPixels)
+    throw BadInput("the picture would have more than 64 million pixels; give a smaller size or scale");
+}
+
 void checkSize(const CairoCanvas& canvas) {
   const auto error = canvas.error();
   if (error && error->kind == PictureError::Kind::size) throw BadInput(error->message);
@@ -149,9 +140,22 @@ void warnOfUncovered(const CairoCanvas& canvas) {
   if (!characters.empty()) Log::write("velmora: no installed font has " + quote(characters));
 }
 
-void write(CairoCanvas& canvas, const std::string& file) {
-  if (const auto error = canvas.writeFile(file))
-    throw Failure("output " + quote(file) + ": " + error->message);
+/// The bytes of a picture that goes to standard output.
+std::string bytesOf(CairoCanvas& canvas) {
+  std::ostringstream bytes;
+  if (const auto error = canvas.write(bytes)) throw Failure(error->message);
+  return bytes.str();
+}
+
+void write(CairoCanvas& canvas, const OutputFile& file) {
+  if (const auto error = canvas.writeFile(file.path))
+    throw Failure("output " + quote(file.name) + ": " + error->message);
+}
+
+void warnOfPixels(const CairoCanvas& canvas) {
+  if (canvas.becamePixels())
+    Log::write(
+        "velmora: the page is made of pixels: on a translucent background its holes have no other form");
 }
 
 }  // namespace
@@ -160,21 +164,26 @@ Picture drawPicture(const Query& query) {
   ProcessValues::resetAll();  // those of the request before
   const DrawingRequest& drawing = query.request.drawing;
   const DrawableView& view = viewOf(query.request);
-  const std::string& file = fileOf(drawing);
-  const PictureFormat format = formatOf(file);
+  const OutputFile file = outputFileOf(drawing);
   const Color background = backgroundOf(drawing);
   select(query, view);
 
   const ScopedTablet tablet(drawing.isTablet);
   const Layout layout = layoutOf(query, view);
   const ScopedDevice device({layout.size.width, drawing.scale, forcedDirection(drawing)});
-  CairoCanvas canvas(format, layout.size, drawing.scale, background);
+  checkPixels(file.format, layout.size, drawing.scale);
+  CairoCanvas canvas(file.format, layout.size, drawing.scale, background);
   checkSize(canvas);
   draw(canvas, layout, view, query);
   warnOfUncovered(canvas);
-  write(canvas, file);
-
-  return {view, file, canvas.size(), format == PictureFormat::png ? "pixels" : "points"};
+  std::string bytes;
+  if (file.isStandardOutput()) {
+    bytes = bytesOf(canvas);
+  } else {
+    write(canvas, file);
+  }
+  warnOfPixels(canvas);
+  return {view, file.name, canvas.size(), file.format == PictureFormat::png ? "pixels" : "points", bytes};
 }
 
 }  // namespace velmora::app

@@ -45,7 +45,7 @@ std::optional<std::string> text(const Json& object, const char* name) {
   const auto found = object.find(name);
   if (found == object.end() || !found->is_string()) return std::nullopt;
   const auto& value = found->get_ref<const std::string&>();
-  return std::any_of(value.begin(), value.end(), isControl) ? std::nullopt : std::optional(value);
+  return hasControls(value) ? std::nullopt : std::optional(value);
 }
 
 /// What `keepOwnPlace` has written; none of anything else.

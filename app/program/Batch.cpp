@@ -1,11 +1,14 @@
 #include <app/program/Batch.h>
 
+#include <filesystem>
 #include <istream>
 #include <limits>
 #include <ostream>
+#include <system_error>
 
 #include <app/answers/RequestScope.h>
 #include <app/program/Answer.h>
+#include <app/request/Command.h>
 #include <app/request/JsonRequest.h>
 #include <app/text/Errors.h>
 #include <velmora/platform/system/HeldSignals.h>
@@ -15,11 +18,9 @@ namespace {
 
 constexpr std::size_t longestLine = 64 * 1024, writtenAtOnce = 64 * 1024;  // bytes
 
-std::string errorLine(const Json& id, const std::string& message) {
-  Json answer;
-  answer["id"] = id;
-  answer["error"] = message;
-  return jsonLine(answer);
+/// `id`: as JSON.
+std::string errorLine(std::string_view id, const std::string& message) {
+  return "{\"id\":" + std::string(id) + ",\"error\":" + jsonLine(message) + "}";
 }
 
 const std::string tooLong =
@@ -48,9 +49,23 @@ std::optional<Line> nextLine(std::istream& in, std::string& buffer) {
 }
 
 /// The line of the answer; nothing for a blank line.
-std::string answerTo(const Line& line) {
-  if (line.isTooLong) return errorLine(nullptr, tooLong) + '\n';
-  return isBlank(line.text) ? "" : batchAnswer(line.text) + '\n';
+std::string answerTo(const Line& line, const PictureFolder& folder) {
+  if (line.isTooLong) return errorLine("null", tooLong) + '\n';
+  return isBlank(line.text) ? "" : batchAnswer(line.text, folder) + '\n';
+}
+
+bool isPicture(const Request& request) { return request.command->name == "draw"; }
+
+/// Whoever writes the lines may not be the one who owns the files.
+void keepWithin(const PictureFolder& folder, Request& request) {
+  if (!folder) throw BadInput("pictures are not drawn here; accepted by batch --pictures FOLDER");
+  request.drawing.folder = folder;
+}
+
+void checkIsFolder(const PictureFolder& folder) {
+  std::error_code error;
+  if (folder && !std::filesystem::is_directory(*folder, error))
+    throw BadInput("--pictures " + quote(*folder) + " is no folder; accepted: one that exists");
 }
 
 /// Writes whole lines only: a signal that ends the program takes effect after the write.
@@ -62,13 +77,15 @@ void writeLines(std::string& lines, std::ostream& out) {
 
 }  // namespace
 
-std::string batchAnswer(std::string_view line) {
-  Json id;
+std::string batchAnswer(std::string_view line, const PictureFolder& folder) {
+  std::string_view id = "null";
   try {
     const Json object = jsonFromLine(line);
     if (!object.is_object()) throw BadInput("the line is no JSON object; accepted: {\"op\": …, …}");
-    if (const auto given = object.find("id"); given != object.end()) id = *given;
-    return "{\"id\":" + jsonLine(id) + ",\"result\":" + jsonAnswer(requestFromJson(object)) + "}";
+    if (object.contains("id")) id = memberText(line, "id");
+    Request request = requestFromJson(object);
+    if (isPicture(request)) keepWithin(folder, request);
+    return "{\"id\":" + std::string(id) + ",\"result\":" + jsonAnswer(request) + "}";
   } catch (const std::exception& error) {
     return errorLine(id, messageOf(error));
   }
@@ -76,13 +93,14 @@ std::string batchAnswer(std::string_view line) {
 
 void serveBatch(const Request& request, std::istream& in, std::ostream& out) {
   const RequestScope scope(request);
+  checkIsFolder(request.drawing.folder);
   std::string buffer(longestLine, '\0'), answers;
   while (out) {
     const bool isAwaited = in.rdbuf()->in_avail() <= 0;  // whoever asks on only when answered gets the answer
     if (isAwaited || answers.size() >= writtenAtOnce) writeLines(answers, out);
     const auto line = nextLine(in, buffer);
     if (!line) break;
-    answers += answerTo(*line);
+    answers += answerTo(*line, request.drawing.folder);
   }
   writeLines(answers, out);
   if (in.bad()) throw Failure("standard input cannot be read");

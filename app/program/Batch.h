@@ -1,6 +1,7 @@
 #pragma once
 
 #include <iosfwd>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -13,7 +14,11 @@ namespace velmora::app {
 /// grow with the number or the length of the lines.
 void serveBatch(const Request& request, std::istream& in, std::ostream& out);
 
-/// The answer to one line, without the line's end: an error's text where the line cannot be answered.
-std::string batchAnswer(std::string_view line);
+/// Below which lines may draw pictures; none: nowhere.
+using PictureFolder = std::optional<std::string>;
+
+/// The answer to one line, without the line's end: an error's text where the line cannot be answered. It
+/// begins with the line's own `id`, byte for byte.
+std::string batchAnswer(std::string_view line, const PictureFolder& folder = std::nullopt);
 
 }  // namespace velmora::app

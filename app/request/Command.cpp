@@ -62,7 +62,7 @@ std::vector<Command> makeCommands() {
        .isForBatch = false},
       {.name = "batch",
        .summary = "JSON requests, one per line, each answered by one line of JSON",
-       .options = general,
+       .options = join({{"pictures"}, general}),
        .isForBatch = false},
   };
 }

@@ -17,7 +17,8 @@ enum class ThemeChoice { calendarTheme, defaultTheme, dark, light };
 /// What a request for a picture says of it.
 struct DrawingRequest {
   const DrawableView* view = nullptr;
-  std::optional<std::string> output;      ///< path of the file
+  std::optional<std::string> output;      ///< path of the file; "-": standard output
+  std::optional<std::string> folder;      ///< below which alone it may write; none: anywhere
   std::optional<Size> size;               ///< of the whole picture, in points
   double scale = 1;                       ///< pixels per point of a PNG
   std::optional<std::string> background;  ///< a colour, read where it is drawn

@@ -63,6 +63,51 @@ const Option& optionOf(const std::string& name, const Command& command) {
                  "; nearest: " + nearest(name, accepted));
 }
 
+/// Reads along a line that is valid JSON.
+class Scanner {
+ public:
+  explicit Scanner(std::string_view line) : _line(line) {}
+
+  /// What stands at the cursor up to the end of the value, which begins there.
+  std::string_view value() {
+    const std::size_t begin = _at;
+    int depth = 0;
+    do {
+      const char c = _line[_at];
+      if (c == '"') {
+        skipText();
+        continue;
+      }
+      if (depth == 0 && (c == ',' || c == '}' || c == ']' || c == ':' || isBlank(c))) break;
+      if (c == '{' || c == '[') ++depth;
+      if (c == '}' || c == ']') --depth;
+      ++_at;
+      if (depth == 0 && (c == '}' || c == ']')) break;
+    } while (_at < _line.size());
+    return _line.substr(begin, _at - begin);
+  }
+
+  /// Goes to what comes next but blanks and these.
+  void pass(std::string_view marks) {
+    while (_at < _line.size() && (isBlank(_line[_at]) || marks.find(_line[_at]) != marks.npos)) ++_at;
+  }
+
+  bool isAtEndOfObject() const { return _at >= _line.size() || _line[_at] == '}'; }
+
+ private:
+  static bool isBlank(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; }
+
+  void skipText() {
+    for (++_at; _line[_at] != '"'; ++_at) {
+      if (_line[_at] == '\\') ++_at;
+    }
+    ++_at;
+  }
+
+  std::string_view _line;
+  std::size_t _at = 0;
+};
+
 BadInput invalidAt(std::size_t byte) {
   return BadInput("the line is not valid JSON at byte " + std::to_string(byte) +
                   "; accepted: one object in UTF-8");
@@ -80,6 +125,19 @@ Json jsonFromLine(std::string_view line) {
   } catch (const Json::out_of_range&) {
     throw BadInput("the line holds a number out of range; accepted: what fits a double");
   }
+}
+
+std::string_view memberText(std::string_view line, std::string_view name) {
+  Scanner scanner(line);
+  scanner.pass("\xEF\xBB\xBF{");
+  while (!scanner.isAtEndOfObject()) {
+    const std::string_view key = scanner.value();
+    scanner.pass(":");
+    const std::string_view value = scanner.value();
+    if (Json::parse(key) == Json(name)) return value;
+    scanner.pass(",");
+  }
+  return "null";
 }
 
 Request requestFromJson(const Json& object) {

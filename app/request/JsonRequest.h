@@ -11,6 +11,9 @@ namespace velmora::app {
 /// nested deeper than any request, and for numbers beyond a double's range.
 Json jsonFromLine(std::string_view line);
 
+/// The text of the member of that name in a line that holds an object, as it stands there.
+std::string_view memberText(std::string_view line, std::string_view name);
+
 /// Reads a request from `op`, a command's name, and the command's options by their names. `id` is left to the
 /// caller. Throws BadInput.
 Request requestFromJson(const Json& object);

@@ -83,12 +83,8 @@ Locale locale(const std::string& text) {
 
 /// What can stand in a line of any answer, a terminal's among them.
 std::string nameText(const std::string& text) {
-  try {
-    Json(text).dump();  // writes nothing but UTF-8
-  } catch (const Json::type_error&) {
-    throw BadInput("is not UTF-8");
-  }
-  if (std::any_of(text.begin(), text.end(), isControl)) throw BadInput("holds control characters");
+  if (!isUtf8(text)) throw BadInput("is not UTF-8");
+  if (hasControls(text)) throw BadInput("holds control characters");
   return text;
 }
 
@@ -134,8 +130,8 @@ std::vector<Option> makeOptions() {
   using S = const std::string;
   constexpr bool onlyOnCommandLine = true;
   return {
-      {"city", "NAME", "a city, spelled freely; if ambiguous: Portland, Maine", "",
-       Text([](R& r, S& v) { r.place.city = v; })},
+      {"city", "NAME", "a city, spelled freely; if ambiguous: Portland, Maine", "one line of text in UTF-8",
+       Text([](R& r, S& v) { r.place.city = nameText(v); })},
       {"lat", "DEGREES", "latitude, north positive", "-90 to 90 degrees",
        Number([](R& r, double v) { r.place.latitude = within(v, 90); })},
       {"lon", "DEGREES", "longitude, east positive", "-180 to 180 degrees",

@@ -1,6 +1,5 @@
 #include <app/text/Errors.h>
 
-#include <algorithm>
 #include <new>
 
 #include <app/text/Utf8.h>
@@ -8,26 +7,21 @@
 namespace velmora::app {
 namespace {
 
-constexpr std::size_t longestQuotation = 80;
+constexpr std::size_t longestQuotation = 80, mostBytes = 4 * longestQuotation;
 
 }  // namespace
 
 std::string quote(std::string_view input) {
-  std::string text = "'";
-  std::size_t characters = 0;
-  for (const char byte : input) {
-    if (!continuesCharacter(byte) && ++characters > longestQuotation) return text + "…'";
-    if (text.size() > 4 * longestQuotation) return text + "…'";  // not UTF-8: a run of continuation bytes
-    text += isControl(byte) ? '?' : byte;
+  const std::string shown = printable(input.substr(0, mostBytes));
+  std::size_t characters = 0, end = 0;
+  for (; end < shown.size(); ++end) {
+    if (!continuesCharacter(shown[end]) && ++characters > longestQuotation) break;
   }
-  return text + "'";
+  const bool isWhole = end == shown.size() && input.size() <= mostBytes;
+  return "'" + shown.substr(0, end) + (isWhole ? "'" : "…'");
 }
 
-std::string quotePath(std::string_view path) {
-  std::string text(path);
-  std::replace_if(text.begin(), text.end(), isControl, '?');
-  return "'" + text + "'";
-}
+std::string quotePath(std::string_view path) { return "'" + printable(path) + "'"; }
 
 std::string messageOf(const std::exception& error) {
   return dynamic_cast<const std::bad_alloc*>(&error) ? "out of memory" : error.what();

@@ -20,10 +20,11 @@ class Failure : public std::runtime_error {
 };
 
 /// The input in quotation marks for a message of one line: cut after 80 characters, control characters
-/// replaced.
+/// and what is not UTF-8 replaced.
 std::string quote(std::string_view input);
 
-/// The path of a file of the program's own in quotation marks, whole, control characters replaced.
+/// The path of a file of the program's own in quotation marks, whole, control characters and
+/// what is not UTF-8 replaced.
 std::string quotePath(std::string_view path);
 
 /// What the error says; of memory that ran out, that it did.

@@ -31,6 +31,8 @@ std::string contentLine(const std::string& text) {
   return line;
 }
 
+bool isControl(char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7F'; }
+
 /// The text with what separates values escaped; of control characters the end of a line alone can be written.
 std::string escaped(const std::string& text) {
   std::string result;

@@ -1,3 +1,4 @@
+#include <filesystem>
 #include <streambuf>
 
 #include "AppTest.h"
@@ -82,6 +83,28 @@ TEST_F(BatchTest, AnswersKeepTheOrderAndTheIds) {
   EXPECT_EQ(list[3]["id"], Json::parse(R"([1, {"a": 0.1}])"));
 }
 
+TEST_F(BatchTest, AnIdComesBackByteForByte) {
+  for (const char* id : {"1.0", "1e2", "12345678901234567890123", "\"\\u00e9\\/ \\\"\"", "-0", "null",
+                         R"({"b" : [1 , "}"], "id":2})", R"("a,b:{")", "true"}) {
+    for (const std::string& line : {std::string(R"({"op": "next", "id" : )") + id + " }",
+                                    std::string(R"({"id":)") + id + R"(,"op":"x"})",
+                                    std::string(R"({"name": "\"id\":3", "op": "next", "id":)") + id + "}"}) {
+      const std::string out = runProgram({"batch"}, line + "\n").out;
+      EXPECT_EQ(out.substr(0, 6 + std::string(id).size() + 1), std::string(R"({"id":)") + id + ",") << line;
+    }
+  }
+}
+
+TEST_F(BatchTest, DrawsNothingWithoutAFolderForPictures) {
+  EXPECT_EQ(errorOf(R"({"op": "draw", "view": "disc", "output": "/tmp/velmora-never.png"})"),
+            "pictures are not drawn here; accepted by batch --pictures FOLDER");
+  EXPECT_FALSE(std::filesystem::exists("/tmp/velmora-never.png"));
+  EXPECT_NE(errorOf(R"({"op": "draw", "view": "disc", "output": "a.png", "pictures": "/tmp"})")
+                .find("'pictures' is not an option of draw"),
+            std::string::npos);
+  EXPECT_EQ(runProgram({"batch", "--pictures", "/nonexistent"}).status, 2);
+}
+
 TEST_F(BatchTest, BlankLinesAreSkipped) {
   EXPECT_EQ(answers("\n  \n\t\r\n{\"op\": \"position\"}\r\n\n").size(), 1U);
   EXPECT_TRUE(answers("").empty());
@@ -114,6 +137,8 @@ TEST_F(BatchTest, BadLinesSayWhatIsWrongAndTheStreamGoesOn) {
       {R"({"op": "position", "lat": 123456789012345678901234567890, "lon": 1})", "is out of range"},
       {R"({"op": "position", "lat": NaN, "lon": 1})", "not valid JSON"},
       {R"({"op": "position", "lat": null, "lon": 1})", "lat 'null' is not a number"},
+      {R"({"op": "position", "city": "\u0000Rome"})", "holds control characters"},
+      {R"({"op": "position", "name": "a\u009bb", "lat": 1, "lon": 2})", "holds control characters"},
       {R"({"op": "position", "city": 5})", "city '5' is not a text"},
       {R"({"op": "position", "city": ["Oslo"]})", "is not a text"},
       {R"({"op": "riseset", "transit": 1})", "neither true nor false"},

@@ -1,7 +1,3 @@
-#include <sys/resource.h>
-
-#include <csignal>
-
 #include <app/request/DrawableView.h>
 #include <velmora/foundation/SettingsModel.h>
 #include <velmora/platform/system/Log.h>
@@ -297,74 +293,6 @@ TEST_F(DrawTest, LeavesTheDeviceAsItWas) {
   EXPECT_FALSE(SettingsModel::isIPad());
   EXPECT_EQ(Device::current().screenWidth, 111);
   EXPECT_EQ(Device::current().forcedDirection, std::nullopt);
-}
-
-TEST_F(DrawTest, BatchWritesTheSamePictures) {
-  Json request = {{"op", "draw"},       {"view", "month"},      {"output", path("batch.png")},
-                  {"size", "768x900"},  {"rtl", true},          {"tablet", true},
-                  {"locale", "ar_EG"},  {"calendar", "hebrew"}, {"week-start", "monday"},
-                  {"city", "Helsinki"}, {"no-title", false}};
-  const std::string plain = jsonLine({{"op", "draw"}, {"view", "month"}, {"output", path("plain.png")}});
-  const Outcome outcome = runProgram({"batch"}, jsonLine(request) + "\n" + plain + "\n");
-  ASSERT_EQ(linesOf(outcome.out).size(), 2U);
-  EXPECT_EQ(Json::parse(linesOf(outcome.out).front())["result"]["output"], path("batch.png"));
-  EXPECT_EQ(bytesOf(path("batch.png")),
-            bytesOf(draw({"month", "--size", "768x900", "--rtl", "--tablet", "--locale", "ar_EG",
-                          "--calendar", "hebrew", "--week-start", "monday", "--city", "Helsinki"})));
-  EXPECT_EQ(bytesOf(path("plain.png")), bytesOf(draw({"month"})));
-}
-
-TEST_F(DrawTest, AFileThatCannotBeWrittenIsAFailureOfOneLine) {
-  for (const std::string& file : {path("no/such/folder.png"), std::string("/proc/picture.png")}) {
-    const Outcome outcome = runProgram({"draw", "disc", "-o", file});
-    EXPECT_EQ(outcome.status, 1);
-    EXPECT_EQ(outcome.out, "");
-    ASSERT_EQ(linesOf(outcome.err).size(), 1U);
-    EXPECT_NE(outcome.err.find("'" + file + "': the picture cannot be written: "), std::string::npos)
-        << outcome.err;
-  }
-}
-
-/// Lets files grow no longer than that many bytes for as long as it lives.
-class ScopedFileLimit {
- public:
-  explicit ScopedFileLimit(rlim_t bytes) : _formerHandler(std::signal(SIGXFSZ, SIG_IGN)) {
-    getrlimit(RLIMIT_FSIZE, &_former);
-    const rlimit limit{bytes, _former.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &limit);
-  }
-  ~ScopedFileLimit() {
-    setrlimit(RLIMIT_FSIZE, &_former);
-    std::signal(SIGXFSZ, _formerHandler);
-  }
-  ScopedFileLimit(const ScopedFileLimit&) = delete;
-  ScopedFileLimit& operator=(const ScopedFileLimit&) = delete;
-
- private:
-  rlimit _former{};
-  void (*_formerHandler)(int);
-};
-
-TEST_F(DrawTest, AFileThatWasThereStaysWholeWhenWritingFails) {
-  for (const char* name : {"old.png", "old.svg", "old.pdf"}) {
-    const std::string file = folder().write(name, "what was there").string();
-    Outcome outcome;
-    {
-      const ScopedFileLimit limit(500);
-      outcome = runProgram({"draw", "month", "-o", file});
-    }
-    EXPECT_EQ(outcome.status, 1) << name;
-    EXPECT_EQ(bytesOf(file), "what was there");
-    std::filesystem::remove(file);
-    EXPECT_TRUE(std::filesystem::is_empty(folder().path())) << "nothing is left behind";
-  }
-}
-
-TEST_F(DrawTest, AFileThatWasThereStaysWholeWhenTheRequestIsRefused) {
-  const std::string file = folder().write("old.png", "what was there").string();
-  EXPECT_EQ(runProgram({"draw", "month", "--size", "99999x9", "-o", file}).status, 2);
-  EXPECT_EQ(runProgram({"draw", "month", "--date", "1999-12-31", "-o", file}).status, 2);
-  EXPECT_EQ(bytesOf(file), "what was there");
 }
 
 TEST_F(DrawTest, HelpNamesEachViewAndSaysThatTheChartIsASample) {
