@@ -4,9 +4,11 @@
 #include <app/answers/Phases.h>
 #include <app/answers/SeenEclipses.h>
 #include <app/commands/Commands.h>
+#include <app/text/ClockText.h>
 #include <app/text/ICalendar.h>
 #include <app/text/PhaseText.h>
 #include <velmora/platform/time/Clock.h>
+#include <velmora/platform/time/NumberText.h>
 
 namespace velmora::app {
 namespace {
@@ -25,17 +27,33 @@ const char* codeOf(almanac::PrincipalPhase phase) {
   return "";
 }
 
+std::string nameOf(const Place& place) { return place.location.name.value_or(place.location.locationText); }
+
+/// "41.8500_-87.6500".
+std::string keyOf(const Place& place) {
+  return decimalText(place.location.latitude, 4) + "_" + decimalText(place.location.longitude, 4);
+}
+
 CalendarEvent phaseEvent(const almanac::PhaseEvent& event) {
   return {.kind = codeOf(event.phase), .instant = event.at, .summary = phaseName(phaseNumber(event.phase))};
 }
 
 CalendarEvent eclipseEvent(const SeenEclipse& seen, const Query& query) {
-  const GeoLocationData& location = query.place.location;
   return {.kind = eclipseKey(seen.eclipse),
           .instant = bestMoment(seen),
           .summary = eclipseTitle(seen.eclipse),
-          .location = location.name.value_or(location.locationText),
-          .description = describedInLines(seen, query)};
+          .location = nameOf(query.place),
+          .description = describedInLines(seen, query),
+          .place = keyOf(query.place)};
+}
+
+/// The whole day on which it falls at the place, which depends on the place; the time goes into the text.
+CalendarEvent asDay(CalendarEvent event, const Query& query) {
+  const TimeZone& zone = query.place.zone;
+  event.day = dateAt(event.instant, zone);
+  event.place = keyOf(query.place);
+  if (!event.description) event.description = localText(event.instant, zone, query.use24HourClock);
+  return event;
 }
 
 std::vector<CalendarEvent> eventsOf(const Query& query) {
@@ -48,10 +66,15 @@ std::vector<CalendarEvent> eventsOf(const Query& query) {
     events.push_back(eclipseEvent(seen, query));
   std::stable_sort(events.begin(), events.end(),
                    [](const CalendarEvent& a, const CalendarEvent& b) { return a.instant < b.instant; });
+  if (query.request.allDay) {
+    for (CalendarEvent& event : events) event = asDay(event, query);
+  }
   return events;
 }
 
-std::string text(const Query& query) { return iCalendar(eventsOf(query), Clock::now()); }
+std::string text(const Query& query) {
+  return iCalendar("Velmora, " + nameOf(query.place), eventsOf(query), Clock::now());
+}
 
 Json json(const Query& query) { return {{"calendar", text(query)}}; }
 

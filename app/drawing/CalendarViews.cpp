@@ -7,6 +7,7 @@
 #include <app/drawing/Hosting.h>
 #include <app/text/Errors.h>
 #include <velmora/phases/Phase.h>
+#include <velmora/platform/time/Locale.h>
 #include <velmora/posters/SkyDisc.h>
 #include <velmora/service/MoonPhaseData.h>
 #include <velmora/views/MoonPhaseIconView.h>
@@ -18,10 +19,8 @@
 namespace velmora::app {
 namespace {
 
-constexpr double discMargin = 10;
-// Wide enough for Arabic names of months.
-constexpr Size phoneYear = {460, 650}, tabletYear = {tabletWidth, 940};
-constexpr Size phoneMonth = {phoneWidth, 540}, tabletMonth = {tabletWidth, 850};
+/// Around the disc, in points; of a small picture a share of its side.
+constexpr double discMargin = 10, discMarginShare = 1.0 / 24;
 
 void checkCalendarOfRows(AlternateCalendarType calendar) {
   if (calendar == kChineseCalendar || calendar == kIndianCalendar)
@@ -55,7 +54,9 @@ std::shared_ptr<View> makeDisc(const Query& query, Size size) {
   const auto phases = service.currentMonthPhaseDictionary();
   const auto theme = themeOf(query);
   auto disc = std::make_shared<MoonPhaseIconView>();
-  disc->setFrame(squareIn(size).inset(discMargin, discMargin));
+  const Rect square = squareIn(size);
+  const double margin = std::min(discMargin, square.width * discMarginShare);
+  disc->setFrame(square.inset(margin, margin));
   disc->setPhaseItem(phases->at(service.currentDay()));
   disc->setStrokeColor(theme->lightTextColor);
   disc->setFillColor(theme->lightTextColor);
@@ -66,24 +67,16 @@ std::shared_ptr<View> makeDisc(const Query& query, Size size) {
   return host;
 }
 
-Size monthSize(const Query& query) {
-  const DrawingRequest& drawing = query.request.drawing;
-  const bool isWide = drawing.isTablet || drawing.calendar != kNoAlternateCalendar;
-  return isWide ? tabletMonth : phoneMonth;
-}
-
 std::shared_ptr<View> makeMonth(const Query& query, Size size) {
   const DrawingRequest& drawing = query.request.drawing;
   auto month = std::make_shared<iPhoneCalendarView>();
   month->setFrame({0, 0, size.width, size.height});
   month->setColorTheme(themeOf(query));
   month->setAlternateCalendarType(drawing.calendar);
-  month->setWeekStartDay(drawing.weekStartDay);
+  month->setWeekStartDay(drawing.weekStartDay.value_or(Locale::current().firstWeekday() - 1));
   month->setHideEclipeInfo(drawing.hidesEclipses);
   return month;
 }
-
-Size yearSize(const Query& query) { return query.request.drawing.isTablet ? tabletYear : phoneYear; }
 
 std::shared_ptr<View> makeYear(const Query& query, Size size) {
   auto year = std::make_shared<MoonPhaseYearView>();
@@ -101,12 +94,6 @@ void checkMoonPictures(const Query&) {
 }
 
 void checkIcons(const Query&) { checkPictures(Bundle::main(), {"moonrise", "moonset", "sunrise", "sunset"}); }
-
-Size riseSetSize(const Query&) {
-  const MoonPhaseData& service = MoonPhaseData::sharedInstance();
-  const auto days = MoonPhaseCalc::GetNumberOfDaysInMonth(service.currentMonth() - 1, service.currentYear());
-  return {tabletWidth, static_cast<double>(days) * MoonRiseSetDayView().cellSize().height};
-}
 
 std::shared_ptr<View> makeRiseSet(const Query& query, Size size) {
   const DrawingRequest& drawing = query.request.drawing;

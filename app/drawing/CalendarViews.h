@@ -10,11 +10,8 @@ namespace velmora::app {
 /// The disc of the selected day, as large as fits.
 std::shared_ptr<View> makeDisc(const Query& query, Size size);
 
-/// A phone's width, or where two calendars' numbers stand side by side a tablet's: they would be cut.
-Size monthSize(const Query& query);
 std::shared_ptr<View> makeMonth(const Query& query, Size size);
 
-Size yearSize(const Query& query);
 /// The full moons of the selected day's year, or the new moons.
 std::shared_ptr<View> makeYear(const Query& query, Size size);
 
@@ -24,8 +21,6 @@ void checkMoonPictures(const Query&);
 /// Throws a Failure where an icon of rise or set cannot be read.
 void checkIcons(const Query&);
 
-/// Of the whole list. On a phone's width the times of early and late hours would be cut.
-Size riseSetSize(const Query& query);
 /// The list; where it is higher than the size, the part with the selected day.
 std::shared_ptr<View> makeRiseSet(const Query& query, Size size);
 

@@ -6,6 +6,7 @@
 #include <app/answers/Days.h>
 #include <app/answers/PhaseYear.h>
 #include <app/answers/ShippedData.h>
+#include <app/drawing/Colours.h>
 #include <app/drawing/Hosting.h>
 #include <app/drawing/OutputFile.h>
 #include <app/drawing/Title.h>
@@ -96,6 +97,17 @@ struct Layout {
   Rect view;
 };
 
+/// Texts are measured as a phone writes them, and not kept so for the drawing.
+Size usualSize(const Query& query, const DrawableView& view) {
+  Size size;
+  {
+    const ScopedDevice phone({.screenWidth = phoneWidth});
+    size = makingOf(view).usualSize(query);
+  }
+  ProcessValues::resetAll();
+  return size;
+}
+
 /// A picture that is too small for a title has none.
 Layout layoutOf(const Query& query, const DrawableView& view) {
   const DrawingRequest& drawing = query.request.drawing;
@@ -103,9 +115,8 @@ Layout layoutOf(const Query& query, const DrawableView& view) {
   const double titleHeight = isAboveView ? Title::height : view.freeTop;
   const bool wantsTitle = drawing.hasTitle && !view.titleFields.empty();
 
-  Size size = makingOf(view).usualSize(query);
-  if (wantsTitle && isAboveView) size.height += titleHeight;
-  size = drawing.size.value_or(size);
+  Size size = drawing.size ? *drawing.size : usualSize(query, view);
+  if (!drawing.size && wantsTitle && isAboveView) size.height += titleHeight;
   if (!wantsTitle || size.width < leastTitledWidth || size.height < leastTitledHeight)
     return {size, std::nullopt, {0, 0, size.width, size.height}};
   const double top = isAboveView ? titleHeight : 0;
@@ -125,8 +136,14 @@ void checkSize(const CairoCanvas& canvas) {
   if (error) throw Failure(error->message);
 }
 
-void draw(CairoCanvas& canvas, const Layout& layout, const DrawableView& view, const Query& query) {
-  if (layout.title) Title(presentOf(query), view.titleFields, query.place).draw(canvas, *layout.title);
+Title titleOf(const DrawableView& view, const Query& query) {
+  const auto note = makingOf(view).note;
+  return {presentOf(query), view.titleFields, query.place, note ? note(query) : ""};
+}
+
+void draw(CairoCanvas& canvas, const Layout& layout, const DrawableView& view, const Query& query,
+          const Color& background) {
+  if (layout.title) titleOf(view, query).draw(canvas, *layout.title, titleColoursOn(background));
   canvas.save();
   canvas.clip(Path::rect(layout.view));
   canvas.translate(layout.view.x, layout.view.y);
@@ -169,12 +186,13 @@ Picture drawPicture(const Query& query) {
   select(query, view);
 
   const ScopedTablet tablet(drawing.isTablet);
+  const ScopedColours colours(background);
   const Layout layout = layoutOf(query, view);
   const ScopedDevice device({layout.size.width, drawing.scale, forcedDirection(drawing)});
   checkPixels(file.format, layout.size, drawing.scale);
   CairoCanvas canvas(file.format, layout.size, drawing.scale, background);
   checkSize(canvas);
-  draw(canvas, layout, view, query);
+  draw(canvas, layout, view, query, background);
   warnOfUncovered(canvas);
   std::string bytes;
   if (file.isStandardOutput()) {

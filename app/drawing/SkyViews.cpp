@@ -9,6 +9,7 @@
 #include <app/answers/SkyPositions.h>
 #include <app/drawing/Hosting.h>
 #include <velmora/almanac/Events.h>
+#include <velmora/platform/resources/Words.h>
 #include <velmora/views/CompassView.h>
 #include <velmora/views/MoonAzimuthElevationView.h>
 
@@ -36,7 +37,7 @@ std::optional<double> azimuthOf(almanac::EventKind kind, const Query& query) {
   return std::nullopt;
 }
 
-/// At its transit of the day, if it has one; else by the hemisphere.
+/// At its next transit; by the hemisphere where none is known.
 bool isHighestInTheNorth(const Query& query) {
   const Instant now = presentOf(query);
   const auto transit =
@@ -84,12 +85,28 @@ std::shared_ptr<CompassView> makeRing(const Query& query, double side, double ra
   return ring;
 }
 
-}  // namespace
+using Making = std::shared_ptr<View> (*)(const Query&, Size);
+
+/// A view with parts of a fixed length, which a small picture shows as a larger one from afar.
+std::shared_ptr<View> fromAfar(Making make, const Query& query, Size size) {
+  constexpr double leastSide = 160;
+  const double factor = std::min(std::min(size.width, size.height) / leastSide, 1.0);
+  const Size large = {size.width / factor, size.height / factor};
+  if (factor == 1) return make(query, size);
+  auto inner = makeHost(large);
+  inner->addSubview(make(query, large));
+  inner->setFrame(
+      {(size.width - large.width) * 0.5, (size.height - large.height) * 0.5, large.width, large.height});
+  inner->setTransform(AffineTransform::scaling(factor, factor));
+  auto host = makeHost(size);
+  host->addSubview(inner);
+  return host;
+}
 
 // The way lies inside the ring and its ticks: its circle reaches at most √2 radii from the middle, where rise
 // and set are a quarter of the horizon apart. The ring has to lie at the origin; it is turned with what holds
 // it.
-std::shared_ptr<View> makeCompass(const Query& query, Size size) {
+std::shared_ptr<View> compassOf(const Query& query, Size size) {
   const Rect square = squareIn(size);
   const double ring = square.width * 0.5 - reachOfLetters;
   const double horizon = (ring - reachOfTicks - reachOfMoon) / std::numbers::sqrt2;
@@ -109,12 +126,29 @@ std::shared_ptr<View> makeCompass(const Query& query, Size size) {
   return host;
 }
 
-std::shared_ptr<View> makeElevationArc(const Query& query, Size size) {
+std::shared_ptr<View> elevationArcOf(const Query& query, Size size) {
   const Rect square = squareIn(size);
   const auto way = makeWay(query, square.width, square.width * 0.5 - reachOfMoon, dueEast, dueWest);
   way->setFrame(square);
   way->setTransform(AffineTransform::rotation(quarterTurn).concat(mirror(query)));
   return way;
+}
+
+}  // namespace
+
+std::shared_ptr<View> makeCompass(const Query& query, Size size) { return fromAfar(compassOf, query, size); }
+
+std::shared_ptr<View> makeElevationArc(const Query& query, Size size) {
+  return fromAfar(elevationArcOf, query, size);
+}
+
+std::string moonText(const Query& query) {
+  const almanac::Position moon = positionAt(presentOf(query), almanac::Body::moon, query.place).position;
+  const long height = std::lround(moon.apparentAltitude), bearing = std::lround(moon.azimuth) % 360;
+  const std::string up = std::to_string(std::abs(height)) + "°";
+  const std::string direction = std::to_string(bearing) + "° " + compassPoint(moon.azimuth);
+  return height < 0 ? words("%1 below the horizon, %2", {up, direction})
+                    : words("%1 above the horizon, %2", {up, direction});
 }
 
 }  // namespace velmora::app

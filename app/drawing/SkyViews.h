@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <string>
 
 #include <app/answers/Query.h>
 #include <velmora/platform/ui/View.h>
@@ -15,5 +16,8 @@ std::shared_ptr<View> makeCompass(const Query& query, Size size);
 /// The Moon's path alone, as seen facing its highest point: the zenith at the top, due east and due west at
 /// the ends.
 std::shared_ptr<View> makeElevationArc(const Query& query, Size size);
+
+/// Where the Moon stands: "47° above the horizon, 156° SSE".
+std::string moonText(const Query& query);
 
 }  // namespace velmora::app

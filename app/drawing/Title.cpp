@@ -4,7 +4,6 @@
 
 #include <velmora/platform/graphics/TextLayout.h>
 #include <velmora/platform/time/DateFormatter.h>
-#include <velmora/views/VelmoraTheme.h>
 
 namespace velmora::app {
 namespace {
@@ -30,20 +29,21 @@ TextLayout fitting(const std::string& text, TextAttributes attributes, double wi
 
 }  // namespace
 
-Title::Title(Instant date, std::string_view fields, const Place& place)
-    : _date(dateText(date, fields)), _place(place.location.name.value_or(place.location.locationText)) {}
+Title::Title(Instant date, std::string_view fields, const Place& place, const std::string& note)
+    : _date(dateText(date, fields)),
+      _place(place.location.name.value_or(place.location.locationText) + (note.empty() ? "" : " · ") + note) {
+}
 
-void Title::draw(Canvas& canvas, Rect band) const {
+void Title::draw(Canvas& canvas, Rect band, const TitleColours& colours) const {
   const double width = band.width - 2 * margin;
-  const auto theme = VelmoraTheme::calendarTheme();
   const TextLayout date = fitting(_date,
                                   {.font = Font::boldSystemFont(Font::labelFontSize),
-                                   .color = theme->lightTextColor,
+                                   .color = colours.date,
                                    .alignment = TextAlignment::center},
                                   width);
   const TextLayout place = fitting(_place,
                                    {.font = Font::systemFont(Font::systemFontSize),
-                                    .color = theme->darkTextColor,
+                                    .color = colours.place,
                                     .alignment = TextAlignment::center},
                                    width);
   const double top = band.midY() - (date.height() + lineGap + place.height()) * 0.5;

@@ -7,6 +7,7 @@
 #include <app/drawing/Hosting.h>
 #include <app/drawing/NightDrawing.h>
 #include <app/drawing/SkyViews.h>
+#include <app/drawing/UsualSizes.h>
 #include <app/drawing/YearPosterDrawing.h>
 #include <velmora/views/MoonCalendarView.h>
 #include <velmora/views/MoonPositionView.h>
@@ -54,8 +55,8 @@ const ViewMaking& makingOf(const DrawableView& view) {
       {"year", {yearSize, makeYear}},
       {"riseset", {riseSetSize, makeRiseSet, checkIcons}},
       {"images", {fixedSize<390, 560>, makeView<MoonCalendarView>, checkMoonPictures}},
-      {"compass", {fixedSize<390, 390>, makeCompass}},
-      {"azel", {fixedSize<390, 390>, makeElevationArc}},
+      {"compass", {.usualSize = fixedSize<390, 390>, .make = makeCompass, .note = moonText}},
+      {"azel", {.usualSize = fixedSize<390, 390>, .make = makeElevationArc, .note = moonText}},
       {"chart", {fixedSize<390, 390>, makeView<MoonPositionView>}},
       {"timeline", {timelineSize, makeTimeline}},
       {"poster", {yearPosterSize, makeYearPoster}},

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <string>
 
 #include <app/answers/Query.h>
 #include <app/request/DrawableView.h>
@@ -16,6 +17,8 @@ struct ViewMaking {
   std::shared_ptr<View> (*make)(const Query&, Size);
   /// Throws a Failure where what it shows beside phases cannot be read; none for what shows nothing else.
   void (*checkResources)(const Query&) = nullptr;
+  /// What stands behind the place in the title; none for most.
+  std::string (*note)(const Query&) = nullptr;
 };
 
 const ViewMaking& makingOf(const DrawableView& view);

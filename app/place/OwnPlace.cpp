@@ -78,6 +78,7 @@ std::optional<PlaceChoice> ownPlace() {
 /// The principal city of the process's time zone.
 std::optional<PlaceChoice> cityOfZone() {
   const TimeZone zone = TimeZone::defaultZone();
+  if (zone.name().find('/') == std::string::npos) return std::nullopt;  // UTC is nowhere
   for (const City& city : CityTable::shipped().named(zone.name())) {
     if (city.zone != zone.name()) continue;
     return PlaceChoice{

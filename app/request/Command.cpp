@@ -54,7 +54,7 @@ std::vector<Command> makeCommands() {
        .required = {"output"}},
       {.name = "ics",
        .summary = "a calendar file (iCalendar) of phases and of eclipses seen here",
-       .options = join({place, {"from", "to", "json"}, general}),
+       .options = join({place, {"from", "to", "all-day", "json"}, general}),
        .required = {"from", "to"}},
       {.name = "place",
        .summary = "your own place, used where none is named; a place given is kept",

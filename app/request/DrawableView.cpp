@@ -34,7 +34,7 @@ const std::vector<DrawableView>& allViews() {
        .titleFields = monthFields,
        .needsTables = true},
       {.name = "images",
-       .summary = "the month in pictures of the Moon",
+       .summary = "the month in pictures of the Moon, north up everywhere",
        .titleFields = monthFields,
        .freeTop = 90,
        .needsTables = true},
@@ -46,7 +46,7 @@ const std::vector<DrawableView>& allViews() {
        .summary = "the Moon's path and position, the zenith at the top",
        .options = {"theme"},
        .titleFields = momentFields},
-      {.name = "chart", .summary = "a fixed example: the Moon's paths on five days"},
+      {.name = "chart", .summary = "a fixed example in English: the Moon's paths on five days"},
       {.name = "timeline", .summary = "the hours of a day", .titleFields = dayFields},
       {.name = "poster",
        .summary = "a poster: the Moons of the year, a column a month",
@@ -55,7 +55,7 @@ const std::vector<DrawableView>& allViews() {
        .summary = "a poster: Sun and Moon from noon to noon, twilights, moonlight",
        .options = {"theme", "paper"}},
       {.name = "darkness",
-       .summary = "a poster: the nights of the year, moonlight on them, the darkest of each month",
+       .summary = "a poster: the nights of the year, moonlight, the darkest",
        .options = {"theme", "paper"}},
   };
   return views;

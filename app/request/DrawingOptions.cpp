@@ -79,7 +79,7 @@ std::string viewsThatTake(std::string_view option) {
   std::string names;
   for (const DrawableView& view : allViews()) {
     if (std::find(view.options.begin(), view.options.end(), option) != view.options.end())
-      names += (names.empty() ? "" : ", ") + std::string(view.name);
+      names += (names.empty() ? "" : " ") + std::string(view.name);
   }
   return names;
 }
@@ -119,20 +119,20 @@ std::vector<Option> drawingOptions() {
       {"rtl", "", "from right to left, whatever the language is", "",
        Switch([](R& r) { r.drawing.isRightToLeft = true; })},
       {"tablet", "", "as on a tablet", "", Switch([](R& r) { r.drawing.isTablet = true; })},
-      {"theme", "NAME", "colours: calendar (default) or default; of posters dark (default) or light",
+      {"theme", "NAME", "colours: calendar or default; of posters: dark or light",
        "calendar or default, of posters dark or light", Text([](R& r, S& v) { r.drawing.theme = theme(v); })},
-      {"paper", "NAME", "sheet of a poster: A4 (default), A3, letter or 24x36 inches",
-       "A4, A3, letter or 24x36", Text([](R& r, S& v) { r.drawing.paper = paper(v); })},
+      {"paper", "NAME", "sheet of a poster: A4 (default), A3, letter or 24x36", "A4, A3, letter or 24x36",
+       Text([](R& r, S& v) { r.drawing.paper = paper(v); })},
       {"landscape", "", "the sheet lies: months are rows", "",
        Switch([](R& r) { r.drawing.isLandscape = true; })},
-      {"align", "NAME", "what days beside each other share: their date (default) or weekday",
+      {"align", "NAME", "what days side by side share: date (default) or weekday",
        "date or weekday", Text([](R& r, S& v) { r.drawing.alignsWeekdays = alignsWeekdays(v); })},
       {"tilt", "", "the disc as it hangs in the sky of the place", "",
        Switch([](R& r) { r.drawing.isTilted = true; })},
       {"calendar", "NAME", "days of a second calendar in brackets",
        "hebrew, islamic, buddhist, japanese, chinese or indian",
        Text([](R& r, S& v) { r.drawing.calendar = calendar(v); })},
-      {"week-start", "DAY", "first weekday of the month view (default: sunday)",
+      {"week-start", "DAY", "first weekday of the month (default: the locale's)",
        "sunday, monday, tuesday, wednesday, thursday, friday or saturday",
        Text([](R& r, S& v) { r.drawing.weekStartDay = weekday(v); })},
       {"hide-eclipses", "", "no rings around days with an eclipse", "",

@@ -32,7 +32,7 @@ struct DrawingRequest {
   bool alignsWeekdays = false;       ///< whether the months of a poster begin at their weekday
   bool isTilted = false;             ///< whether discs hang as they do in the sky
   AlternateCalendarType calendar = kNoAlternateCalendar;
-  std::int64_t weekStartDay = 0;  ///< 0 is Sunday
+  std::optional<std::int64_t> weekStartDay;  ///< 0 is Sunday; none: the locale's
   bool hidesEclipses = false;
   double heading = 0;  ///< degrees, clockwise from north
 };

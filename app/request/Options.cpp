@@ -168,6 +168,8 @@ std::vector<Option> makeOptions() {
       {"step", "MINUTES", "from one position of the path to the next (default: 60)",
        "whole minutes from 1 to 1440", Number([](R& r, double v) { r.step = step(v); })},
       {"grid", "", "also as a calendar of weeks", "", Switch([](R& r) { r.grid = true; })},
+      {"all-day", "", "as whole days of the place, without a time", "",
+       Switch([](R& r) { r.allDay = true; })},
       {"forget", "", "forget your own place", "", Switch([](R& r) { r.forgets = true; })},
       {"now", "INSTANT", "the present, instead of the clock's",
        "an ISO 8601 instant such as 2024-06-20T12:00:00Z, from 1900 to 2100",

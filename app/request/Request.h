@@ -47,6 +47,7 @@ struct Request {
   std::optional<double> degrees;  ///< an elevation above the horizon
   std::chrono::minutes step{60};  ///< between two places of a path
   bool grid = false;              ///< a month also as a calendar of weeks
+  bool allDay = false;            ///< events of a calendar as days
   bool forgets = false;           ///< drops the user's own place
 
   DrawingRequest drawing;

@@ -47,18 +47,28 @@ std::string escaped(const std::string& text) {
   return result;
 }
 
-/// "20240408T181700Z".
-std::string basicInstantText(Instant instant) {
-  std::string text = instantText(instant);
+std::string withoutMarks(std::string text) {
   text.erase(std::remove_if(text.begin(), text.end(), [](char c) { return c == '-' || c == ':'; }),
              text.end());
   return text;
 }
 
+/// "20240408T181700Z".
+std::string basicInstantText(Instant instant) { return withoutMarks(instantText(instant)); }
+
+std::string startLine(const CalendarEvent& event) {
+  return event.day ? "DTSTART;VALUE=DATE:" + withoutMarks(dateText(*event.day))
+                   : "DTSTART:" + basicInstantText(event.instant);
+}
+
+std::string uidOf(const CalendarEvent& event) {
+  return event.kind + "-" + basicInstantText(event.instant) + (event.place.empty() ? "" : "-" + event.place) +
+         "@velmora";
+}
+
 std::string eventText(const CalendarEvent& event, const std::string& stamp) {
-  const std::string start = basicInstantText(event.instant);
-  return contentLine("BEGIN:VEVENT") + contentLine("UID:" + escaped(event.kind) + "-" + start + "@velmora") +
-         contentLine("DTSTAMP:" + stamp) + contentLine("DTSTART:" + start) +
+  return contentLine("BEGIN:VEVENT") + contentLine("UID:" + escaped(uidOf(event))) +
+         contentLine("DTSTAMP:" + stamp) + contentLine(startLine(event)) +
          contentLine("SUMMARY:" + escaped(event.summary)) +
          (event.location ? contentLine("LOCATION:" + escaped(*event.location)) : "") +
          (event.description ? contentLine("DESCRIPTION:" + escaped(*event.description)) : "") +
@@ -67,9 +77,10 @@ std::string eventText(const CalendarEvent& event, const std::string& stamp) {
 
 }  // namespace
 
-std::string iCalendar(const std::vector<CalendarEvent>& events, Instant stamp) {
+std::string iCalendar(const std::string& name, const std::vector<CalendarEvent>& events, Instant stamp) {
   std::string text = contentLine("BEGIN:VCALENDAR") + contentLine("VERSION:2.0") +
-                     contentLine("PRODID:-//Velmora//velmora " + std::string(VelmoraVersionString) + "//EN");
+                     contentLine("PRODID:-//Velmora//velmora " + std::string(VelmoraVersionString) + "//EN") +
+                     contentLine("NAME:" + escaped(name)) + contentLine("X-WR-CALNAME:" + escaped(name));
   for (const CalendarEvent& event : events) text += eventText(event, basicInstantText(stamp));
   return text + contentLine("END:VCALENDAR");
 }

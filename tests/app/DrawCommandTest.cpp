@@ -1,7 +1,13 @@
+#include <algorithm>
+#include <sstream>
+
 #include <app/request/DrawableView.h>
 #include <velmora/foundation/SettingsModel.h>
+#include <velmora/foundation/VelmoraCalendar.h>
+#include <velmora/platform/graphics/TextLayout.h>
 #include <velmora/platform/system/Log.h>
 #include <velmora/platform/time/Locale.h>
+#include <velmora/platform/time/NumberFormatter.h>
 #include <velmora/platform/ui/Device.h>
 #include <velmora/views/VelmoraTheme.h>
 
@@ -26,12 +32,18 @@ TEST_P(EachView, HasTheSizeThatIsAskedForInEveryFormat) {
   EXPECT_EQ(statedSize(draw(arguments, "picture.PDF")), (Size{300, 420}));
 }
 
+/// A poster has a sheet of its own under it.
+bool isPoster(const std::string& view) {
+  const auto& options = findView(view)->options;
+  return std::find(options.begin(), options.end(), "paper") != options.end();
+}
+
 TEST_P(EachView, HasAUsualSizeAndLiesOnTheCalendarsBackground) {
   const DrawnPicture drawn = picture({GetParam()});
   EXPECT_GE(drawn.size().width, 240);
   EXPECT_GE(drawn.size().height, 64);
   const Color background = VelmoraTheme::calendarTheme()->backgroundColor;
-  EXPECT_TRUE(drawn.has(background, 0, 0));
+  EXPECT_EQ(drawn.has(background, 0, 0), !isPoster(GetParam()));
   EXPECT_LT(drawn.count(background), drawn.whole().width * drawn.whole().height * 0.99);
 }
 
@@ -295,11 +307,90 @@ TEST_F(DrawTest, LeavesTheDeviceAsItWas) {
   EXPECT_EQ(Device::current().forcedDirection, std::nullopt);
 }
 
+/// Of the dates below a year's discs, written as the view does.
+double widestDate(const std::string& language) {
+  const ScopedLocale locale(language);
+  double widest = 0;
+  for (const std::string& month : VelmoraCalendar::shortMonthStrings()) {
+    for (const std::int64_t day : {20, 28, 30}) {
+      const AttributedText date(month + " " + NumberFormatter().stringFromNumber(day),
+                                {.font = Font::systemFont(13)});
+      widest = std::max(widest, TextLayout(date).width());
+    }
+  }
+  return widest;
+}
+
+TEST_F(DrawTest, YearHasRoomForTheDatesOfEveryLanguage) {
+  std::istringstream languages(
+      "af am ar as az be bg bn bs ca cs cy da de el en es et eu fa fi fil fr ga gl gu he hi hr hu hy id is "
+      "it "
+      "ja ka kk km kn ko ky lo lt lv mk ml mn mr ms my nb ne nl or pa pl ps pt ro ru sd si sk sl sq sr sv sw "
+      "ta te th tr uk ur uz vi yue zh zu");
+  for (std::string language; languages >> language;) {
+    const double width = picture({"year", "--locale", language}).whole().width;
+    EXPECT_GE(width, 460) << language;
+    EXPECT_LE(width, 700) << language;
+    EXPECT_GE(std::floor((width - 16) / 7), widestDate(language)) << language;
+  }
+  EXPECT_GT(picture({"year", "--locale", "fi"}).whole().width, 460) << "marrask. 15";
+}
+
+TEST_F(DrawTest, RiseSetIsAsWideAsItsTimesNeed) {
+  const auto widthAt = [&](const char* city, const char* date) {
+    return picture({"riseset", "--24h", "--city", city, "--date", date}).whole().width;
+  };
+  EXPECT_EQ(widthAt("Singapore", "2024-02-10"), 768);
+  EXPECT_GT(widthAt("Helsinki", "2024-06-20"), 850) << "the Sun sets at 22:50";
+  EXPECT_LE(widthAt("Helsinki", "2024-06-20"), 1600);
+}
+
+TEST_F(DrawTest, TitleIsReadableOnEveryBackground) {
+  const auto title = [&](const char* background) {
+    const DrawnPicture drawn = picture({"disc", "--background", background});
+    int darkest = 255, lightest = 0;
+    for (std::int64_t y = 0; y < 56; ++y) {
+      for (std::int64_t x = 0; x < 240; ++x) {
+        darkest = std::min(darkest, drawn.pixel(x, y)[0]);
+        lightest = std::max(lightest, drawn.pixel(x, y)[0]);
+      }
+    }
+    return std::pair(darkest, lightest);
+  };
+  EXPECT_LT(title("white").first, 80);
+  EXPECT_LT(title("ffe0a0").first, 80);
+  EXPECT_GT(title("black").second, 190);
+  EXPECT_GT(title("602020").second, 190);
+}
+
+TEST_F(DrawTest, TheDefaultThemeIsInkOnALightBackground) {
+  const DrawnPicture drawn = picture({"month", "--theme", "default", "--background", "white", "--no-title"});
+  EXPECT_GT(drawn.count(Color::withWhite(0.44, 1)), 1000) << "the lit parts and the letters";
+  EXPECT_EQ(VelmoraTheme::defaultTheme()->lightTextColor, Color::withWhite(0.8, 1))
+      << "for this picture alone";
+}
+
+TEST_F(DrawTest, AMonthBeginsWithTheWeekdayOfTheLocale) {
+  const std::vector<std::string> june = {"month", "--date", "2024-06-20"};
+  const auto drawn = [&](std::vector<std::string> more) {
+    more.insert(more.begin(), june.begin(), june.end());
+    return bytesOf(draw(more));
+  };
+  EXPECT_EQ(drawn({"--locale", "en_GB"}), drawn({"--locale", "en_GB", "--week-start", "monday"}));
+  EXPECT_EQ(drawn({"--locale", "en_US"}), drawn({"--locale", "en_US", "--week-start", "sunday"}));
+  EXPECT_NE(drawn({"--locale", "en_GB"}), drawn({"--locale", "en_GB", "--week-start", "sunday"}));
+}
+
+TEST_F(DrawTest, ASmallDiscIsThere) {
+  const DrawnPicture drawn = picture({"disc", "--size", "20x20", "--date", "2024-06-21"});
+  EXPECT_GT(drawn.count(VelmoraTheme::calendarTheme()->lightTextColor), 100);
+}
+
 TEST_F(DrawTest, HelpNamesEachViewAndSaysThatTheChartIsASample) {
   const std::string help = answer({"draw", "--help"});
   for (const DrawableView& view : allViews())
     EXPECT_NE(help.find("\n  " + std::string(view.name) + " "), std::string::npos) << view.name;
-  EXPECT_NE(help.find("a fixed sample"), std::string::npos);
+  EXPECT_NE(help.find("a fixed example in English"), std::string::npos);
 }
 
 }  // namespace

@@ -38,6 +38,31 @@ TEST_F(DrawSkyTest, CompassShowsTheMoonInTheDirectionOfItsRise) {
   EXPECT_NEAR(seen, azimuth, 2);
 }
 
+TEST_F(DrawSkyTest, ASmallCompassIsALargeOneFromAfar) {
+  const DrawnPicture drawn =
+      picture({"compass", "--no-title", "--size", "40x40", "--scale", "4", "--background", "none", "--city",
+               "Helsinki", "--date", "2024-06-20", "--time", "23:00"});
+  const DrawnPicture large = picture({"compass", "--no-title", "--size", "160x160", "--background", "none",
+                                      "--city", "Helsinki", "--date", "2024-06-20", "--time", "23:00"});
+  const Point small = drawn.middle(moon()), wanted = large.middle(moon());
+  EXPECT_NEAR(small.x, wanted.x, 1);
+  EXPECT_NEAR(small.y, wanted.y, 1);
+}
+
+TEST_F(DrawSkyTest, TheTitleSaysWhereTheMoonStands) {
+  const std::vector<std::string> evening = {"--city", "Helsinki", "--date", "2024-06-20",
+                                            "--time", "23:00",    "--size", "390x446"};
+  const auto placeLine = [&](std::vector<std::string> arguments) {
+    arguments.insert(arguments.end(), evening.begin(), evening.end());
+    const DrawnPicture drawn = picture(arguments);
+    const std::size_t row = 4 * 390;
+    return PixelBytes(drawn.pixels().begin() + 34 * row, drawn.pixels().begin() + 54 * row);
+  };
+  const auto wanted = placeLine({"timeline", "--name", "Helsinki · 1° above the horizon, 164° SSE"});
+  EXPECT_EQ(placeLine({"compass"}), wanted);
+  EXPECT_EQ(placeLine({"azel"}), wanted);
+}
+
 TEST_F(DrawSkyTest, CompassIsTurnedSoThatTheHeadingIsUp) {
   const Point north = placeOf(sky("compass", "Sydney", "17:00"));
   const Point east = placeOf(sky("compass", "Sydney", "17:00", {"--heading", "90"}));

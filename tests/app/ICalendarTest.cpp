@@ -25,24 +25,38 @@ std::vector<std::string> unfolded(const std::string& calendar) {
 }
 
 TEST(ICalendar, AnEventIsAnInstantInUniversalTime) {
-  EXPECT_EQ(iCalendar({{"TSE", greatest, "Total Solar Eclipse", "Dallas"}}, stamp),
+  EXPECT_EQ(iCalendar("Moon", {{"TSE", greatest, "Total Solar Eclipse", "Dallas"}}, stamp),
             "BEGIN:VCALENDAR\r\nVERSION:2.0\r\nPRODID:-//Velmora//velmora 0.1.0//EN\r\n"
+            "NAME:Moon\r\nX-WR-CALNAME:Moon\r\n"
             "BEGIN:VEVENT\r\nUID:TSE-20240408T181700Z@velmora\r\nDTSTAMP:20240102T030405Z\r\n"
             "DTSTART:20240408T181700Z\r\nSUMMARY:Total Solar Eclipse\r\nLOCATION:Dallas\r\n"
             "TRANSP:TRANSPARENT\r\nEND:VEVENT\r\nEND:VCALENDAR\r\n");
 }
 
 TEST(ICalendar, TheUidIsThatOfKindAndInstantAlone) {
-  const auto before = unfolded(iCalendar({{"FM", greatest, "Full Moon", std::nullopt}}, stamp));
-  const auto after = unfolded(iCalendar({{"FM", greatest, "Vollmond", "x"}}, stamp + Seconds(60)));
-  EXPECT_EQ(before.at(4), "UID:FM-20240408T181700Z@velmora");
-  EXPECT_EQ(before.at(4), after.at(4));
+  const auto before = unfolded(iCalendar("Moon", {{"FM", greatest, "Full Moon", std::nullopt}}, stamp));
+  const auto after = unfolded(iCalendar("Moon", {{"FM", greatest, "Vollmond", "x"}}, stamp + Seconds(60)));
+  EXPECT_EQ(before.at(6), "UID:FM-20240408T181700Z@velmora");
+  EXPECT_EQ(before.at(6), after.at(6));
+}
+
+TEST(ICalendar, AnEventMayBeADayAndBelongToAPlace) {
+  const auto lines = unfolded(iCalendar("Moon",
+                                        {{.kind = "FM",
+                                          .instant = greatest,
+                                          .summary = "Full Moon",
+                                          .place = "1.5_-2.5",
+                                          .day = dateFromText("2024-04-09")}},
+                                        stamp));
+  EXPECT_EQ(lines.at(6), "UID:FM-20240408T181700Z-1.5_-2.5@velmora");
+  EXPECT_EQ(lines.at(8), "DTSTART;VALUE=DATE:20240409");
 }
 
 TEST(ICalendar, TextIsEscaped) {
-  const auto lines = unfolded(iCalendar({{"FM", greatest, "a\\b;c,d:e\"f\nnext\tline\x7f", ""}}, stamp));
-  EXPECT_EQ(lines.at(7), "SUMMARY:a\\\\b\\;c\\,d:e\"f\\nnextline");
-  EXPECT_EQ(lines.at(8), "LOCATION:");
+  const auto lines =
+      unfolded(iCalendar("Moon", {{"FM", greatest, "a\\b;c,d:e\"f\nnext\tline\x7f", ""}}, stamp));
+  EXPECT_EQ(lines.at(9), "SUMMARY:a\\\\b\\;c\\,d:e\"f\\nnextline");
+  EXPECT_EQ(lines.at(10), "LOCATION:");
 }
 
 TEST(ICalendar, LongLinesAreFoldedBetweenCharacters) {
@@ -50,8 +64,8 @@ TEST(ICalendar, LongLinesAreFoldedBetweenCharacters) {
     for (std::size_t shift = 0; shift < 4; ++shift) {
       std::string summary(shift, '-');
       for (int i = 0; i < 120; ++i) summary += letter;
-      const std::string calendar = iCalendar({{"FM", greatest, summary, std::nullopt}}, stamp);
-      EXPECT_EQ(unfolded(calendar).at(7), "SUMMARY:" + summary);
+      const std::string calendar = iCalendar("Moon", {{"FM", greatest, summary, std::nullopt}}, stamp);
+      EXPECT_EQ(unfolded(calendar).at(9), "SUMMARY:" + summary);
       for (const std::string& line : linesOf(calendar))
         EXPECT_NO_THROW(Json(line.substr(0, line.size() - 1)).dump()) << "a cut character in " << line;
     }
@@ -60,9 +74,9 @@ TEST(ICalendar, LongLinesAreFoldedBetweenCharacters) {
 
 TEST(ICalendar, ALineOf75BytesIsNotFolded) {
   const std::string fits(75 - std::string("SUMMARY:").size(), 'x');
-  EXPECT_NE(iCalendar({{"FM", greatest, fits, std::nullopt}}, stamp).find(":" + fits + "\r\n"),
+  EXPECT_NE(iCalendar("Moon", {{"FM", greatest, fits, std::nullopt}}, stamp).find(":" + fits + "\r\n"),
             std::string::npos);
-  EXPECT_NE(iCalendar({{"FM", greatest, fits + "y", std::nullopt}}, stamp).find("x\r\n y\r\n"),
+  EXPECT_NE(iCalendar("Moon", {{"FM", greatest, fits + "y", std::nullopt}}, stamp).find("x\r\n y\r\n"),
             std::string::npos);
 }
 

@@ -39,6 +39,36 @@ TEST_F(IcsCommandTest, AnEclipseIsDescribedAsItIsSeenFromThePlace) {
       << calendar;
 }
 
+TEST_F(IcsCommandTest, IsNamedAfterThePlace) {
+  const std::string calendar =
+      answer({"ics", "--from", "2024-04-08", "--to", "2024-04-08", "--city", "Chicago"});
+  EXPECT_NE(calendar.find("\nNAME:Velmora\\, Chicago\r\nX-WR-CALNAME:Velmora\\, Chicago\r\n"),
+            std::string::npos);
+}
+
+TEST_F(IcsCommandTest, TheUidOfAnEclipseIsThatOfThePlaceToo) {
+  const auto uidsAt = [](const char* latitude) {
+    std::vector<std::string> uids;
+    for (const std::string& line :
+         linesOf(answer({"ics", "--from", "2024-04-08", "--to", "2024-04-08", "--lat", latitude, "--lon",
+                         "-97", "--tz", "America/Chicago"})))
+      if (line.starts_with("UID:")) uids.push_back(line);
+    return uids;
+  };
+  const auto one = uidsAt("32.7"), other = uidsAt("32.8");
+  ASSERT_EQ(one.size(), 2U);
+  EXPECT_EQ(one[0], other[0]) << "a new moon is the same everywhere";
+  EXPECT_NE(one[1], other[1]);
+  EXPECT_TRUE(one[1].ends_with("Z-32.7000_-97.0000@velmora\r")) << one[1];
+}
+
+TEST_F(IcsCommandTest, EventsMayBeDaysOfThePlace) {
+  const std::string tokyo =
+      answer({"ics", "--from", "2024-04-24", "--to", "2024-04-24", "--city", "Tokyo", "--all-day", "--24h"});
+  EXPECT_NE(tokyo.find("\nDTSTART;VALUE=DATE:20240424\r\n"), std::string::npos) << tokyo;
+  EXPECT_NE(tokyo.find("\nDESCRIPTION:2024-04-24 08:49\r\n"), std::string::npos) << tokyo;
+}
+
 TEST_F(IcsCommandTest, TheRangeIsOfDaysAtThePlace) {
   EXPECT_EQ(uidsOf({"--from", "2024-04-24", "--to", "2024-04-24", "--city", "Tokyo"}), "FM-20240423T2348\n");
   EXPECT_EQ(uidsOf({"--from", "2024-04-23", "--to", "2024-04-23", "--city", "Tokyo"}), "");

@@ -53,7 +53,8 @@ class JsonPageTest : public PictureTest {
 
   std::set<Names> objects() const {
     std::set<Names> objects;
-    for (const std::string& answer : answersTo(requests(), {"--pictures", folder().path().string()})) collect(Json::parse(answer), objects);
+    for (const std::string& answer : answersTo(requests(), {"--pictures", folder().path().string()}))
+      collect(Json::parse(answer), objects);
     collect(json({"place"}), objects);
     collect(json({"place", "--forget"}), objects);
     return objects;

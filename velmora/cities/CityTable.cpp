@@ -72,7 +72,7 @@ class [[gnu::visibility("hidden")]] CityTable::Contents {
 
  private:
   std::vector<Candidate> candidates(const std::string& key) const;
-  std::vector<std::size_t> cityOfZone(const std::string& key) const;
+  std::vector<std::size_t> cityOfZone(std::string_view spelling, const std::string& key) const;
   bool isNamedByItsZone(std::size_t city, const std::string& key) const;
   std::int64_t weight(const Candidate& candidate) const;
   std::vector<std::size_t> meant(std::vector<Candidate> candidates, const std::string& key) const;
@@ -102,8 +102,13 @@ std::vector<CityTable::Contents::Candidate> CityTable::Contents::candidates(cons
   return found;
 }
 
-/// The city of the zone with that key.
-std::vector<std::size_t> CityTable::Contents::cityOfZone(const std::string& key) const {
+/// The city of the zone with that name, or with that key, which takes longer to tell.
+std::vector<std::size_t> CityTable::Contents::cityOfZone(std::string_view spelling,
+                                                         const std::string& key) const {
+  for (std::size_t i = 0; i < file.zones(); ++i) {
+    const CityFile::Zone zone = file.zone(i);
+    if (zone.city < file.cities() && zone.name == spelling) return {zone.city};
+  }
   for (std::size_t i = 0; i < file.zones(); ++i) {
     const CityFile::Zone zone = file.zone(i);
     if (zone.city < file.cities() && file.folded(zone.name) == key) return {zone.city};
@@ -175,7 +180,7 @@ std::vector<std::size_t> CityTable::Contents::named(std::string_view spelling) c
   if (const auto found = candidates(whole); !found.empty()) return meant(found, whole);
 
   const std::vector<std::string_view> places = parts(spelling, ',');
-  if (places.size() == 1) return cityOfZone(whole);
+  if (places.size() == 1) return cityOfZone(spelling, whole);
   auto found = candidates(file.folded(places[0]));
   std::erase_if(found, [&](const Candidate& candidate) { return !liesIn(candidate.city, places, true); });
   const auto first = std::max_element(found.begin(), found.end(),

@@ -3,6 +3,7 @@
 #include <unicode/uchar.h>
 #include <unicode/unistr.h>
 
+#include <algorithm>
 #include <cstdint>
 
 namespace velmora::app {
@@ -18,6 +19,8 @@ std::size_t widthOf(UChar32 character) {
 }  // namespace
 
 std::size_t displayWidth(std::string_view text) {
+  constexpr auto isPrintableAscii = [](char c) { return c >= ' ' && c <= '~'; };
+  if (std::all_of(text.begin(), text.end(), isPrintableAscii)) return text.size();
   const auto characters =
       icu::UnicodeString::fromUTF8(icu::StringPiece(text.data(), static_cast<std::int32_t>(text.size())));
   std::size_t width = 0;

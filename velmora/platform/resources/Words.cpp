@@ -38,6 +38,7 @@ bool hasWords(const Locale& locale) {
 }  // namespace
 
 std::string words(std::string_view english, std::initializer_list<std::string_view> parts) {
+  if (localeOfWords().languageCode() == "en") return filled(english, parts);  // no table need be read
   return filled(Bundle::library().localizedString(std::string(english), "", table), parts);
 }
 
