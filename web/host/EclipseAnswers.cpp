@@ -83,6 +83,7 @@ std::string jsonOf(const almanac::LocalEclipse& eclipse, const Discs& discs) {
       .with("begin", milliseconds(eclipse.visibleFrom))
       .with("best", milliseconds(eclipse.best.at))
       .with("end", milliseconds(eclipse.visibleTo))
+      .with("maximum", milliseconds(eclipse.maximum.at))
       .with("altitude", eclipse.best.altitude)
       .with("azimuth", eclipse.best.azimuth)
       .with("magnitude", eclipse.bestMagnitude)

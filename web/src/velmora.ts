@@ -273,6 +273,9 @@ export interface SeenEclipse {
   readonly begin: number;
   readonly best: number;
   readonly end: number;
+  /** The geometric one; at another instant than the best where the body is down then. */
+  readonly maximum: number;
+  /** Where the body stands at its best. */
   readonly altitude: number;
   readonly azimuth: number;
   /** At its best; solar: the covered part of the Sun's diameter, lunar: of the Moon's in the shadow. */

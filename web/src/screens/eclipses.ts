@@ -29,9 +29,14 @@ function contactName(name: EclipseContact["name"], kind: SeenEclipse["kind"]): s
   }
 }
 
-function sizeText(app: App, { body, magnitude, obscuration }: SeenEclipse): string {
+/** Whether its maximum is seen, and not only what comes before or after. */
+const showsMaximum = ({ best, maximum }: SeenEclipse): boolean => best === maximum;
+
+/** The covered part of the Sun is known of the maximum alone. */
+function sizeText(app: App, eclipse: SeenEclipse): string {
+  const { body, magnitude, obscuration } = eclipse;
   const size = app.format.number(magnitude, 2);
-  return body === "sun"
+  return body === "sun" && showsMaximum(eclipse)
     ? w("magnitude %1, %2 of the Sun covered", size, app.format.percent(obscuration))
     : w("magnitude %1", size);
 }
@@ -42,7 +47,7 @@ export function eclipseCard(app: App, eclipse: SeenEclipse, heading?: string): H
   const title = w(titles[eclipse.body][eclipse.kind]);
   const day = format.dayAt(eclipse.best);
   const time = (at: number): string => format.timeOn(at, day);
-  const rows: [string, number][] = [[t("Begin"), eclipse.begin], [w("Maximum"), eclipse.best], [t("End"), eclipse.end]];
+  const rows: [string, number][] = [[t("Begin"), eclipse.begin], [w("Maximum"), eclipse.maximum], [t("End"), eclipse.end]];
   const contacts = eclipse.contacts.map(({ name, at, isUp }) => h("div", { class: "fact" },
     h("dt", {}, contactName(name, eclipse.kind)),
     h("dd", {}, h("span", {}, time(at)), isUp ? undefined : h("small", {}, w("below the horizon")))));
@@ -52,7 +57,7 @@ export function eclipseCard(app: App, eclipse: SeenEclipse, heading?: string): H
   return h("section", { class: "card wide eclipse-card" },
     heading ? h("h2", {}, heading) : undefined,
     h("div", { class: "eclipse-body" },
-      eclipseDrawing(eclipse, t("The disc at the maximum")),
+      eclipseDrawing(eclipse, showsMaximum(eclipse) ? t("The disc at the maximum") : `${title}, ${time(eclipse.best)}`),
       h("div", { class: "eclipse-texts" },
         h(heading ? "h3" : "h2", {}, title),
         h("p", { class: "eclipse-date" }, format.date(eclipse.best)),
@@ -60,7 +65,8 @@ export function eclipseCard(app: App, eclipse: SeenEclipse, heading?: string): H
         h("p", {}, h("small", {}, w("%1 above the horizon, %2", format.degrees(Math.max(0, eclipse.altitude)),
           format.direction(eclipse.azimuth)))))),
     h("dl", { class: "three" }, ...rows.map(([name, at]) =>
-      h("div", {}, h("dt", {}, name), h("dd", {}, time(at))))),
+      h("div", {}, h("dt", {}, name), h("dd", {}, time(at)),
+        at === eclipse.maximum && !showsMaximum(eclipse) ? h("dd", {}, h("small", {}, w("below the horizon"))) : undefined))),
     h("details", {}, h("summary", {}, t("All its phases")), h("dl", {}, ...contacts)),
     show);
 }
