@@ -78,7 +78,8 @@ std::optional<PlaceChoice> ownPlace() {
 /// The principal city of the process's time zone.
 std::optional<PlaceChoice> cityOfZone() {
   const TimeZone zone = TimeZone::defaultZone();
-  if (zone.name().find('/') == std::string::npos) return std::nullopt;  // UTC is nowhere
+  const bool isOfAPlace = zone.name().find('/') != std::string::npos && !zone.name().starts_with("Etc/");
+  if (!isOfAPlace) return std::nullopt;  // which takes longest to find out from the table
   for (const City& city : CityTable::shipped().named(zone.name())) {
     if (city.zone != zone.name()) continue;
     return PlaceChoice{
