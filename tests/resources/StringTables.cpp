@@ -8,7 +8,7 @@
 
 namespace velmora {
 
-const std::map<std::string, Script> languages = {
+const std::map<std::string, Script> kLanguages = {
     {"en", Script::latin},        {"de", Script::latin},       {"fr", Script::latin},
     {"es", Script::latin},        {"it", Script::latin},       {"pt", Script::latin},
     {"nl", Script::latin},        {"pl", Script::latin},       {"tr", Script::latin},
