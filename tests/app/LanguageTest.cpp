@@ -152,5 +152,13 @@ TEST(WordsOfTheSources, StandInTheTables) {
   for (const std::string& text : used) EXPECT_TRUE(known.contains(text)) << text;
 }
 
+TEST(WordsOfTheSources, AreAllThatTheTablesHave) {
+  const std::string source = std::regex_replace(sources(), std::regex("\"\\s*\""), "");
+  for (const auto& [key, text] : textsOf(sourceDirectory() + "/velmora/resources", "en", "Almanac")) {
+    const std::string whole = key.substr(0, key.rfind(" ["));
+    EXPECT_NE(source.find('"' + whole + '"'), std::string::npos) << key;
+  }
+}
+
 }  // namespace
 }  // namespace velmora::app
