@@ -210,11 +210,11 @@ TEST(NotificationCenter, TheDefaultCenterIsOneForTheProcess) {
 
 TEST_F(NotificationCenterTest, ANameMayBeAnyText) {
   const std::string_view name = "moved";
-  int told = 0;
-  const auto subscription = center.subscribe(name, [&] { ++told; });
+  int count = 0;
+  const auto subscription = center.subscribe(name, [&] { ++count; });
   center.post(std::string("moved"));
   center.post(name);
-  EXPECT_EQ(told, 2);
+  EXPECT_EQ(count, 2);
 }
 
 }  // namespace
