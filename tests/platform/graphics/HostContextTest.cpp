@@ -184,7 +184,9 @@ TEST(HostContext, LooksTheSameWhenItIsDrawnOnAgain) {
       CairoCanvas canvas(window.context.get(), {100, 100});
       drawAll(canvas);
     }
-    if (!former.empty()) EXPECT_TRUE(window.pixels() == former);
+    if (!former.empty()) {
+      EXPECT_TRUE(window.pixels() == former);
+    }
     former = window.pixels();
   }
 }
