@@ -1,4 +1,6 @@
 #include <chrono>
+#include <cmath>
+#include <iostream>
 #include <string>
 #include <vector>
 
@@ -39,6 +41,9 @@ constexpr Spot spots[] = {
     {"Pacific/Chatham", {-43.95, -176.56}},
     {"UTC", {-90, 0}},
 };
+
+/// Names the test of the place.
+void PrintTo(const Spot& spot, std::ostream* out) { *out << spot.zone << ',' << spot.place.latitude; }
 
 /// Degrees by which the limb that rises first is above the horizon, as rise and set have it.
 double overHorizon(const Position& position, Body body) {
@@ -97,19 +102,24 @@ std::size_t compareHours(const Spot& spot, Body body, const std::vector<Day>& da
   return samples.size();
 }
 
-TEST(SampledSky, NoHourOf2000To2040ContradictsTheEventsOfItsDay) {
-  std::size_t compared = 0, allDay = 0;
-  for (const Spot& spot : spots) {
-    const auto found = days(spot.place, *TimeZone::named(spot.zone), 2000y / January / 1,
-                            2040y / December / 31, {.twilight = false, .transits = false});
-    ASSERT_GE(found.size(), 14975U) << spot.zone;  // Apia skipped a day
-    for (const Day& day : found) allDay += (day.sun != AllDay::no) + (day.moon != AllDay::no);
-    for (const Body body : {Body::sun, Body::moon}) compared += compareHours(spot, body, found);
+class SampledSky : public testing::TestWithParam<Spot> {};
+
+TEST_P(SampledSky, NoHourOf2000To2040ContradictsTheEventsOfItsDay) {
+  const Spot& spot = GetParam();
+  const auto found = days(spot.place, *TimeZone::named(spot.zone), 2000y / January / 1, 2040y / December / 31,
+                          {.twilight = false, .transits = false});
+  ASSERT_GE(found.size(), 14975U);  // Apia skipped a day
+  const auto hours = compareHours(spot, Body::sun, found) + compareHours(spot, Body::moon, found);
+  std::size_t allDay = 0;
+  for (const Day& day : found) allDay += (day.sun != AllDay::no) + (day.moon != AllDay::no);
+  std::cout << "  " << hours << " hours compared, " << allDay << " times up or down all day\n";
+  EXPECT_GE(hours, 2 * 24 * 14975U);
+  if (std::abs(spot.place.latitude) > 67) {
+    EXPECT_GT(allDay, 5000U);
   }
-  std::cout << "  " << compared << " hours compared, " << allDay << " times up or down all day\n";
-  EXPECT_GT(compared, 14'000'000U);
-  EXPECT_GT(allDay, 50'000U);
 }
+
+INSTANTIATE_TEST_SUITE_P(Places, SampledSky, testing::ValuesIn(spots));
 
 }  // namespace
 }  // namespace velmora::almanac
