@@ -57,9 +57,10 @@ constexpr std::array<Real, count> taylorOfEvenPowers(double n) {
 
 /// As many coefficients as the precision needs up to π/4.
 template <class Real>
-inline constexpr auto taylorOfCosine = taylorOfEvenPowers<Real, sizeof(Real) + 1>(1);
+[[gnu::visibility("hidden")]] inline constexpr auto taylorOfCosine =
+    taylorOfEvenPowers<Real, sizeof(Real) + 1>(1);
 template <class Real>
-inline constexpr auto taylorOfSine = taylorOfEvenPowers<Real, sizeof(Real)>(2);
+[[gnu::visibility("hidden")]] inline constexpr auto taylorOfSine = taylorOfEvenPowers<Real, sizeof(Real)>(2);
 
 /// Cosine and sine of an angle from −1/2 to 1/2 turn, with an error of up to 32 halves of the last bit.
 /// Taylor's series of a quarter of the angle, doubled twice.

@@ -8,10 +8,10 @@ namespace velmora {
 
 /// How the poster of a year shows its days.
 struct YearPosterStyle {
-  PaperTheme theme = PaperTheme::dark;
-  bool alignsWeekdays = false;  ///< whether months begin at the line of their weekday
-  bool isTilted = false;        ///< whether the discs hang as they do in the sky of the place
-  unsigned firstWeekday = 1;    ///< of the lines by weekdays, 0 is Sunday
+  PaperTheme theme = PaperTheme::dark;  ///< light or dark paper
+  bool alignsWeekdays = false;          ///< whether months begin at the line of their weekday
+  bool isTilted = false;                ///< whether the discs hang as they do in the sky of the place
+  unsigned firstWeekday = 1;            ///< of the lines by weekdays, 0 is Sunday
 };
 
 /// A year of Moons on a sheet: each day's disc as it is lit in the evening at the place, the principal phases

@@ -17,8 +17,8 @@ namespace velmora {
 /// after the sunrise.
 class AlmanacRecords {
  public:
-  static constexpr std::int64_t beforeTheDay = -1;
-  static constexpr std::int64_t afterTheDay = 1441;
+  static constexpr std::int64_t beforeTheDay = -1;   ///< minutes of what is up when the day begins
+  static constexpr std::int64_t afterTheDay = 1441;  ///< minutes of what is up when it ends, or down all day
 
   /// `height`: of the eye, metres above the horizon around.
   static RiseSetSource riseSetSource(double height = 0);
