@@ -115,7 +115,7 @@ TEST_P(SampledSky, NoHourOf2000To2040ContradictsTheEventsOfItsDay) {
   std::cout << "  " << hours << " hours compared, " << allDay << " times up or down all day\n";
   EXPECT_GE(hours, 2 * 24 * 14975U);
   if (std::abs(spot.place.latitude) > 67) {
-    EXPECT_GT(allDay, 5000U);
+    EXPECT_GT(allDay, 6500U);
   }
 }
 
