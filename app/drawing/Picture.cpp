@@ -130,10 +130,10 @@ void checkPixels(PictureFormat format, Size size, double scale) {
     throw BadInput("the picture would have more than 64 million pixels; give a smaller size or scale");
 }
 
-void checkSize(const CairoCanvas& canvas) {
-  const auto error = canvas.error();
-  if (error && error->kind == PictureError::Kind::size) throw BadInput(error->message);
-  if (error) throw Failure(error->message);
+void check(const std::optional<PictureError>& error, const std::string& beginning = "") {
+  if (!error) return;
+  if (error->kind == PictureError::Kind::size) throw BadInput(error->message);
+  throw Failure(beginning + error->message);
 }
 
 Title titleOf(const DrawableView& view, const Query& query) {
@@ -160,13 +160,12 @@ void warnOfUncovered(const CairoCanvas& canvas) {
 /// The bytes of a picture that goes to standard output.
 std::string bytesOf(CairoCanvas& canvas) {
   std::ostringstream bytes;
-  if (const auto error = canvas.write(bytes)) throw Failure(error->message);
+  check(canvas.write(bytes));
   return bytes.str();
 }
 
 void write(CairoCanvas& canvas, const OutputFile& file) {
-  if (const auto error = canvas.writeFile(file.path))
-    throw Failure("output " + quote(file.name) + ": " + error->message);
+  check(canvas.writeFile(file.path), "output " + quote(file.name) + ": ");
 }
 
 void warnOfPixels(const CairoCanvas& canvas) {
@@ -191,7 +190,7 @@ Picture drawPicture(const Query& query) {
   const ScopedDevice device({layout.size.width, drawing.scale, forcedDirection(drawing)});
   checkPixels(file.format, layout.size, drawing.scale);
   CairoCanvas canvas(file.format, layout.size, drawing.scale, background);
-  checkSize(canvas);
+  check(canvas.error());
   draw(canvas, layout, view, query, background);
   warnOfUncovered(canvas);
   std::string bytes;

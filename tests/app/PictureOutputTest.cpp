@@ -59,6 +59,18 @@ TEST_F(PictureOutputTest, APictureHasAtMost64MillionPixels) {
   EXPECT_FALSE(std::filesystem::exists(path("large.png")));
 }
 
+TEST_F(PictureOutputTest, AVectorPictureThatBecomesPixelsHasNoMoreThanAPictureOfThem) {
+  for (const char* name : {"large.svg", "large.pdf"}) {
+    const Outcome outcome =
+        runProgram({"draw", "riseset", "--size", "2500x2500", "--background", "none", "-o", path(name)});
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_EQ(outcome.err,
+              "velmora: the picture cannot stay vector and would be made of more than 64 million pixels; "
+              "accepted: a smaller size, or an opaque background\n");
+    EXPECT_FALSE(std::filesystem::exists(path(name)));
+  }
+}
+
 TEST_F(PictureOutputTest, ADashIsStandardOutput) {
   const std::string written = bytesOf(draw({"disc"}));
   EXPECT_EQ(runProgram({"draw", "disc", "-o", "-"}).out, written);

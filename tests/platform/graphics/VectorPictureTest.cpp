@@ -17,6 +17,7 @@ namespace {
 
 using testing::comparable;
 using testing::drawCrescent;
+using testing::holdsImage;
 using testing::written;
 
 constexpr Rect hole = {20, 20, 30, 20};
@@ -24,10 +25,6 @@ const Color background = {0.9, 0.9, 1, 1}, below = {0.1, 0.1, 0.2, 1};
 
 bool contains(const std::string& text, const std::string& part) {
   return text.find(part) != std::string::npos;
-}
-
-bool holdsImage(const std::string& svgOrPdf) {
-  return contains(svgOrPdf, "<image") || contains(svgOrPdf, "/Subtype /Image");
 }
 
 std::string crescents(PictureFormat format, const Color& dark) {
@@ -269,20 +266,6 @@ TEST(VectorPicture, SaysWhenItsPageBecamePixels) {
   }
 }
 
-TEST(VectorPicture, DoesNotCountOverlayImagesOrAPngAsPagesOfPixels) {
-  CairoCanvas svg(PictureFormat::svg, {100, 50}), png(PictureFormat::png, {100, 50});
-  for (CairoCanvas* canvas : {&svg, &png}) {
-    canvas->fillRect({0, 0, 100, 50});
-    canvas->setBlendMode(BlendMode::overlay);
-    canvas->fillEllipse({20, 20, 10, 10});
-  }
-  png.clearRect(hole);
-  for (CairoCanvas* canvas : {&svg, &png}) {
-    written(*canvas);
-    EXPECT_FALSE(canvas->becamePixels());
-  }
-}
-
 TEST(VectorPicture, ATextAtNoPlaceLeavesNoTraceInSvg) {
   CairoCanvas blank(PictureFormat::svg, {100, 50}), canvas(PictureFormat::svg, {100, 50});
   TextLayout(AttributedText("14 Mar")).drawAtPoint(canvas, {std::nan(""), 10});
@@ -333,15 +316,6 @@ TEST(VectorPicture, AnImageIsOneElementOfAnSvg) {
   const std::string svg = written(canvas);
   EXPECT_TRUE(contains(svg, "<image"));
   EXPECT_EQ(svg.find("<image"), svg.rfind("<image"));
-}
-
-TEST(VectorPicture, ALongPageThatCannotStayVectorIsDrawnAsWell) {
-  for (const PictureFormat format : {PictureFormat::svg, PictureFormat::pdf}) {
-    CairoCanvas canvas(format, {16384, 4});
-    canvas.fillRect({0, 0, 16384, 4});
-    canvas.clearRect({1, 1, 2, 2});
-    EXPECT_TRUE(holdsImage(written(canvas)));
-  }
 }
 
 TEST(VectorPicture, ClearingWhatIsStillBlankLeavesNoTraceInSvg) {

@@ -22,6 +22,11 @@ inline std::string comparable(const std::string& picture) {
   return std::regex_replace(picture, std::regex("/CreationDate \\(.*\\)|surface[0-9]+"), "");
 }
 
+/// Whether a written SVG or PDF holds pixels.
+inline bool holdsImage(const std::string& picture) {
+  return picture.find("<image") != std::string::npos || picture.find("/Subtype /Image") != std::string::npos;
+}
+
 /// The crescent as every view draws it.
 inline void drawCrescent(Canvas& canvas, Rect disc, const Color& dark) {
   canvas.save();

@@ -45,7 +45,7 @@ Size CairoCanvas::size() const {
 }
 
 std::optional<PictureError> CairoCanvas::error() const {
-  if (_drawing->sizeError) return _drawing->sizeError;
+  if (_drawing->sizeError()) return _drawing->sizeError();
   const cairo_status_t status = cairo_status(_drawing->context());
   if (status == CAIRO_STATUS_SUCCESS) return std::nullopt;
   return drawingError(status);

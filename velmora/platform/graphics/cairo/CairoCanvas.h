@@ -22,7 +22,7 @@ enum class PictureFormat { png, svg, pdf };
 struct PictureError {
   /// What it was about.
   enum class Kind {
-    size,     ///< a side outside 1 to 16384 pixels
+    size,     ///< a side outside 1 to 16384 pixels, or a vector picture of too many pixels
     drawing,  ///< the drawing library failed, out of memory included
     output,   ///< the file or stream could not be written
   };
@@ -34,8 +34,8 @@ struct PictureError {
 /// stay vectors, in which images and what overlay paints are pixels. Neither can clear: what is still blank
 /// needs no clearing, and a hole is painted with the colour that it shows, where that is one opaque colour,
 /// of the background or of a rectangle below the group (overlay in the hole then meets that colour), or is
-/// left out where the same path then fills it with one. Any other hole, as on a translucent background, makes
-/// pixels of the whole page.
+/// left out where the same path then fills it with one. Any other hole, as on a translucent background or
+/// along a line or a text, makes pixels of the whole page.
 ///
 /// The shapes of a PNG are kept as pixels between the pictures drawn in the same thread, so that a view drawn
 /// again takes a fraction of its first time; whether a shape was kept makes no difference to the pixels.
@@ -45,6 +45,8 @@ struct PictureError {
 class CairoCanvas final : public Canvas {
  public:
   static constexpr std::int64_t maximumSide = 16384;  ///< pixels, for SVG and PDF points
+  /// Of an SVG or PDF, where it cannot stay vector: those of its page and those that overlay paints.
+  static constexpr std::int64_t maximumPixelsOfVector = 64'000'000;
 
   /// The background lies under everything and cannot be cleared.
   CairoCanvas(PictureFormat format, Size size, double scale = 1, Color background = Color::clear());

@@ -111,8 +111,8 @@ CairoCanvas::Drawing::Drawing(PictureFormat pictureFormat, Size pictureSize, dou
     : format(pictureFormat),
       size(pictureSize),
       background(pictureBackground),
-      sizeError(checkedSize(pictureFormat, size, scale)),
-      _surface(sizeError ? refusedSurface() : makeSurface(pictureFormat, size, scale)),
+      _sizeError(checkedSize(pictureFormat, size, scale)),
+      _surface(_sizeError ? refusedSurface() : makeSurface(pictureFormat, size, scale)),
       _context(cairo_create(_surface.get())),
       _isVector(format != PictureFormat::png),
       _keepsShapes(!_isVector),
@@ -195,7 +195,7 @@ void CairoCanvas::Drawing::clip(const Path& path) {
 
 bool CairoCanvas::Drawing::isReady() {
   finishPendingClear();
-  return !state().isCollapsed;
+  return !state().isCollapsed && !_sizeError;
 }
 
 void CairoCanvas::Drawing::notePaint(const Rect& box) { _painted.note(visiblePixels(context(), box)); }
@@ -227,11 +227,31 @@ void CairoCanvas::Drawing::finishPendingClear() {
   if (!_pendingClear) return;
   const Rect box = *_pendingClear->boundingBox();
   const auto shown = _isVector ? _painted.colorBelow(visiblePixels(context(), box)) : std::nullopt;
-  if (_isVector && !shown) _becamePixels = true;
+  if (_isVector && !shown) becomePixels();
   setSource(context(), shown.value_or(Color::clear()));
   cairo_set_operator(context(), shown ? CAIRO_OPERATOR_OVER : CAIRO_OPERATOR_CLEAR);
   cover(*_pendingClear, box);
   _pendingClear.reset();
+}
+
+bool CairoCanvas::Drawing::canClear(const Rect& box) {
+  const bool isPainted = _painted.isPainted(visiblePixels(context(), box));
+  if (isPainted && _isVector) becomePixels();
+  return isPainted;
+}
+
+void CairoCanvas::Drawing::becomePixels() {
+  if (format && !_becamePixels) addPixels(pixelsOfPage(size));
+  _becamePixels = true;
+}
+
+void CairoCanvas::Drawing::addPixels(double count) {
+  _pixelsOfVector += count;
+  if (_pixelsOfVector <= static_cast<double>(CairoCanvas::maximumPixelsOfVector)) return;
+  _sizeError =
+      PictureError{PictureError::Kind::size,
+                   "the picture cannot stay vector and would be made of more than 64 million pixels; "
+                   "accepted: a smaller size, or an opaque background"};
 }
 
 void CairoCanvas::Drawing::cover(const Path& path, const Rect& box) {
@@ -246,6 +266,7 @@ void CairoCanvas::Drawing::stroke(const Path& path) {
   if (!isReady() || !box) return;
   const double width = cairo_get_line_width(context()), reach = reachOfLine(path, width);
   const Rect reached = box->inset(-reach, -reach);
+  if (state().blendMode == BlendMode::clear && !canClear(reached)) return;
   _states.setPaint(state().stroke);
   notePaint(reached);
   ShapeKey key = keyOf(Kind::stroke);
@@ -269,6 +290,7 @@ void CairoCanvas::Drawing::drawFigure(const ShapeKey& key, const Path& path, con
 
 void CairoCanvas::Drawing::drawGlyphs(const GlyphRun& run, std::uint64_t lineSerial) {
   const Rect box = inkBox(context(), run);
+  if (state().blendMode == BlendMode::clear && !canClear(box)) return;
   _states.setPaint(run.color);
   notePaint(box);
   if (_isVector) return drawOnce(box, [&] { showCharacters(context(), run); });
@@ -310,6 +332,8 @@ void CairoCanvas::Drawing::drawOnce(const Rect& box, const std::function<void()>
 void CairoCanvas::Drawing::drawOverlay(const Rect& box, const std::function<void()>& draw) {
   const Rect area = visiblePixels(context(), box);
   if (area.isEmpty()) return;
+  addPixels(area.width * overlayPixelsAPoint * area.height * overlayPixelsAPoint);
+  if (_sizeError) return;
   const CairoSurface backdrop(cairo_surface_reference(cairo_get_group_target(context())));
   cairo_set_operator(context(), CAIRO_OPERATOR_OVER);
   cairo_push_group(context());

@@ -28,8 +28,9 @@ class [[gnu::visibility("hidden")]] CairoCanvas::Drawing {
   const std::optional<PictureFormat> format;  ///< none on a host's context
   const Size size;
   const Color background;
-  const std::optional<PictureError> sizeError;
 
+  /// Why nothing is drawn any more, if it is for the size.
+  const std::optional<PictureError>& sizeError() const { return _sizeError; }
   DrawingStates::State& state() { return _states.current(); }
   cairo_t* context() const { return _context.get(); }
   cairo_surface_t* surface() const { return _surface.get(); }
@@ -62,6 +63,12 @@ class [[gnu::visibility("hidden")]] CairoCanvas::Drawing {
 
  private:
   void endState();
+  /// Whether there is anything to clear along a line or a text. If so, the page of a vector picture becomes
+  /// pixels.
+  bool canClear(const Rect& box);
+  void becomePixels();
+  /// Counts pixels that a vector picture is made of; the picture is in error if they are too many.
+  void addPixels(double count);
   void cover(const Path& path, const Rect& box);
   void drawFigure(const ShapeKey& key, const Path& path, const Rect& box, const std::function<void()>& draw);
   /// Draws without keeping the pixels.
@@ -71,11 +78,13 @@ class [[gnu::visibility("hidden")]] CairoCanvas::Drawing {
   void notePaint(const Rect& box);
   void finishPendingClear();
 
+  std::optional<PictureError> _sizeError;
   CairoSurface _surface;  ///< none on a host's context
   CairoContext _context;
   bool _isVector;     ///< the surface records what is drawn, so that it cannot clear
   bool _keepsShapes;  ///< its pixels are like those of any other picture
   bool _becamePixels = false;
+  double _pixelsOfVector = 0;
   DrawingStates _states;
   PaintedLayers _painted;
   std::optional<Path> _pendingClear;  ///< waits to see whether the same path covers it at once

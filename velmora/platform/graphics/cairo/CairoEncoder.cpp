@@ -19,10 +19,12 @@ cairo_status_t writeBytes(void* output, const unsigned char* bytes, unsigned int
   return stream ? CAIRO_STATUS_SUCCESS : CAIRO_STATUS_WRITE_ERROR;
 }
 
+constexpr double pointsAnInch = 72;
+
 /// In dots an inch of 72 points, of a page that cannot stay vector: as fine as print, but no more pixels a
 /// side than a PNG may have.
 double resolutionOfPixels(Size size) {
-  constexpr double print = 300, pointsAnInch = 72;
+  constexpr double print = 300;
   const double longest = std::max(size.width, size.height);
   return std::min(print, pointsAnInch * static_cast<double>(CairoCanvas::maximumSide) / longest);
 }
@@ -64,6 +66,11 @@ CairoSurface makeSurface(PictureFormat format, Size size, double scale) {
   return CairoSurface(cairo_image_surface_create(CAIRO_FORMAT_ARGB32,
                                                  static_cast<int>(std::lround(size.width * scale)),
                                                  static_cast<int>(std::lround(size.height * scale))));
+}
+
+double pixelsOfPage(Size size) {
+  const double pixelsAPoint = resolutionOfPixels(size) / pointsAnInch;
+  return size.width * pixelsAPoint * size.height * pixelsAPoint;
 }
 
 cairo_status_t encode(PictureFormat format, cairo_surface_t* drawn, Size size, const Color& background,

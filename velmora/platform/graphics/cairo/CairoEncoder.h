@@ -13,6 +13,9 @@ namespace [[gnu::visibility("hidden")]] velmora {
 /// is no memory for it.
 CairoSurface makeSurface(PictureFormat format, Size size, double scale);
 
+/// How many pixels the page of a vector picture of the size has where it cannot stay vector.
+double pixelsOfPage(Size size);
+
 /// Writes what was drawn on such a surface over the background, as a picture of the size in points.
 cairo_status_t encode(PictureFormat format, cairo_surface_t* drawn, Size size, const Color& background,
                       std::ostream& output);

@@ -10,15 +10,14 @@
 namespace [[gnu::visibility("hidden")]] velmora {
 namespace {
 
-constexpr double pixelsAPoint = 4;
 constexpr int opaque = 255;
 
 CairoSurface pixelsOf(cairo_surface_t* drawn, const Rect& area) {
-  CairoSurface pixels(cairo_image_surface_create(CAIRO_FORMAT_ARGB32,
-                                                 static_cast<int>(std::lround(area.width * pixelsAPoint)),
-                                                 static_cast<int>(std::lround(area.height * pixelsAPoint))));
+  CairoSurface pixels(cairo_image_surface_create(
+      CAIRO_FORMAT_ARGB32, static_cast<int>(std::lround(area.width * overlayPixelsAPoint)),
+      static_cast<int>(std::lround(area.height * overlayPixelsAPoint))));
   const CairoContext context(cairo_create(pixels.get()));
-  cairo_scale(context.get(), pixelsAPoint, pixelsAPoint);
+  cairo_scale(context.get(), overlayPixelsAPoint, overlayPixelsAPoint);
   cairo_set_source_surface(context.get(), drawn, -area.x, -area.y);
   cairo_paint(context.get());
   cairo_surface_flush(pixels.get());
@@ -60,7 +59,7 @@ CairoSurface overlaid(cairo_surface_t* paint, cairo_surface_t* backdrop, const R
     setRow(pixels.get(), y, row.data());
   }
   cairo_surface_mark_dirty(pixels.get());
-  cairo_surface_set_device_scale(pixels.get(), pixelsAPoint, pixelsAPoint);
+  cairo_surface_set_device_scale(pixels.get(), overlayPixelsAPoint, overlayPixelsAPoint);
   return pixels;
 }
 
