@@ -45,10 +45,26 @@ Size CairoCanvas::size() const {
 }
 
 std::optional<PictureError> CairoCanvas::error() const {
-  if (_drawing->sizeError()) return _drawing->sizeError();
-  const cairo_status_t status = cairo_status(_drawing->context());
+  for (const auto& page : _ended)
+    if (const auto failure = errorOf(*page)) return failure;
+  return _pageError ? _pageError : errorOf(*_drawing);
+}
+
+std::optional<PictureError> CairoCanvas::errorOf(const Drawing& drawing) {
+  if (drawing.sizeError()) return drawing.sizeError();
+  const cairo_status_t status = cairo_status(drawing.context());
   if (status == CAIRO_STATUS_SUCCESS) return std::nullopt;
   return drawingError(status);
+}
+
+void CairoCanvas::nextPage() {
+  if (_drawing->format != PictureFormat::pdf) {
+    if (!_pageError) _pageError = {PictureError::Kind::drawing, "only a PDF has more than one page"};
+    return;
+  }
+  _drawing->endAll();
+  auto next = std::make_unique<Drawing>(PictureFormat::pdf, _drawing->size, 1, _drawing->background);
+  _ended.push_back(std::exchange(_drawing, std::move(next)));
 }
 
 std::optional<PictureError> CairoCanvas::write(std::ostream& output) {
@@ -57,8 +73,11 @@ std::optional<PictureError> CairoCanvas::write(std::ostream& output) {
                         "what is drawn on a context of the host's is no picture"};
   _drawing->endAll();
   if (const auto failure = error()) return failure;
+  std::vector<cairo_surface_t*> pages;
+  for (const auto& page : _ended) pages.push_back(page->surface());
+  pages.push_back(_drawing->surface());
   const cairo_status_t status =
-      encode(*_drawing->format, _drawing->surface(), _drawing->size, _drawing->background, output);
+      encode(*_drawing->format, pages, _drawing->size, _drawing->background, output);
   if (status == CAIRO_STATUS_SUCCESS && output.flush()) return std::nullopt;
   return drawingError(status == CAIRO_STATUS_SUCCESS ? CAIRO_STATUS_WRITE_ERROR : status);
 }
@@ -80,9 +99,16 @@ std::vector<std::uint8_t> CairoCanvas::pixels() const {
   return bytesOfSurface(_drawing->surface());
 }
 
-bool CairoCanvas::becamePixels() const { return _drawing->becamePixels(); }
+bool CairoCanvas::becamePixels() const {
+  return _drawing->becamePixels() ||
+         std::any_of(_ended.begin(), _ended.end(), [](const auto& page) { return page->becamePixels(); });
+}
 
-const std::set<std::string>& CairoCanvas::uncoveredCharacters() const { return _drawing->uncovered(); }
+std::set<std::string> CairoCanvas::uncoveredCharacters() const {
+  std::set<std::string> characters = _drawing->uncovered();
+  for (const auto& page : _ended) characters.insert(page->uncovered().begin(), page->uncovered().end());
+  return characters;
+}
 
 void CairoCanvas::save() { _drawing->save(); }
 void CairoCanvas::restore() { _drawing->restore(); }

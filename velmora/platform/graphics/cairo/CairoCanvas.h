@@ -30,12 +30,12 @@ struct PictureError {
   std::string message;
 };
 
-/// A picture of a size in points. A PNG has `scale` pixels a point; SVG and PDF have one unit a point and
-/// stay vectors, in which images and what overlay paints are pixels. Neither can clear: what is still blank
-/// needs no clearing, and a hole is painted with the colour that it shows, where that is one opaque colour,
-/// of the background or of a rectangle below the group (overlay in the hole then meets that colour), or is
-/// left out where the same path then fills it with one. Any other hole, as on a translucent background or
-/// along a line or a text, makes pixels of the whole page.
+/// A picture of a size in points, or pages of that size in a PDF. A PNG has `scale` pixels a point; SVG and
+/// PDF have one unit a point and stay vectors, in which images and what overlay paints are pixels. Neither
+/// can clear: what is still blank needs no clearing, and a hole is painted with the colour that it shows,
+/// where that is one opaque colour, of the background or of a rectangle below the group (overlay in the hole
+/// then meets that colour), or is left out where the same path then fills it with one. Any other hole, as on
+/// a translucent background or along a line or a text, makes pixels of the whole page.
 ///
 /// The shapes of a PNG are kept as pixels between the pictures drawn in the same thread, so that a view drawn
 /// again takes a fraction of its first time; whether a shape was kept makes no difference to the pixels.
@@ -83,11 +83,15 @@ class CairoCanvas final : public Canvas {
   /// an error.
   std::vector<std::uint8_t> pixels() const;
 
-  /// Whether an SVG or PDF that was written had to make pixels of its whole page, for a hole in it.
+  /// Whether an SVG or PDF that was written had to make pixels of a whole page, for a hole in it.
   bool becamePixels() const;
 
-  /// The characters drawn so far for which no installed face has a glyph.
-  const std::set<std::string>& uncoveredCharacters() const;
+  /// The characters drawn so far, on any page, for which no installed face has a glyph.
+  std::set<std::string> uncoveredCharacters() const;
+
+  /// Ends the page of a PDF, saves and groups left open included, and begins the next one, as blank as the
+  /// first was. Other formats have one page, so that on them it is an error, as on a host's context.
+  void nextPage();
 
   void save() override;
   void restore() override;
@@ -114,9 +118,12 @@ class CairoCanvas final : public Canvas {
  private:
   class Drawing;
 
+  static std::optional<PictureError> errorOf(const Drawing& drawing);
   void drawGlyphRange(const AttributedText& text, std::size_t first, std::size_t end, Point topLeft);
 
-  std::unique_ptr<Drawing> _drawing;
+  std::unique_ptr<Drawing> _drawing;  ///< of the page that is drawn on
+  std::vector<std::unique_ptr<Drawing>> _ended;
+  std::optional<PictureError> _pageError;
 };
 
 }  // namespace velmora

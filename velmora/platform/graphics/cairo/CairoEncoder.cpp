@@ -29,31 +29,38 @@ double resolutionOfPixels(Size size) {
   return std::min(print, pointsAnInch * static_cast<double>(CairoCanvas::maximumSide) / longest);
 }
 
-CairoSurface makePage(PictureFormat format, Size size, std::ostream& output) {
+CairoSurface makeDocument(PictureFormat format, Size size, std::ostream& output) {
   if (format == PictureFormat::pdf) {
     return CairoSurface(cairo_pdf_surface_create_for_stream(writeBytes, &output, size.width, size.height));
   }
-  CairoSurface page(cairo_svg_surface_create_for_stream(writeBytes, &output, size.width, size.height));
-  cairo_svg_surface_set_document_unit(page.get(), CAIRO_SVG_UNIT_PX);
-  return page;
+  CairoSurface image(cairo_svg_surface_create_for_stream(writeBytes, &output, size.width, size.height));
+  cairo_svg_surface_set_document_unit(image.get(), CAIRO_SVG_UNIT_PX);
+  return image;
 }
 
-cairo_status_t encodePage(PictureFormat format, cairo_surface_t* recorded, Size size, const Color& background,
-                          std::ostream& output) {
-  const CairoSurface page = makePage(format, size, output);
-  const double resolution = resolutionOfPixels(size);
-  cairo_surface_set_fallback_resolution(page.get(), resolution, resolution);
-  CairoContext context(cairo_create(page.get()));
+void paintPage(cairo_t* context, cairo_surface_t* recorded, const Color& background) {
   if (background.alpha > 0) {
-    setSource(context.get(), background);
-    cairo_paint(context.get());
+    setSource(context, background);
+    cairo_paint(context);
   }
-  cairo_set_source_surface(context.get(), recorded, 0, 0);
-  cairo_paint(context.get());
+  cairo_set_source_surface(context, recorded, 0, 0);
+  cairo_paint(context);
+}
+
+cairo_status_t encodePages(PictureFormat format, const std::vector<cairo_surface_t*>& recorded, Size size,
+                           const Color& background, std::ostream& output) {
+  const CairoSurface document = makeDocument(format, size, output);
+  const double resolution = resolutionOfPixels(size);
+  cairo_surface_set_fallback_resolution(document.get(), resolution, resolution);
+  CairoContext context(cairo_create(document.get()));
+  for (cairo_surface_t* const page : recorded) {
+    paintPage(context.get(), page, background);
+    if (format == PictureFormat::pdf) cairo_show_page(context.get());
+  }
   const cairo_status_t status = cairo_status(context.get());
   context.reset();
-  cairo_surface_finish(page.get());
-  return status != CAIRO_STATUS_SUCCESS ? status : cairo_surface_status(page.get());
+  cairo_surface_finish(document.get());
+  return status != CAIRO_STATUS_SUCCESS ? status : cairo_surface_status(document.get());
 }
 
 }  // namespace
@@ -73,10 +80,10 @@ double pixelsOfPage(Size size) {
   return size.width * pixelsAPoint * size.height * pixelsAPoint;
 }
 
-cairo_status_t encode(PictureFormat format, cairo_surface_t* drawn, Size size, const Color& background,
-                      std::ostream& output) {
-  return format == PictureFormat::png ? writePng(drawn, background, output)
-                                      : encodePage(format, drawn, size, background, output);
+cairo_status_t encode(PictureFormat format, const std::vector<cairo_surface_t*>& pages, Size size,
+                      const Color& background, std::ostream& output) {
+  return format == PictureFormat::png ? writePng(pages.front(), background, output)
+                                      : encodePages(format, pages, size, background, output);
 }
 
 }  // namespace velmora

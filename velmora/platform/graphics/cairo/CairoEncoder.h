@@ -1,6 +1,7 @@
 #pragma once
 
 #include <iosfwd>
+#include <vector>
 
 #include <velmora/platform/graphics/Color.h>
 #include <velmora/platform/graphics/Geometry.h>
@@ -16,8 +17,9 @@ CairoSurface makeSurface(PictureFormat format, Size size, double scale);
 /// How many pixels the page of a vector picture of the size has where it cannot stay vector.
 double pixelsOfPage(Size size);
 
-/// Writes what was drawn on such a surface over the background, as a picture of the size in points.
-cairo_status_t encode(PictureFormat format, cairo_surface_t* drawn, Size size, const Color& background,
-                      std::ostream& output);
+/// Writes what was drawn on such surfaces over the background, as a picture of the size in points: the pages
+/// of a PDF, one of any other format.
+cairo_status_t encode(PictureFormat format, const std::vector<cairo_surface_t*>& pages, Size size,
+                      const Color& background, std::ostream& output);
 
 }  // namespace velmora

@@ -1,6 +1,7 @@
 #include <velmora/platform/graphics/cairo/CairoImage.h>
 
-#include <cstring>
+#include <memory>
+#include <string>
 
 #include <velmora/platform/graphics/cairo/CairoHandles.h>
 
@@ -26,8 +27,18 @@ std::uint32_t* row(cairo_surface_t* surface, int y) {
                                                       cairo_image_surface_get_stride(surface));
 }
 
+/// A PDF or SVG holds what has the same name once, however often and on whichever page it is drawn.
+void setName(cairo_surface_t* surface, const Image& image) {
+  auto name = std::make_unique<std::string>("image " + std::to_string(image.serial()));
+  const auto* const bytes = reinterpret_cast<const unsigned char*>(name->data());
+  const auto release = [](void* text) { delete static_cast<std::string*>(text); };
+  if (cairo_surface_set_mime_data(surface, CAIRO_MIME_TYPE_UNIQUE_ID, bytes, name->size(), release,
+                                  name.get()) == CAIRO_STATUS_SUCCESS)
+    static_cast<void>(name.release());
+}
+
 /// The image as a surface; none if it is damaged.
-CairoSurface surfaceOf(const Image& image) {
+CairoSurface makeSurfaceOf(const Image& image) {
   const PixelBytes& pixels = image.pixels();
   if (pixels.empty()) return nullptr;
   const int width = static_cast<int>(image.pixelSize().width),
@@ -39,21 +50,33 @@ CairoSurface surfaceOf(const Image& image) {
     setRow(surface.get(), y, pixels.data() + rowSize * static_cast<std::size_t>(y));
   }
   cairo_surface_mark_dirty(surface.get());
+  setName(surface.get(), image);
   return surface;
+}
+
+/// The same, kept until another image is drawn in the thread: records of drawing then share its pixels.
+cairo_surface_t* surfaceOf(const Image& image) {
+  struct Kept {
+    std::uint64_t serial = 0;
+    CairoSurface surface;
+  };
+  thread_local Kept kept;
+  if (!kept.surface || kept.serial != image.serial()) kept = {image.serial(), makeSurfaceOf(image)};
+  return kept.surface.get();
 }
 
 }  // namespace
 
 void paintImage(cairo_t* context, const Image& image, const Rect& rect, double alpha) {
-  const CairoSurface surface = surfaceOf(image);
-  if (!surface) return;
+  cairo_surface_t* const surface = surfaceOf(image);
+  if (surface == nullptr) return;
   cairo_save(context);
   cairo_rectangle(context, rect.x, rect.y, rect.width, rect.height);
   cairo_clip(context);
   cairo_translate(context, rect.x, rect.y);
   cairo_scale(context, rect.width / static_cast<double>(image.pixelSize().width),
               rect.height / static_cast<double>(image.pixelSize().height));
-  cairo_set_source_surface(context, surface.get(), 0, 0);
+  cairo_set_source_surface(context, surface, 0, 0);
   cairo_pattern_set_extend(cairo_get_source(context), CAIRO_EXTEND_PAD);  // edges do not fade
   cairo_paint_with_alpha(context, alpha);
   cairo_restore(context);
