@@ -44,3 +44,15 @@ if(VELMORA_SANITIZE)
     target_compile_options(velmora_compiler_settings INTERFACE -Wno-maybe-uninitialized)
   endif()
 endif()
+
+# Where the tests are built, the headers that most sources of a library or program include are compiled once for
+# all of them. Elsewhere each source is read as it stands, which shows what it forgot to include.
+set(velmora_headers_of_most
+  <algorithm> <array> <chrono> <cmath> <cstdint> <functional> <memory> <optional> <string> <string_view>
+  <unordered_map> <utility> <vector>)
+function(velmora_precompile target)
+  if(VELMORA_BUILD_TESTS AND VELMORA_PLATFORM STREQUAL native AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    target_compile_options(${target} PRIVATE $<$<COMPILE_LANGUAGE:CXX>:-fpch-preprocess>)  # for compiler caches
+    target_precompile_headers(${target} PRIVATE ${velmora_headers_of_most} ${ARGN})
+  endif()
+endfunction()

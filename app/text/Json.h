@@ -4,6 +4,9 @@
 
 #include <nlohmann/json.hpp>
 
+// Compiled once, in Json.cpp, instead of with each source that holds a value.
+extern template class nlohmann::basic_json<nlohmann::ordered_map>;
+
 namespace velmora::app {
 
 /// A JSON value whose objects keep the order in which their members were written.
@@ -11,8 +14,6 @@ using Json = nlohmann::ordered_json;
 
 /// The value on one line. Numbers read back unchanged, what is no number is null, bytes that are no UTF-8 are
 /// replaced.
-inline std::string jsonLine(const Json& value) {
-  return value.dump(-1, ' ', false, Json::error_handler_t::replace);
-}
+std::string jsonLine(const Json& value);
 
 }  // namespace velmora::app
