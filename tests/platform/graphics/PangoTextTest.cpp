@@ -179,6 +179,24 @@ TEST_F(PangoText, EveryShippedLanguageHasItsGlyphs) {
   }
 }
 
+TEST_F(PangoText, TheSystemsFaceLooksAsItDoesAmongAllFaces) {
+  const Font amongAll = {.family = "Inter", .size = 13};
+  for (const std::string text :
+       {"Friday, 21 June 2024", "−12.5° ½ … → “x”", "Полнолуние", "Ημέρα", "Tháng bảy"}) {
+    const TextLayout alone = layoutOf(text, Font::systemFont(13)), named = layoutOf(text, amongAll);
+    EXPECT_EQ(alone.width(), named.width()) << text;
+    EXPECT_EQ(alone.height(), named.height()) << text;
+    Pixels picture({200, 20}), expected({200, 20});
+    alone.drawAtPoint(picture.canvas, {0, 0});
+    named.drawAtPoint(expected.canvas, {0, 0});
+    EXPECT_EQ(picture.canvas.pixels(), expected.canvas.pixels()) << text;
+  }
+}
+
+TEST_F(PangoText, ALetterThatTheSystemsFaceLacksComesFromAnother) {
+  EXPECT_TRUE(TextEngine::current().uncoveredCharacters(AttributedText("14 Ԝ ԥ")).empty());
+}
+
 TEST_F(PangoText, ACharacterThatNoFaceHasIsReported) {
   const AttributedText text("a\U0010FFFDb\U0010FFFD");  // a private character
   const std::set<std::string> expected = {"\U0010FFFD"};

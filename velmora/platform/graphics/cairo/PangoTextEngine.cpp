@@ -32,10 +32,13 @@ int sizeInUnits(const Font& font) {
   return font.size > 0 ? static_cast<int>(std::lround(std::min(font.size, largest) * PANGO_SCALE)) : 0;
 }
 
+bool isSystemFont(const Font& font) {
+  return std::find(systemFamilies.begin(), systemFamilies.end(), font.family) != systemFamilies.end();
+}
+
 PangoHandle<PangoFontDescription> description(const Font& font, const std::string& fallbackFamilies) {
-  const bool isSystem =
-      std::find(systemFamilies.begin(), systemFamilies.end(), font.family) != systemFamilies.end();
-  const std::string families = (isSystem ? std::string(systemFace) : font.family) + fallbackFamilies;
+  const std::string families =
+      (isSystemFont(font) ? std::string(systemFace) : font.family) + fallbackFamilies;
   PangoHandle<PangoFontDescription> description(pango_font_description_new());
   pango_font_description_set_family(description.get(), families.c_str());
   pango_font_description_set_weight(description.get(), static_cast<PangoWeight>(font.weight));
@@ -43,12 +46,16 @@ PangoHandle<PangoFontDescription> description(const Font& font, const std::strin
   return description;
 }
 
-CairoFontOptions unhintedOptions() {
-  CairoFontOptions options(cairo_font_options_create());
-  cairo_font_options_set_antialias(options.get(), CAIRO_ANTIALIAS_GRAY);
-  cairo_font_options_set_hint_style(options.get(), CAIRO_HINT_STYLE_NONE);
-  cairo_font_options_set_hint_metrics(options.get(), CAIRO_HINT_METRICS_OFF);
-  return options;
+/// Whether the system's face may have all of it: Latin, Greek and Cyrillic, with signs below the pictographs,
+/// for which Pango prefers faces of theirs.
+bool isWestern(const char* text) {
+  constexpr gunichar endOfCyrillic = 0x530, extendedLatin = 0x1E00, endOfOperators = 0x2300;
+  for (const char* c = text; *c != '\0'; c = g_utf8_next_char(c)) {
+    const gunichar character = g_utf8_get_char(c);
+    if (character >= endOfOperators || (character >= endOfCyrillic && character < extendedLatin))
+      return false;
+  }
+  return true;
 }
 
 std::string key(const Font& font) {
@@ -73,12 +80,7 @@ PangoTextEngine& PangoTextEngine::shared() {
   return engine;
 }
 
-PangoTextEngine::PangoTextEngine()
-    : _map(pango_cairo_font_map_new_for_font_type(CAIRO_FONT_TYPE_FT)),
-      _context(pango_font_map_create_context(_map.get())) {
-  pango_cairo_context_set_font_options(_context.get(), unhintedOptions().get());
-  pango_context_set_round_glyph_positions(_context.get(), false);
-}
+PangoTextEngine::PangoTextEngine() : _systemFace(Faces::ofFamily(systemFace)), _allFaces(Faces::ofSystem()) {}
 
 void PangoTextEngine::followLocale() {
   const Locale locale = Locale::current();
@@ -86,9 +88,11 @@ void PangoTextEngine::followLocale() {
   _locale = locale.identifier();
   _families = std::string(scriptFaces) + hanFace(locale);
   forget();
-  pango_context_set_language(_context.get(), pango_language_from_string(_locale.c_str()));
-  pango_context_set_base_dir(_context.get(),
-                             locale.isRightToLeft() ? PANGO_DIRECTION_WEAK_RTL : PANGO_DIRECTION_WEAK_LTR);
+  for (PangoContext* context : {_systemFace.context(), _allFaces.context()}) {
+    pango_context_set_language(context, pango_language_from_string(_locale.c_str()));
+    pango_context_set_base_dir(context,
+                               locale.isRightToLeft() ? PANGO_DIRECTION_WEAK_RTL : PANGO_DIRECTION_WEAK_LTR);
+  }
 }
 
 void PangoTextEngine::forget() {
@@ -115,11 +119,23 @@ std::vector<Rect> PangoTextEngine::glyphBoxes(const AttributedText& text) {
 }
 
 ShapedLine PangoTextEngine::shape(const AttributedText& text) {
-  const PangoHandle<PangoLayout> layout(pango_layout_new(_context.get()));
-  pango_layout_set_single_paragraph_mode(layout.get(), true);
   const PangoHandle<char> valid(
       g_utf8_make_valid(text.text().data(), static_cast<gssize>(text.text().size())));
-  pango_layout_set_text(layout.get(), valid.get(), -1);
+  const auto& runs = text.runs();
+  const bool isInSystemFace = std::all_of(runs.begin(), runs.end(), [this](const AttributedText::Run& run) {
+    return &facesOf(run.attributes.font) == &_systemFace;
+  });
+  if (isInSystemFace && isWestern(valid.get())) {
+    ShapedLine line = shape(text, valid.get(), _systemFace);
+    if (line.uncovered.empty()) return line;
+  }
+  return shape(text, valid.get(), _allFaces);
+}
+
+ShapedLine PangoTextEngine::shape(const AttributedText& text, const char* valid, const Faces& faces) {
+  const PangoHandle<PangoLayout> layout(pango_layout_new(faces.context()));
+  pango_layout_set_single_paragraph_mode(layout.get(), true);
+  pango_layout_set_text(layout.get(), valid, -1);
 
   Extent tallest = extent(text.paragraph().font);
   const PangoHandle<PangoAttrList> attributes(pango_attr_list_new());
@@ -140,11 +156,15 @@ ShapedLine PangoTextEngine::shape(const AttributedText& text) {
   return line;
 }
 
+const Faces& PangoTextEngine::facesOf(const Font& font) const {
+  return isSystemFont(font) && !_systemFace.isEmpty() ? _systemFace : _allFaces;
+}
+
 PangoTextEngine::Extent PangoTextEngine::extent(const Font& font) {
   const auto [found, isNew] = _extents.try_emplace(key(font));
   if (isNew) {
     const PangoHandle<PangoFont> loaded(
-        pango_context_load_font(_context.get(), description(font, _families).get()));
+        pango_context_load_font(facesOf(font).context(), description(font, _families).get()));
     // Pango's own metrics would cost the layout of a sample text.
     cairo_font_extents_t extents = {};
     cairo_scaled_font_t* const face = pango_cairo_font_get_scaled_font(PANGO_CAIRO_FONT(loaded.get()));

@@ -7,7 +7,7 @@
 #include <unordered_map>
 
 #include <velmora/platform/graphics/TextEngine.h>
-#include <velmora/platform/graphics/cairo/PangoHandles.h>
+#include <velmora/platform/graphics/cairo/Faces.h>
 #include <velmora/platform/graphics/cairo/ShapedLine.h>
 
 namespace [[gnu::visibility("hidden")]] velmora {
@@ -39,10 +39,13 @@ class PangoTextEngine final : public TextEngine {
   void followLocale();
   void forget();
   ShapedLine shape(const AttributedText& text);
+  /// The text, of which `valid` is all that is valid UTF-8, in the faces.
+  ShapedLine shape(const AttributedText& text, const char* valid, const Faces& faces);
+  /// Those in which the font is found.
+  const Faces& facesOf(const Font& font) const;
   Extent extent(const Font& font);
 
-  PangoHandle<PangoFontMap> _map;
-  PangoHandle<PangoContext> _context;
+  Faces _systemFace, _allFaces;
   std::string _locale;
   std::string _families;
   std::unordered_map<std::string, std::shared_ptr<const ShapedLine>> _lines;
