@@ -1,10 +1,12 @@
 #include <app/drawing/CalendarViews.h>
 
 #include <algorithm>
+#include <utility>
 
 #include <app/answers/Days.h>
 #include <app/answers/ShippedData.h>
 #include <app/drawing/Hosting.h>
+#include <app/drawing/RiseSetWidth.h>
 #include <app/text/Errors.h>
 #include <velmora/phases/Phase.h>
 #include <velmora/platform/time/Locale.h>
@@ -14,6 +16,7 @@
 #include <velmora/views/MoonPhaseYearView.h>
 #include <velmora/views/MoonRiseSetDayView.h>
 #include <velmora/views/MoonRiseSetMonthView.h>
+#include <velmora/views/UIControls.h>
 #include <velmora/views/iPhoneCalendarView.h>
 
 namespace velmora::app {
@@ -34,6 +37,30 @@ std::int64_t phaseOfYear(const Request& request) {
     throw BadInput("draw year does not show the quarters; accepted for phase: new or full");
   return phase;
 }
+
+/// Draws the rows of a list with what reaches beyond them: the time of a sunset at the end of the day.
+class UncutRows final : public View {
+ public:
+  explicit UncutRows(std::shared_ptr<MoonRiseSetMonthView> list) : _list(std::move(list)) {}
+
+  void drawRect(Canvas& canvas, Rect) override {
+    _list->layoutSubviews();
+    const Rect list = _list->frame();
+    for (const auto& row : _list->subviews()) {
+      const Rect place = row->frame();
+      canvas.save();
+      canvas.translate(list.x + place.x, list.y + place.y);
+      canvas.clip(Path::rect({-list.x, 0, bounds().width, place.height}));
+      canvas.beginGroup(1);
+      row->drawRect(canvas, row->bounds());
+      canvas.endGroup();
+      canvas.restore();
+    }
+  }
+
+ private:
+  std::shared_ptr<MoonRiseSetMonthView> _list;
+};
 
 /// With the zenith up.
 std::shared_ptr<View> makeTiltedDisc(const Query& query, Size size) {
@@ -106,9 +133,11 @@ std::shared_ptr<View> makeRiseSet(const Query& query, Size size) {
   const double height = list->intrinsicContentSize().height;
   const double farthest = std::max(height - size.height, 0.0);
   const double wanted = list->offsetForDay(MoonPhaseData::sharedInstance().currentDay());
-  list->setFrame({0, -std::min(wanted, farthest), size.width, height});
-  auto host = makeHost(size);
-  host->addSubview(list);
+  const double beside = drawing.size ? 0 : riseSetWidth().beside;
+  const double left = UIControls::isUserInterfaceRightToLeft() ? beside : 0;
+  list->setFrame({left, -std::min(wanted, farthest), size.width - beside, height});
+  auto host = std::make_shared<UncutRows>(list);
+  host->setFrame({0, 0, size.width, size.height});
   return host;
 }
 

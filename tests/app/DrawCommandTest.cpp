@@ -336,15 +336,6 @@ TEST_F(DrawTest, YearHasRoomForTheDatesOfEveryLanguage) {
   EXPECT_GT(picture({"year", "--locale", "fi"}).whole().width, 460) << "marrask. 15";
 }
 
-TEST_F(DrawTest, RiseSetIsAsWideAsItsTimesNeed) {
-  const auto widthAt = [&](const char* city, const char* date) {
-    return picture({"riseset", "--24h", "--city", city, "--date", date}).whole().width;
-  };
-  EXPECT_EQ(widthAt("Singapore", "2024-02-10"), 768);
-  EXPECT_GT(widthAt("Helsinki", "2024-06-20"), 850) << "the Sun sets at 22:50";
-  EXPECT_LE(widthAt("Helsinki", "2024-06-20"), 1600);
-}
-
 TEST_F(DrawTest, TitleIsReadableOnEveryBackground) {
   const auto title = [&](const char* background) {
     const DrawnPicture drawn = picture({"disc", "--background", background});
