@@ -13,12 +13,15 @@ mergeInto(LibraryManager.library, {
 
   // The canonical locale of an identifier ("zh_Hans_CN@calendar=chinese"), whether the engine has data for it or
   // not; null for the root locale.
+  $velmoraLocale__deps: ['$velmoraKeep'],
   $velmoraLocale: function(identifier) {
-    try {
-      return new Intl.Locale(identifier.split(/[.@]/)[0].replace(/_/g, '-'));
-    } catch (error) {
-      return null;
-    }
+    return velmoraKeep('locale ' + identifier, function() {
+      try {
+        return new Intl.Locale(identifier.split(/[.@]/)[0].replace(/_/g, '-'));
+      } catch (error) {
+        return null;
+      }
+    });
   },
 
   // English written the international way stands for the root locale.
@@ -51,11 +54,14 @@ mergeInto(LibraryManager.library, {
     }).join(' '));
   },
 
-  velmora_intl_is_right_to_left__deps: ['$velmoraLocale'],
+  velmora_intl_is_right_to_left__deps: ['$velmoraKeep', '$velmoraLocale'],
   velmora_intl_is_right_to_left: function(identifier) {
-    var locale = velmoraLocale(UTF8ToString(identifier));
-    var script = locale ? locale.maximize().script : '';
-    return 'Adlm Arab Aran Hebr Mand Mend Nkoo Rohg Samr Syrc Thaa Yezi'.split(' ').includes(script) ? 1 : 0;
+    var name = UTF8ToString(identifier);
+    return velmoraKeep('side ' + name, function() {
+      var locale = velmoraLocale(name);
+      var script = locale ? locale.maximize().script : '';
+      return 'Adlm Arab Aran Hebr Mand Mend Nkoo Rohg Samr Syrc Thaa Yezi'.split(' ').includes(script) ? 1 : 0;
+    });
   },
 
   velmora_intl_plural_category__deps: ['$velmoraKeep', '$velmoraTag', '$velmoraRootTag'],
