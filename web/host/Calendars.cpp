@@ -86,6 +86,7 @@ class RiseSet : public HostedView {
     screen.addSubview(_list);
   }
   std::optional<double> ownHeight() const override { return _list->frame().height; }
+  std::vector<std::shared_ptr<View>> parts() const override { return _list->subviews(); }
   std::optional<Date> dayOfElement(std::size_t number) override { return dayAfter(number); }
   bool selectsByTap() const override { return true; }
 

@@ -1,5 +1,6 @@
 #include <emscripten.h>
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <string>
@@ -73,6 +74,20 @@ std::string jsonOf(const HostedElement& hosted, Date selected) {
       .with("isSelected", hosted.day == selected);
   if (hosted.day) object.add("day", jsonOf(*hosted.day));
   return object.text();
+}
+
+/// What is drawn on a canvas of that size, until the next drawing.
+const double* recorded(Size size, double scale, std::size_t* count,
+                       const std::function<void(Canvas&)>& draw) {
+  static std::unique_ptr<Canvas2dCanvas> canvas;
+  canvas = std::make_unique<Canvas2dCanvas>(size, scale);
+  canvas->save();
+  canvas->clip(Path::rect({0, 0, size.width, size.height}));
+  draw(*canvas);
+  canvas->restore();
+  const std::vector<double>& operations = canvas->operations();
+  *count = operations.size();
+  return operations.data();
 }
 
 /// Tells the views when a call has moved the day.
@@ -208,17 +223,22 @@ EMSCRIPTEN_KEEPALIVE const char* velmora_web_pictures(int number) {
 /// Draws the view with that many pixels a point; answers the operations' address and puts their count into
 /// `count`.
 EMSCRIPTEN_KEEPALIVE const double* velmora_web_draw(int number, double scale, std::size_t* count) {
-  static std::unique_ptr<Canvas2dCanvas> canvas;
   HostedView& drawn = view(number);
-  const Size size = drawn.size();
-  canvas = std::make_unique<Canvas2dCanvas>(size, scale);
-  canvas->save();
-  canvas->clip(Path::rect({0, 0, size.width, size.height}));
-  drawn.render(*canvas);
-  canvas->restore();
-  const std::vector<double>& operations = canvas->operations();
-  *count = operations.size();
-  return operations.data();
+  return recorded(drawn.size(), scale, count, [&](Canvas& canvas) { drawn.render(canvas); });
+}
+
+EMSCRIPTEN_KEEPALIVE int velmora_web_part_count(int number) {
+  return static_cast<int>(view(number).partCount());
+}
+
+/// The same of a part alone.
+EMSCRIPTEN_KEEPALIVE const double* velmora_web_draw_part(int number, int part, double scale,
+                                                         std::size_t* count) {
+  HostedView& drawn = view(number);
+  const Size whole = drawn.size();
+  const Size size = {whole.width, whole.height / static_cast<double>(drawn.partCount())};
+  return recorded(size, scale, count,
+                  [&](Canvas& canvas) { drawn.renderPart(canvas, static_cast<std::size_t>(part)); });
 }
 
 EMSCRIPTEN_KEEPALIVE void velmora_web_touch_began(int number, double x, double y) {

@@ -1,5 +1,6 @@
 #include <web/host/HostedView.h>
 
+#include <algorithm>
 #include <map>
 #include <utility>
 
@@ -72,7 +73,11 @@ View& HostedView::screen() {
 Size HostedView::size() { return screen().bounds().size(); }
 
 bool HostedView::needsDisplay() const {
-  return !_screen || _generation != Session::shared().generation() || _screen->needsDisplay();
+  if (!_screen || _generation != Session::shared().generation()) return true;
+  const auto rows = parts();
+  return rows.empty()
+             ? _screen->needsDisplay()
+             : std::any_of(rows.begin(), rows.end(), [](const auto& row) { return row->needsDisplay(); });
 }
 
 void HostedView::render(Canvas& canvas) {
@@ -80,6 +85,22 @@ void HostedView::render(Canvas& canvas) {
   View& view = screen();
   useScreen(_given.width, _scale);
   view.render(canvas);
+}
+
+std::size_t HostedView::partCount() {
+  screen();
+  return std::max<std::size_t>(parts().size(), 1);
+}
+
+void HostedView::renderPart(Canvas& canvas, std::size_t number) {
+  View& whole = screen();
+  const auto rows = parts();
+  if (rows.empty()) return render(canvas);
+  useScreen(_given.width, _scale);
+  whole.layoutSubviews();
+  const std::shared_ptr<View>& row = rows.at(number);
+  canvas.translate(0, -row->frame().y);
+  row->render(canvas);
 }
 
 void HostedView::dayChanged() {

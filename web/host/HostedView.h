@@ -46,6 +46,10 @@ class HostedView {
   Size size();
   bool needsDisplay() const;
   void render(Canvas& canvas);
+  /// Into how many parts of the same height, one below the other, the view falls.
+  std::size_t partCount();
+  /// Draws a part alone, its top left at the canvas's.
+  void renderPart(Canvas& canvas, std::size_t number);
   virtual double scrollOffset() { return 0; }
   /// Files of pictures that it shows now, relative to the page's folder.
   virtual std::vector<std::string> pictures() { return {}; }
@@ -77,6 +81,9 @@ class HostedView {
   virtual void fill(View& screen) = 0;
   /// The height that the filled screen has in place of the given one.
   virtual std::optional<double> ownHeight() const { return std::nullopt; }
+  /// Views within the filled screen that show all of it and change each by itself, from the top down; none
+  /// where it is drawn as a whole.
+  virtual std::vector<std::shared_ptr<View>> parts() const { return {}; }
   /// Whether the library's view is made anew for every drawing.
   virtual bool isDrawnOnce() const { return false; }
   /// Makes the filled screen follow the selected day; by default it is filled anew.

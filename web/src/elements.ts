@@ -10,7 +10,9 @@ import type { HostedView, ViewElement } from "./velmora";
 export class ElementLayer {
   readonly root = h("div", { class: "elements" });
   private readonly cells = new Map<string, HTMLElement>();
-  private written = "";
+  private nodes: HTMLElement[] = [];
+  private written: string[] = [];
+  private days = "";
   /** The day that gets the focus once the view shows it. */
   private wanted: Day | undefined;
 
@@ -22,61 +24,73 @@ export class ElementLayer {
     return this.view.kind === "month" || this.view.kind === "pictures";
   }
 
+  /** Where the days are those of before, changes only what is said of them. */
   refresh(): void {
     const elements = this.view.elements();
-    const written = JSON.stringify(elements);
-    if (written === this.written) return;
-    this.written = written;
+    const written = elements.map((element) => JSON.stringify(element));
+    if (written.length === this.written.length && written.every((text, index) => text === this.written[index])) return;
     const hadFocus = this.root.contains(document.activeElement);
-    const days = elements.filter((element) => element.day);
-    this.cells.clear();
-    const parts: HTMLElement[] = elements.filter((element) => !element.day).map((element) => this.picture(element));
-    if (days.length > 0) parts.push(this.isGrid ? this.grid(days, elements) : this.list(days, elements));
-    this.root.replaceChildren(...parts);
+    const days = JSON.stringify(elements.map(({ day }) => day ?? null));
+    if (days !== this.days) this.build(elements);
+    const today = this.app.moon.today();
+    elements.forEach((element, index) => {
+      if (days !== this.days || written[index] !== this.written[index]) describe(this.nodes[index]!, element, today);
+    });
+    this.days = days;
+    this.written = written;
+    this.putTabStop([...this.cells.values()].find((cell) => cell.ariaSelected === "true"));
     if (hadFocus || this.wanted) this.focusSelected();
   }
 
-  private picture(element: ViewElement): HTMLElement {
-    const name = [element.label, element.value].filter(Boolean).join(", ");
-    return placed(h("div", { role: "img", "aria-label": name }), element);
+  private build(elements: readonly ViewElement[]): void {
+    this.cells.clear();
+    this.nodes = elements.map((element, index) =>
+      element.day ? this.cell(element.day, index) : h("div", { role: "img" }));
+    const days = elements.flatMap(({ day }) => day ?? []);
+    const parts = this.nodes.filter((_, index) => !elements[index]!.day);
+    if (days.length > 0) parts.push(this.isGrid ? this.grid(days) : this.list());
+    this.root.replaceChildren(...parts);
   }
 
-  private grid(days: readonly ViewElement[], all: readonly ViewElement[]): HTMLElement {
+  private grid(days: readonly Day[]): HTMLElement {
     const grid = h("div", { role: "grid", "aria-label": this.label });
     const { weekStart } = this.app.moon.settings;
     const heads = Array.from({ length: 7 }, (_, column) => h("span", { role: "columnheader" },
       this.app.format.weekday((weekStart + column) % 7)));
     grid.append(h("div", { role: "row", class: "spoken" }, ...heads));
     let row: HTMLElement | undefined;
-    for (const element of days) {
-      const column = (weekdayOf(element.day!) - weekStart + 7) % 7;
+    for (const day of days) {
+      const column = (weekdayOf(day) - weekStart + 7) % 7;
       if (!row || column === 0) {
         row = h("div", { role: "row" });
         grid.append(row);
       }
-      const cell = this.cell(element, all.indexOf(element), "gridcell");
+      const cell = this.cells.get(dayText(day))!;
       cell.setAttribute("aria-colindex", String(column + 1));
       row.append(cell);
     }
     return grid;
   }
 
-  private list(days: readonly ViewElement[], all: readonly ViewElement[]): HTMLElement {
-    return h("div", { role: "listbox", "aria-label": this.label },
-      ...days.map((element) => this.cell(element, all.indexOf(element), "option")));
+  private list(): HTMLElement {
+    return h("div", { role: "listbox", "aria-label": this.label }, ...this.cells.values());
   }
 
-  private cell(element: ViewElement, index: number, role: string): HTMLElement {
-    const day = element.day!;
+  private cell(day: Day, index: number): HTMLElement {
     const cell = h("div", {
-      role, class: "day", tabindex: element.isSelected ? 0 : -1, "aria-selected": String(element.isSelected),
-      "aria-label": [element.label, element.value].filter(Boolean).join(", "), "data-day": dayText(day),
+      role: this.isGrid ? "gridcell" : "option", class: "day", "data-day": dayText(day),
       // A screen reader's tap comes here, a finger's goes to the canvas below.
       click: () => this.view.perform(index, 0),
     });
-    if (sameDay(day, this.app.moon.today())) cell.setAttribute("aria-current", "date");
     this.cells.set(dayText(day), cell);
-    return placed(cell, element);
+    return cell;
+  }
+
+  /** On the cell; on the first where there is none. */
+  private putTabStop(cell: HTMLElement | undefined): void {
+    for (const other of this.cells.values()) other.tabIndex = -1;
+    const stop = cell ?? this.cells.values().next().value;
+    if (stop) stop.tabIndex = 0;
   }
 
   focusSelected(): void {
@@ -84,8 +98,7 @@ export class ElementLayer {
     const cell = this.cells.get(dayText(day)) ?? this.root.querySelector<HTMLElement>("[tabindex='0']");
     this.wanted = undefined;
     if (!cell) return;
-    for (const other of this.cells.values()) other.tabIndex = -1;
-    cell.tabIndex = 0;
+    this.putTabStop(cell);
     cell.focus({ preventScroll: this.isGrid });
   }
 
@@ -152,8 +165,7 @@ export class ElementLayer {
   private moveTo(day: Day): void {
     const cell = this.cells.get(dayText(day));
     if (cell) {
-      for (const other of this.cells.values()) other.tabIndex = -1;
-      cell.tabIndex = 0;
+      this.putTabStop(cell);
       cell.focus();
       return;
     }
@@ -168,10 +180,16 @@ function dayOf(text: string): Day {
   return { year: year!, month: month!, day: day! };
 }
 
-function placed(node: HTMLElement, { frame }: ViewElement): HTMLElement {
+/** What the node says of the element, and where it lies. */
+function describe(node: HTMLElement, element: ViewElement, today: Day): void {
+  const { frame, day, isSelected } = element;
+  node.setAttribute("aria-label", [element.label, element.value].filter(Boolean).join(", "));
   node.style.left = `${frame.x}px`;
   node.style.top = `${frame.y}px`;
   node.style.width = `${frame.width}px`;
   node.style.height = `${frame.height}px`;
-  return node;
+  if (!day) return;
+  node.setAttribute("aria-selected", String(isSelected));
+  if (sameDay(day, today)) node.setAttribute("aria-current", "date");
+  else node.removeAttribute("aria-current");
 }

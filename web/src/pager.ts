@@ -14,7 +14,7 @@ const settleTime = 220;
  * to it. `beside` tells the day of the next (1) or the previous (-1) page.
  */
 export class Pager {
-  private readonly canvas: HTMLCanvasElement;
+  private readonly canvas: HTMLElement;
   private readonly neighbour = h("canvas", { class: "neighbour", "aria-hidden": "true" });
   private pointer: number | undefined;
   private start = { x: 0, y: 0, at: 0 };
@@ -117,7 +117,7 @@ export class Pager {
     const isStill = matchMedia("(prefers-reduced-motion: reduce)").matches;
     const timing = { duration: isStill ? 0 : settleTime, easing: "cubic-bezier(0.2, 0.8, 0.2, 1)" };
     const beside = this.shift < 0 ? width : -width;
-    const slide = (canvas: HTMLCanvasElement, offset: number): Animation => canvas.animate(
+    const slide = (canvas: HTMLElement, offset: number): Animation => canvas.animate(
       { transform: [`translateX(${this.shift + offset}px)`, `translateX(${target + offset}px)`] }, timing);
     slide(this.neighbour, beside);
     this.settling = slide(this.canvas, 0);

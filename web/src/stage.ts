@@ -8,13 +8,14 @@ const finest = 3;
 
 /** One view on its canvas, redrawn by animation frame, with its elements for screen readers over it. */
 export class Stage {
-  readonly canvas = h("canvas", { "aria-hidden": "true" });
+  readonly canvas: HTMLElement;
   readonly root: HTMLDivElement;
   readonly view: HostedView;
   private readonly elements: ElementLayer;
   private readonly frame = oncePerFrame(() => this.drawNow());
   private readonly resizing: ResizeObserver;
   private readonly endListening: () => void;
+  private isCovered = false;
 
   /** `heightOf` tells the height in points for a width. */
   constructor(
@@ -22,6 +23,7 @@ export class Stage {
     options: ViewOptions = {},
   ) {
     this.root = h("div", { class: `stage stage-${kind}` });
+    this.canvas = h(kind === "riseset" ? "div" : "canvas", { class: "drawn", "aria-hidden": "true" });
     this.view = app.moon.createView(kind, this.canvas, options);
     this.elements = new ElementLayer(app, this.view, label);
     this.root.append(this.canvas, this.elements.root);
@@ -43,8 +45,13 @@ export class Stage {
     this.drawNow();
   }
 
+  /** Another drawing lies over the canvas: what is below it is drawn no more. */
+  cover(): void {
+    this.isCovered = this.canvas.hidden = true;
+  }
+
   drawNow(): void {
-    this.view.draw();
+    if (!this.isCovered) this.view.draw();
     this.elements.refresh();
   }
 

@@ -75,7 +75,11 @@ export interface Velmora {
   /** A sentence for an `aria-live` region. */
   onAnnouncement(listener: (text: string) => void): End;
 
-  createView(kind: ViewKind, canvas: HTMLCanvasElement, options?: ViewOptions): HostedView;
+  /**
+   * Draws on the canvas; into any other element it puts a canvas for each part of the view, so that only those that
+   * change are drawn again.
+   */
+  createView(kind: ViewKind, canvas: HTMLElement, options?: ViewOptions): HostedView;
 
   /** What happens on the civil day at the place; none for a day that its clocks skipped. */
   skyOfDay(day: CivilDate): DayInTheSky | undefined;
@@ -128,7 +132,7 @@ export interface ViewOptions {
 /** A view on a canvas. It draws nothing by itself: ask in an animation frame after `onNeedsDisplay`. */
 export interface HostedView {
   readonly kind: ViewKind;
-  readonly canvas: HTMLCanvasElement;
+  readonly canvas: HTMLElement;
 
   /**
    * Sets the size in points and the pixels a point; sizes the canvas too. The height of rise and set is that of

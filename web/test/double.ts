@@ -23,7 +23,8 @@ export const loadVelmora: V.LoadVelmora = async (o) => {
     today: () => clockAt(Date.now(), place.zone).day,
     onDayChange(f) { dl.add(f); return () => dl.delete(f); },
     onAnnouncement(f) { al.add(f); return () => al.delete(f); },
-    createView(kind, canvas, options = {}) {
+    createView(kind, holder, options = {}) {
+      const canvas = holder instanceof HTMLCanvasElement ? holder : holder.appendChild(document.createElement("canvas"));
       let w = 100, hgt = 100, sc = 1, needs = true; const ls = new Set<() => void>();
       const mark = () => { needs = true; ls.forEach((f) => f()); }; dirty.add(mark);
       const cells = (d: V.CivilDate) => { const first = weekdayOf({ ...d, day: 1 }); const lead = (first - settings.weekStart + 7) % 7;
@@ -39,7 +40,7 @@ export const loadVelmora: V.LoadVelmora = async (o) => {
         else if (kind === "disc") disc(c, w / 2, hgt / 2, Math.min(w, hgt) / 2 - 2, el(options.at ?? 0));
         else { c.strokeStyle = "#2e4073"; c.lineWidth = 5; c.beginPath(); c.arc(w / 2, hgt / 2, Math.min(w, hgt) / 2 - 10, 0, 7); c.stroke(); c.fillStyle = "#ccc"; c.fillText(kind, w / 2, hgt / 2); } };
       const elements = (): V.ViewElement[] => kind === "month" || kind === "pictures" ? cells(day).map(({ day: d, frame }) => ({ frame, label: `${d.day}`, value: "fake", hint: "", isButton: true, actions: ["Select"], day: d, isSelected: sameDay(d, day) })) : [{ frame: { x: 0, y: 0, width: w, height: hgt }, label: kind, value: "", hint: "", isButton: false, actions: [], isSelected: false }];
-      const v: V.HostedView = { kind, canvas, resize(a, b, s) { w = a; hgt = kind === "riseset" ? 31 * 90 : b; sc = s; canvas.width = w * s; canvas.height = hgt * s; mark(); }, get size() { return { width: w, height: hgt }; },
+      const v: V.HostedView = { kind, canvas: holder, resize(a, b, s) { w = a; hgt = kind === "riseset" ? 31 * 90 : b; sc = s; canvas.width = w * s; canvas.height = hgt * s; mark(); }, get size() { return { width: w, height: hgt }; },
         setOptions(o) { options = o; mark(); }, draw() { if (needs) paint(canvas, day); needs = false; }, drawDay(d, cv) { paint(cv, d); }, get needsDisplay() { return needs; },
         onNeedsDisplay(f) { ls.add(f); return () => ls.delete(f); }, ready: async () => {}, touchBegan() {}, touchMoved() {}, touchCancelled() {},
         touchEnded(x, y) { const c = elements().find((e) => e.day && x >= e.frame.x && x < e.frame.x + e.frame.width && y >= e.frame.y && y < e.frame.y + e.frame.height); if (c?.day) moon.selectDay(c.day); },

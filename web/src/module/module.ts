@@ -117,7 +117,7 @@ export class Module implements Velmora {
     return () => this.#announcementListeners.delete(listener);
   }
 
-  createView(kind: ViewKind, canvas: HTMLCanvasElement, options: ViewOptions = {}): HostedView {
+  createView(kind: ViewKind, canvas: HTMLElement, options: ViewOptions = {}): HostedView {
     const view = new CanvasView(this, kind, canvas, options);
     this.#views.add(view);
     return view;

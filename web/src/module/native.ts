@@ -53,12 +53,13 @@ export class Native {
     }
   }
 
-  /** The operations of a view's drawing, until the next call. */
-  operations(view: number, scale: number): Float64Array {
+  /** The operations of a view's drawing, or of a part of it, until the next call. */
+  operations(view: number, scale: number, part?: number): Float64Array {
     return this.withBytes(new Uint8Array(8), (count) => {
-      const begin = this.number("velmora_web_draw", view, scale, count) / 8;
+      const begin = part === undefined ? this.number("velmora_web_draw", view, scale, count)
+        : this.number("velmora_web_draw_part", view, part, scale, count);
       const size = new Uint32Array(this.#module.HEAPU8.buffer, count, 1)[0]!;
-      return this.#module.HEAPF64.subarray(begin, begin + size);
+      return this.#module.HEAPF64.subarray(begin / 8, begin / 8 + size);
     });
   }
 

@@ -3,13 +3,15 @@ import type { Module } from "./module";
 import { replay } from "./replay";
 import { svgOf } from "./svg";
 
-/** Draws on a canvas of that size in points, the background below or none. */
-function paint(module: Module, context: CanvasRenderingContext2D, view: number, scale: number,
+/** Draws on a canvas of that many pixels a point, the background below or none. */
+function paint({ texts, pictures }: Module, canvas: HTMLCanvasElement, operations: Float64Array, scale: number,
                background?: string): void {
+  const context = canvas.getContext("2d");
+  if (!context) return;
   context.setTransform(1, 0, 0, 1, 0, 0);
   context.clearRect(0, 0, context.canvas.width, context.canvas.height);
   context.setTransform(scale, 0, 0, scale, 0, 0);
-  replay(context, module.native.operations(view, scale), module.texts, module.pictures);
+  replay(context, operations, texts, pictures);
   if (background === undefined) return;
   context.setTransform(1, 0, 0, 1, 0, 0);
   context.globalCompositeOperation = "destination-over";
@@ -26,7 +28,17 @@ function fit(canvas: HTMLCanvasElement, size: Size, scale: number): void {
   canvas.style.height = `${size.height}px`;
 }
 
-/** A view of the module on a canvas of the page. */
+function isSame(one: Float64Array, other: Float64Array): boolean {
+  return one.length === other.length && one.every((number, index) => number === other[index]);
+}
+
+/** The canvas of a part, and what was drawn on it. */
+interface Part {
+  readonly canvas: HTMLCanvasElement;
+  drawn: Float64Array;
+}
+
+/** A view of the module on a canvas of the page, or with a canvas for each of its parts. */
 export class CanvasView implements HostedView {
   readonly #module: Module;
   readonly #number: number;
@@ -35,8 +47,9 @@ export class CanvasView implements HostedView {
   #isStale = true;
   #isTold = false;
   #isClosed = false;
+  readonly #parts: Part[] = [];
 
-  constructor(module: Module, readonly kind: ViewKind, readonly canvas: HTMLCanvasElement, options: ViewOptions) {
+  constructor(module: Module, readonly kind: ViewKind, readonly canvas: HTMLElement, options: ViewOptions) {
     this.#module = module;
     this.#number = module.native.number("velmora_web_open_view", kind);
     if (this.#number === 0) throw new RangeError(`there is no view "${String(kind)}"`);
@@ -70,8 +83,10 @@ export class CanvasView implements HostedView {
 
   draw(): void {
     if (!this.needsDisplay) return;
+    const isStale = this.#isStale;
     this.#isStale = this.#isTold = false;
-    this.#paintOn(this.canvas);
+    if (this.canvas instanceof HTMLCanvasElement) this.#paintOn(this.canvas);
+    else this.#paintParts(this.canvas, isStale);
     void this.#fetchPictures();
   }
 
@@ -125,8 +140,7 @@ export class CanvasView implements HostedView {
     await this.ready();
     const canvas = document.createElement("canvas");
     fit(canvas, this.size, scale);
-    const context = canvas.getContext("2d");
-    if (context) paint(this.#module, context, this.#number, scale, this.#background);
+    paint(this.#module, canvas, this.#module.native.operations(this.#number, scale), scale, this.#background);
     return new Promise((done, fail) =>
       canvas.toBlob((blob) => blob ? done(blob) : fail(new Error("the picture is too large for this browser"))));
   }
@@ -157,8 +171,26 @@ export class CanvasView implements HostedView {
 
   #paintOn(canvas: HTMLCanvasElement): void {
     fit(canvas, this.size, this.#scale);
-    const context = canvas.getContext("2d");
-    if (context) paint(this.#module, context, this.#number, this.#scale);
+    paint(this.#module, canvas, this.#module.native.operations(this.#number, this.#scale), this.#scale);
+  }
+
+  /** Those of which something has changed; all where more than the library's view may have. */
+  #paintParts(holder: HTMLElement, all: boolean): void {
+    const { native } = this.#module;
+    const count = native.number("velmora_web_part_count", this.#number);
+    while (this.#parts.length > count) this.#parts.pop()!.canvas.remove();
+    while (this.#parts.length < count) {
+      this.#parts.push({ canvas: document.createElement("canvas"), drawn: new Float64Array() });
+      holder.append(this.#parts.at(-1)!.canvas);
+    }
+    const { width, height } = this.size;
+    this.#parts.forEach((part, index) => {
+      const operations = native.operations(this.#number, this.#scale, index);
+      if (!all && isSame(operations, part.drawn)) return;
+      part.drawn = operations.slice();
+      fit(part.canvas, { width, height: height / count }, this.#scale);
+      paint(this.#module, part.canvas, part.drawn, this.#scale);
+    });
   }
 
   #touch(name: string, ...values: number[]): void {

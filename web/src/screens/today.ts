@@ -22,7 +22,7 @@ export function todayScreen(app: App): Screen {
   const options = (): object => ({ at: app.at, isTilted: app.choices.isTilted });
   const disc = new Stage(app, "disc", w("Moon"), (width) => width, options());
   const ruler = new Ruler(app);
-  const face = new MoonFace((name) => app.file(name));
+  const face = new MoonFace((name) => app.file(name), () => disc.cover());
   const date = h("h2", { class: "date" });
   const clock = h("p", { class: "clock" });
   const phase = h("p", { class: "phase" });
@@ -54,7 +54,7 @@ export function todayScreen(app: App): Screen {
     phase.textContent = w(phaseNames[moment.phase]);
     lit.textContent = t("%1 lit", app.format.percent(moment.fraction));
     face.show(lightOf(app, moment));
-    glow.style.opacity = String(0.15 + 0.85 * moment.fraction);
+    glow.style.opacity = (0.15 + 0.85 * moment.fraction).toFixed(2);
     for (const body of bodies) body.show(moment);
   };
   const showDay = (): void => {

@@ -1,0 +1,171 @@
+// Measures the built page in Chromium: node measure.mjs [FOLDER [ROWS…]]; a row by a word in its name.
+// Figures are processor time of the page's thread from an input until what follows from it is painted, the least of
+// many; under emulation of a slower processor, too. Of starting they are time by the clock, the least of several.
+import { readFile, rm, mkdtemp } from "node:fs/promises";
+import { tmpdir } from "node:os";
+import { join } from "node:path";
+import { serve } from "./static.mjs";
+import { launch } from "./test/browser.mjs";
+import { at, drawn, phone, settled, swipe } from "./test/pages.mjs";
+
+const rounds = 40;
+const starts = 15;
+const months = 1000;
+const size = { ...phone, deviceScaleFactor: 3 };
+
+const middleOf = (page, selector) => page.$eval(selector, (element) => {
+  const { x, y, width, height } = element.getBoundingClientRect();
+  return { x: x + width / 2, y: y + height / 2, left: x, width };
+});
+
+async function tap(page, selector) {
+  const { x, y } = await middleOf(page, selector);
+  await page.touchscreen.tap(x, y);
+}
+
+/** What is done over and over: `prepare` answers what one step does. */
+const rows = [
+  { name: "nothing: what measuring itself takes", view: "today", prepare: () => () => undefined },
+  ...["today", "sky"].map((view) => ({
+    name: `the day's ruler pulled, ${view}`, view,
+    async prepare(page) {
+      const { left, width, y } = await middleOf(page, ".strip");
+      await page.mouse.move(left + 20, y);
+      await page.mouse.down();
+      return (round) => page.mouse.move(left + 20 + ((round * 7) % (width - 40)), y);
+    },
+  })),
+  { name: "a day tapped in the month", view: "month", prepare: (page) => (round) =>
+    tap(page, `[data-day='2025-09-${10 + (round % 5)}']`) },
+  { name: "a day tapped in rise and set", view: "riseset", prepare: (page) => (round) =>
+    tap(page, `[data-day='2025-09-${String(8 + (round % 2)).padStart(2, "0")}']`) },
+  { name: "rise and set scrolled", view: "riseset", prepare: (page) => (round) =>
+    page.evaluate((down) => scrollBy({ top: down, behavior: "instant" }), round % 20 < 10 ? 60 : -60) },
+  { name: "the month pulled", view: "month", async prepare(page) {
+    const { left, width, y } = await middleOf(page, ".stage");
+    await page.mouse.move(left + width - 20, y);
+    await page.mouse.down();
+    return (round) => page.mouse.move(left + width - 60 - (round % 20) * 5, y);
+  } },
+];
+
+/** Processor time of each round, in ms, from the tasks of the thread that bears the marks. */
+function timesOf({ traceEvents }) {
+  const marks = traceEvents.filter(({ name, cat }) => cat?.includes("user_timing") && /^(begin|end)-\d+$/.test(name));
+  const { pid, tid } = marks[0];
+  const tasks = traceEvents.filter((event) => event.pid === pid && event.tid === tid && event.tdur !== undefined &&
+    event.name === "ThreadControllerImpl::RunTask");
+  const times = new Map(marks.map(({ name, ts }) => [name, ts]));
+  return Array.from({ length: rounds }, (_, round) => {
+    const begin = times.get(`begin-${round}`), end = times.get(`end-${round}`);
+    return tasks.filter(({ ts }) => ts > begin && ts < end).reduce((sum, { tdur }) => sum + tdur, 0) / 1000;
+  });
+}
+
+async function measured(site, { view, prepare }, slowness) {
+  const page = await site.visitor();
+  await page.goto(site.address + at(view));
+  await settled(page);
+  await page.evaluate(() => document.fonts.ready);
+  const step = await prepare(page);
+  const file = join(site.temporary, "trace.json");
+  await page.emulateCPUThrottling(slowness);
+  await page.tracing.start({ path: file, categories: ["toplevel", "blink.user_timing"] });
+  for (let round = 0; round < rounds; ++round) {
+    await page.evaluate((name) => void performance.mark(name), `begin-${round}`);
+    await step(round);
+    await drawn(page);
+    await page.evaluate((name) => void performance.mark(name), `end-${round}`);
+  }
+  await page.tracing.stop();
+  const times = timesOf(JSON.parse(await readFile(file, "utf8"))).sort((one, other) => one - other);
+  await page.browserContext().close();
+  return times;
+}
+
+/** Milliseconds from the navigation to the first view's drawing. */
+async function start(page, address) {
+  await page.goto("about:blank");
+  await page.goto(address);
+  await settled(page);
+  return page.evaluate(() => performance.getEntriesByName("first view")[0].startTime);
+}
+
+class Site {
+  static async open(folder) {
+    const site = new Site();
+    site.temporary = await mkdtemp(join(tmpdir(), "velmora-measure-"));
+    site.server = await serve(folder);
+    site.browser = await launch();
+    site.address = site.server.address;
+    return site;
+  }
+
+  async visitor() {
+    const context = await this.browser.createBrowserContext();
+    const page = await context.newPage();
+    await page.setViewport(size);
+    await page.evaluateOnNewDocument(() => {
+      const { instantiate } = WebAssembly;
+      WebAssembly.instantiate = async (...values) => {
+        const made = await instantiate.apply(WebAssembly, values);
+        globalThis.wasmMemory = Object.values((made.instance ?? made).exports).find((one) => one instanceof WebAssembly.Memory);
+        return made;
+      };
+      new MutationObserver((_, observer) => {
+        if (!document.documentElement.dataset.ready) return;
+        observer.disconnect();
+        requestAnimationFrame(() => setTimeout(() => performance.mark("first view")));
+      }).observe(document, { attributes: true, subtree: true, attributeFilter: ["data-ready"] });
+    });
+    return page;
+  }
+
+  async close() {
+    await this.browser.close();
+    this.server.close();
+    await rm(this.temporary, { recursive: true });
+  }
+}
+
+async function starting(site) {
+  let first = Infinity, cached = Infinity;
+  for (let round = 0; round < starts; ++round) {
+    const page = await site.visitor();
+    first = Math.min(first, await start(page, site.address));
+    await page.evaluate(() => navigator.serviceWorker.ready);
+    await page.waitForFunction(() => navigator.serviceWorker.controller !== null);
+    cached = Math.min(cached, await start(page, site.address));
+    await page.browserContext().close();
+  }
+  console.log(`first view, first load: ${first.toFixed(0)} ms; kept by the service worker: ${cached.toFixed(0)} ms`);
+}
+
+/** Swipes month after month, forwards and, where the years end, backwards. */
+async function memory(site) {
+  const page = await site.visitor();
+  await page.emulateMediaFeatures([{ name: "prefers-reduced-motion", value: "reduce" }]);
+  await page.goto(site.address + at("month", "day=2001-01-15&time=12:00"));
+  await settled(page);
+  const length = () => page.evaluate(() => globalThis.wasmMemory.buffer.byteLength / 1024);
+  for (let month = 0; month <= months; ++month) {
+    if ([0, 100, 250, 500, 750, months].includes(month)) console.log(`memory after ${month} months: ${await length()} KB`);
+    const isForward = Math.floor(month / 450) % 2 === 0;
+    await swipe(page, ".stage", ...(isForward ? [0.8, 0.2] : [0.2, 0.8]));
+  }
+  await page.browserContext().close();
+}
+
+const [folder = "build/page", ...words] = process.argv.slice(2);
+const isAsked = (name) => words.length === 0 || words.some((word) => name.includes(word));
+const site = await Site.open(folder);
+for (const row of rows.filter(({ name }) => isAsked(name))) {
+  for (const slowness of [1, 4]) {
+    const times = await measured(site, row, slowness);
+    const text = (time) => time.toFixed(1);
+    console.log(`${row.name}${slowness > 1 ? `, ${slowness} times slower` : ""}: ${text(times[0])} ms, median ${text(times[rounds / 2])}`);
+  }
+}
+if (isAsked("starting")) await starting(site);
+if (isAsked("memory")) await memory(site);
+await site.close();
