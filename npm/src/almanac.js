@@ -1,4 +1,4 @@
-import start from 'velmora-almanac-module';
+import functions from 'velmora-almanac-imports';
 import {choice, integer, number, open, seconds} from './core.js';
 
 const bodies = ['sun', 'moon'];
@@ -19,38 +19,52 @@ const usualEvents = 16; // of a day
 const DAY = 56, EVENT = 32, CROSSING = 24, POSITION = 80, ILLUMINATION = 56, MOMENT = 16, APSIS = 24, ECLIPSE = 40;
 const ECLIPSE_MOMENT = 32;
 
-const instant = (core, at) => new Date(Math.round(core.double(at) * 1000));
+/** The name by which a day has the first event of its kind: "sunrise", "moonTransit", "civilDawn". */
+const names = bodies.map(body => kinds.map((kind, number) =>
+  number < 2 ? body + kind : kind === 'transit' ? body + 'Transit' : kind));
 
 const event = (core, at) => ({
-  at: instant(core, at),
+  at: core.instant(at),
   body: bodies[core.integer(at + 8)],
   kind: kinds[core.integer(at + 12)],
   azimuth: core.double(at + 16),
   altitude: core.double(at + 24),
 });
 
-/** The name by which a day has the first event of its kind: "sunrise", "moonTransit", "civilDawn". */
-function nameOf({body, kind}) {
-  if (kind === 'transit') return body + 'Transit';
-  return kind === 'rise' || kind === 'set' ? body + kind : kind;
-}
-
-function day(core, at, events) {
+/** A day and its events, the first of which lies there. */
+function day(core, at, firstEvent) {
   const answer = {
-    start: instant(core, at),
-    end: instant(core, at + 8),
+    start: core.instant(at),
+    end: core.instant(at + 8),
     sun: allDay[core.integer(at + 16)],
     moon: allDay[core.integer(at + 20)],
     daylight: core.double(at + 24),
     darkness: core.double(at + 32),
-    events,
+    events: [],
+    sunrise: undefined, // all days have the same names, which makes them quick to fill and to read
+    sunset: undefined,
+    sunTransit: undefined,
+    moonrise: undefined,
+    moonset: undefined,
+    moonTransit: undefined,
+    civilDawn: undefined,
+    civilDusk: undefined,
+    nauticalDawn: undefined,
+    nauticalDusk: undefined,
+    astronomicalDawn: undefined,
+    astronomicalDusk: undefined,
   };
-  for (const event of events) answer[nameOf(event)] ??= event.at;
+  const end = firstEvent + core.integer(at + 48) * EVENT;
+  for (let next = firstEvent; next < end; next += EVENT) {
+    const found = event(core, next);
+    answer.events.push(found);
+    answer[names[core.integer(next + 8)][core.integer(next + 12)]] ??= found.at;
+  }
   return answer;
 }
 
 const crossing = (core, at) => ({
-  at: instant(core, at),
+  at: core.instant(at),
   azimuth: core.double(at + 8),
   isRising: core.integer(at + 16) === 1,
 });
@@ -78,17 +92,17 @@ const illumination = (core, at) => ({
   isWaxing: core.integer(at + 48) === 1,
 });
 
-const phase = (core, at) => ({at: instant(core, at), phase: phases[core.integer(at + 8)]});
-const season = (core, at) => ({at: instant(core, at), season: seasons[core.integer(at + 8)]});
+const phase = (core, at) => ({at: core.instant(at), phase: phases[core.integer(at + 8)]});
+const season = (core, at) => ({at: core.instant(at), season: seasons[core.integer(at + 8)]});
 
 const apsis = (core, at) => ({
-  at: instant(core, at),
+  at: core.instant(at),
   distance: core.double(at + 8),
   isPerigee: core.integer(at + 16) === 1,
 });
 
 const eclipse = (core, at) => ({
-  maximum: instant(core, at),
+  maximum: core.instant(at),
   magnitude: core.double(at + 8),
   gamma: core.double(at + 16),
   body: bodies[core.integer(at + 24)],
@@ -97,7 +111,7 @@ const eclipse = (core, at) => ({
 });
 
 const eclipseMoment = (core, at) => ({
-  at: instant(core, at),
+  at: core.instant(at),
   altitude: core.double(at + 8),
   azimuth: core.double(at + 16),
   isUp: core.integer(at + 24) === 1,
@@ -119,8 +133,8 @@ function localEclipse(core, at) {
   if (!answer.isVisible) return answer;
   return {
     ...answer,
-    visibleFrom: instant(core, at + 256),
-    visibleTo: instant(core, at + 264),
+    visibleFrom: core.instant(at + 256),
+    visibleTo: core.instant(at + 264),
     best: eclipseMoment(core, at + 272),
     bestMagnitude: core.double(at + 304),
   };
@@ -154,7 +168,7 @@ class Almanac {
 
   constructor(core) {
     this.#core = core;
-    this.#c = core.module;
+    this.#c = core.c;
   }
 
   get version() { return this.#core.version; }
@@ -167,40 +181,43 @@ class Almanac {
   // Two lists are filled at once: the days, and behind the room for them the events of all.
   days(place, zone, first, last, options = {}) {
     const core = this.#core;
-    const given = [core.place(place), core.zone(zone), core.date(first, 'first'),
-      core.lastDate(last, 'last'), wanted(options), convention(core, options.convention)];
-    const dayRoom = dayCount(first, last);
+    const at = core.place(place), clocks = core.zone(zone), from = core.date(first, 'first'),
+      to = core.lastDate(last, 'last'), choice = wanted(options), horizon = convention(core, options.convention);
+    const dayRoom = dayCount(first, last), {count, eventCount} = core;
     core.grown(dayRoom * (DAY + usualEvents * EVENT));
     const events = () => core.items + dayRoom * DAY;
     do {
       const eventRoom = Math.floor((core.room - dayRoom * DAY) / EVENT);
-      core.ask(this.#c._velmora_days, ...given, core.items, dayRoom, core.count, events(), eventRoom,
-        core.eventCount);
-    } while (core.grown(dayRoom * DAY + core.integer(core.eventCount) * EVENT));
-    return core.read(core.items, core.integer(core.count), DAY, (_, at) => {
-      const firstEvent = events() + core.integer(at + 40) * EVENT;
-      return day(core, at, core.read(firstEvent, core.integer(at + 48), EVENT, event));
-    });
+      core.ask(() => this.#c.velmora_days(at, clocks, from, to, choice, horizon, core.items, dayRoom, count,
+        events(), eventRoom, eventCount));
+    } while (core.grown(dayRoom * DAY + core.integer(eventCount) * EVENT));
+    return core.read(core.items, core.integer(count), DAY,
+      (_, item) => day(core, item, events() + core.integer(item + 40) * EVENT));
   }
 
   events(place, from, to, options = {}) {
-    const core = this.#core;
-    const events = core.list(EVENT, event, this.#c._velmora_events, core.place(place), seconds(from, 'from'),
-      seconds(to, 'to'), wanted(options), convention(core, options.convention), core.answer);
-    return day(core, core.answer, events);
+    const core = this.#core, {answer, count} = core;
+    const at = core.place(place), start = seconds(from, 'from'), end = seconds(to, 'to'), choice = wanted(options),
+      horizon = convention(core, options.convention);
+    do {
+      core.ask(() => this.#c.velmora_events(at, start, end, choice, horizon, answer, core.items,
+        Math.floor(core.room / EVENT), count));
+    } while (core.grown(core.integer(count) * EVENT));
+    return day(core, answer, core.items);
   }
 
   next(place, body, kind, after, options = {}) {
     const core = this.#core;
-    const isFound = core.ask(this.#c._velmora_next, core.place(place), choice(bodies, body, 'body'),
-      choice(kinds, kind, 'kind'), seconds(after, 'after'), convention(core, options.convention), core.answer);
+    const isFound = core.ask(() => this.#c.velmora_next(core.place(place), choice(bodies, body, 'body'),
+      choice(kinds, kind, 'kind'), seconds(after, 'after'), convention(core, options.convention), core.answer));
     return isFound ? event(core, core.answer) : undefined;
   }
 
   crossings(place, body, altitude, from, to) {
     const core = this.#core;
-    return core.list(CROSSING, crossing, this.#c._velmora_crossings, core.place(place),
-      choice(bodies, body, 'body'), number(altitude, 'altitude'), seconds(from, 'from'), seconds(to, 'to'));
+    return core.list(CROSSING, crossing, (items, room, count) => this.#c.velmora_crossings(core.place(place),
+      choice(bodies, body, 'body'), number(altitude, 'altitude'), seconds(from, 'from'), seconds(to, 'to'), items,
+      room, count));
   }
 
   position(place, body, at) { return this.positions(place, body, [at])[0]; }
@@ -208,20 +225,20 @@ class Almanac {
   positions(place, body, instants) {
     const chosen = choice(bodies, body, 'body');
     return this.#atInstants(instants, POSITION, position, (at, count, answers) =>
-      this.#core.ask(this.#c._velmora_positions, this.#core.place(place), chosen, at, count, answers));
+      this.#c.velmora_positions(this.#core.place(place), chosen, at, count, answers));
   }
 
   illumination(place, at) { return this.illuminations(place, [at])[0]; }
 
   illuminations(place, instants) {
     return this.#atInstants(instants, ILLUMINATION, illumination, (at, count, answers) =>
-      this.#core.ask(this.#c._velmora_illuminations, this.#core.place(place), at, count, answers));
+      this.#c.velmora_illuminations(this.#core.place(place), at, count, answers));
   }
 
-  phases(from, to) { return this.#between(from, to, MOMENT, phase, this.#c._velmora_phases); }
-  seasons(from, to) { return this.#between(from, to, MOMENT, season, this.#c._velmora_seasons); }
-  apsides(from, to) { return this.#between(from, to, APSIS, apsis, this.#c._velmora_apsides); }
-  eclipses(from, to) { return this.#between(from, to, ECLIPSE, eclipse, this.#c._velmora_eclipses); }
+  phases(from, to) { return this.#between(from, to, MOMENT, phase, this.#c.velmora_phases); }
+  seasons(from, to) { return this.#between(from, to, MOMENT, season, this.#c.velmora_seasons); }
+  apsides(from, to) { return this.#between(from, to, APSIS, apsis, this.#c.velmora_apsides); }
+  eclipses(from, to) { return this.#between(from, to, ECLIPSE, eclipse, this.#c.velmora_eclipses); }
 
   seenFrom(eclipse, place) {
     const core = this.#core;
@@ -234,25 +251,26 @@ class Almanac {
     core.setInteger(at + 24, choice(bodies, body, 'body'));
     core.setInteger(at + 28, choice(eclipseKinds, kind, 'kind'));
     core.setInteger(at + 32, integer(saros, 'saros'));
-    const isSeen = core.ask(this.#c._velmora_seen_from, at, core.place(place), core.answer);
+    const isSeen = core.ask(() => this.#c.velmora_seen_from(at, core.place(place), core.answer));
     return isSeen ? localEclipse(core, core.answer) : undefined;
   }
 
   civilDay(zone, date) {
     const core = this.#core;
-    const isDay = core.ask(this.#c._velmora_civil_day, core.zone(zone), core.date(date, 'date'), core.answer,
-      core.answer + 8);
-    return isDay ? {start: instant(core, core.answer), end: instant(core, core.answer + 8)} : undefined;
+    const clocks = core.zone(zone), day = core.date(date, 'date');
+    const isDay = core.ask(() => this.#c.velmora_civil_day(clocks, day, core.answer, core.answer + 8));
+    return isDay ? {start: core.instant(core.answer), end: core.instant(core.answer + 8)} : undefined;
   }
 
   offset(zone, at) {
     const core = this.#core;
-    core.ask(this.#c._velmora_zone_offset, core.zone(zone), seconds(at, 'at'), core.answer);
+    core.ask(() => this.#c.velmora_zone_offset(core.zone(zone), seconds(at, 'at'), core.answer));
     return core.integer(core.answer);
   }
 
   #between(from, to, size, read, operation) {
-    return this.#core.list(size, read, operation, seconds(from, 'from'), seconds(to, 'to'));
+    const start = seconds(from, 'from'), end = seconds(to, 'to');
+    return this.#core.list(size, read, (...list) => operation(start, end, ...list));
   }
 
   /** One answer an instant. Where C has no number for one, there is none in the list either: it is thrown. */
@@ -262,7 +280,7 @@ class Almanac {
     core.grown(times.length * (8 + size));
     times.forEach((time, index) => core.setDouble(core.items + 8 * index, time));
     const answers = core.items + 8 * times.length;
-    ask(core.items, times.length, answers);
+    core.ask(() => ask(core.items, times.length, answers));
     return core.read(answers, times.length, size, (core, at) => {
       if (Number.isNaN(core.double(at))) throw new RangeError('at lies outside the years 1900 to 2100');
       return read(core, at);
@@ -271,5 +289,5 @@ class Almanac {
 }
 
 export async function load(options) {
-  return new Almanac(await open(start, options, new URL('./almanac.wasm', import.meta.url)));
+  return new Almanac(await open(functions, options, new URL('./almanac.wasm', import.meta.url)));
 }

@@ -1,4 +1,4 @@
-import start from 'velmora-calendar-module';
+import functions from 'velmora-calendar-imports';
 import {choice, integer, open} from './core.js';
 
 const phases = ['full', 'firstQuarter', 'lastQuarter', 'new', 'waxingCrescent', 'waxingGibbous', 'waningGibbous',
@@ -45,25 +45,26 @@ class Calendar {
 
   constructor(core) {
     this.#core = core;
-    this.#c = core.module;
+    this.#c = core.c;
   }
 
   get version() { return this.#core.version; }
 
   month(zone, year, month) {
     const core = this.#core;
-    return core.list(CALENDAR_DAY, calendarDay, this.#c._velmora_calendar_month, core.zone(zone),
-      integer(year, 'year'), integer(month, 'month'));
+    const clocks = core.zone(zone);
+    return core.list(CALENDAR_DAY, calendarDay, (...list) => this.#c.velmora_calendar_month(clocks,
+      integer(year, 'year'), integer(month, 'month'), ...list));
   }
 
   riseSet(place, zone, date, twilight = 'civil') {
     const core = this.#core;
-    core.ask(this.#c._velmora_rise_set, core.place(place), core.zone(zone), core.date(date, 'date'),
-      choice(twilights, twilight, 'twilight'), core.answer);
+    core.ask(() => this.#c.velmora_rise_set(core.place(place), core.zone(zone), core.date(date, 'date'),
+      choice(twilights, twilight, 'twilight'), core.answer));
     return riseSetRecord(core, core.answer);
   }
 }
 
 export async function load(options) {
-  return new Calendar(await open(start, options, new URL('./calendar.wasm', import.meta.url)));
+  return new Calendar(await open(functions, options, new URL('./calendar.wasm', import.meta.url)));
 }

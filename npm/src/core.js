@@ -7,6 +7,8 @@ const PLACE = 0, DATE = 24, LAST_DATE = 40, CONVENTION = 56, COUNT = 80, EVENT_C
 const scratchSize = 416;
 const mostMemory = 2 ** 31;
 
+const decoder = new TextDecoder(), encoder = new TextEncoder();
+
 /** The module compiled, of what is given or of the file at the URL. */
 async function compiled(given, url) {
   if (given instanceof WebAssembly.Module) return given;
@@ -23,59 +25,93 @@ async function bytesOf(url) {
   return response.arrayBuffer();
 }
 
-/** Starts the module, of which `start` is emscripten's part. */
-export async function open(start, {wasm} = {}, url) {
-  const module = await compiled(wasm, url);
-  return new Core(await start({
-    instantiateWasm(imports, received) {
-      WebAssembly.instantiate(module, imports).then(received);
-      return {};
+/** Starts the module; `functionsOf` makes the functions that it imports. */
+export async function open(functionsOf, {wasm} = {}, url) {
+  const core = new Core();
+  const env = functionsOf({
+    UTF8ToString: at => core.text(at),
+    allocateUTF8: text => core.write(text, core.c.malloc(3 * text.length + 1)),
+  });
+  env.emscripten_notify_memory_growth = () => core.look();
+  const wasi_snapshot_preview1 = {
+    proc_exit() { throw new Error('the library failed'); },
+    environ_sizes_get(count, size) { // nothing is set
+      core.setInteger(count, 0);
+      core.setInteger(size, 0);
+      return 0;
     },
-  }));
+    environ_get: () => 0,
+  };
+  const {exports} = await WebAssembly.instantiate(await compiled(wasm, url), {env, wasi_snapshot_preview1});
+  core.start(exports);
+  return core;
 }
 
 export class Core {
-  constructor(module) {
-    this.module = module;
-    this.scratch = module._malloc(scratchSize);
+  /** Of what the module exports. */
+  start(exports) {
+    this.c = exports;
+    this.look();
+    exports._initialize();
+    this.top = exports.stackSave();
     this.zones = new Map();
+    this.scratch = exports.malloc(scratchSize);
     this.reserve(4096);
   }
 
-  get version() { return this.module.UTF8ToString(this.module._velmora_version()); }
+  /** Memory that has grown is looked at anew. */
+  look() {
+    const {buffer} = this.c.memory;
+    this.bytes = new Uint8Array(buffer);
+    this.integers = new Int32Array(buffer);
+    this.doubles = new Float64Array(buffer);
+  }
+
+  get version() { return this.text(this.c.velmora_version()); }
   get answer() { return this.scratch + ANSWER; }
+  get convention() { return this.scratch + CONVENTION; }
+  get count() { return this.scratch + COUNT; }
+  get eventCount() { return this.scratch + EVENT_COUNT; }
 
-  // Memory may have moved since it was last looked at.
-  double(at) { return this.module.HEAPF64[at >> 3]; }
-  integer(at) { return this.module.HEAP32[at >> 2]; }
-  text(at) { return this.module.UTF8ToString(at); }
-  setDouble(at, value) { this.module.HEAPF64[at >> 3] = value; }
-  setInteger(at, value) { this.module.HEAP32[at >> 2] = value; }
+  double(at) { return this.doubles[at >> 3]; }
+  integer(at) { return this.integers[at >> 2]; }
+  text(at) { return decoder.decode(this.bytes.subarray(at, this.bytes.indexOf(0, at))); }
+  instant(at) { return new Date(Math.round(this.doubles[at >> 3] * 1000)); }
+  setDouble(at, value) { this.doubles[at >> 3] = value; }
+  setInteger(at, value) { this.integers[at >> 2] = value; }
 
-  /** Calls an operation: false where what is asked for does not exist; what is wrong is thrown. */
-  ask(operation, ...given) {
-    const top = this.module.stackSave();
+  /** Writes the text where there is room for three bytes a character and one more. */
+  write(text, at) {
+    const {written} = encoder.encodeInto(text, this.bytes.subarray(at));
+    this.bytes[at + written] = 0;
+    return at;
+  }
+
+  /** Does what calls an operation: false where what is asked for does not exist; what is wrong is thrown. */
+  ask(operation) {
     try {
-      operation(...given);
+      operation();
       return true;
     } catch (error) {
-      this.module.stackRestore(top);
+      this.c.stackRestore(this.top);
       if (error.status === NONE) return false;
       throw error;
     }
   }
 
   /** The items of a list that an operation fills, each of that size. */
-  list(size, read, operation, ...given) {
-    const count = this.scratch + COUNT;
+  list(size, read, operation) {
+    const {count} = this;
     do {
-      this.ask(operation, ...given, this.items, Math.floor(this.room / size), count);
+      this.ask(() => operation(this.items, Math.floor(this.room / size), count));
     } while (this.grown(size * this.integer(count)));
     return this.read(this.items, this.integer(count), size, read);
   }
 
   read(first, count, size, read) {
-    return Array.from({length: count}, (_, index) => read(this, first + index * size));
+    const items = [];
+    for (let index = 0; index < count; ++index) items.push(read(this, first + index * size));
+    return items;
   }
 
   /** Whether more room was needed, which there is now. */
@@ -86,8 +122,8 @@ export class Core {
   }
 
   reserve(size) {
-    this.module._free(this.items ?? 0);
-    this.items = size <= mostMemory ? this.module._malloc(size) : 0;
+    this.c.free(this.items ?? 0);
+    this.items = size <= mostMemory ? this.c.malloc(size) : 0;
     this.room = this.items ? size : 0;
     if (!this.items) throw new RangeError('more is asked for than memory holds');
   }
@@ -95,16 +131,16 @@ export class Core {
   /** The handle of a zone; kept, as there are few. */
   zone(name) {
     if (typeof name !== 'string') throw new TypeError('zone is no text');
-    if (!this.zones.has(name)) this.zones.set(name, this.openedZone(name));
-    return this.zones.get(name);
+    let zone = this.zones.get(name);
+    if (zone === undefined) this.zones.set(name, zone = this.openedZone(name));
+    return zone;
   }
 
   openedZone(name) {
     if (name.includes('\0')) throw new RangeError('there is no zone of that name');
-    const size = 3 * name.length + 1;
-    this.grown(size);
-    this.module.stringToUTF8(name, this.items, size);
-    this.ask(this.module._velmora_zone_open, this.items, this.answer);
+    this.grown(3 * name.length + 1);
+    this.write(name, this.items);
+    this.ask(() => this.c.velmora_zone_open(this.items, this.answer));
     return this.integer(this.answer);
   }
 
@@ -123,15 +159,11 @@ export class Core {
 
   dateAt(at, date, name) {
     if (typeof date !== 'object' || date === null) throw new TypeError(`${name} is no date of year, month, day`);
-    [date.year, date.month, date.day].forEach((part, index) => {
-      this.setInteger(at + 4 * index, integer(part, name));
-    });
+    this.setInteger(at, integer(date.year, name));
+    this.setInteger(at + 4, integer(date.month, name));
+    this.setInteger(at + 8, integer(date.day, name));
     return at;
   }
-
-  get convention() { return this.scratch + CONVENTION; }
-  get count() { return this.scratch + COUNT; }
-  get eventCount() { return this.scratch + EVENT_COUNT; }
 }
 
 export function number(value, name) {
@@ -141,9 +173,7 @@ export function number(value, name) {
 
 /** A number that C can take whole. */
 export function integer(value, name) {
-  if (!Number.isInteger(number(value, name)) || value !== (value | 0)) {
-    throw new RangeError(`${name} is ${value}; whole numbers are taken`);
-  }
+  if (number(value, name) !== (value | 0)) throw new RangeError(`${name} is ${value}; whole numbers are taken`);
   return value;
 }
 

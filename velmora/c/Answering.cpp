@@ -15,30 +15,32 @@ char (&keptMessage() noexcept)[longestMessage] {
 }
 
 void checkNumber(double value, const char* name) {
-  if (!std::isfinite(value)) throw Refusal{VELMORA_BAD_ARGUMENT, std::string(name) + " is no finite number"};
+  if (!std::isfinite(value)) endWith(VELMORA_BAD_ARGUMENT, {name, " is no finite number"});
 }
 
 [[noreturn]] void refuseYears(const char* name) {
-  throw Refusal{VELMORA_OUT_OF_YEARS, std::string(name) + " lies outside the years 1900 to 2100"};
+  endWith(VELMORA_OUT_OF_YEARS, {name, " lies outside the years 1900 to 2100"});
 }
 
 }  // namespace
 
-velmora_status refuse(velmora_status status, std::string_view message) noexcept {
-  copyText(message, keptMessage());
+velmora_status refuse(velmora_status status, Words message) noexcept {
+  char joined[2 * longestMessage];
+  std::size_t length = 0;
+  for (const std::string_view word : message) length += word.copy(joined + length, sizeof joined - length);
+  copyText({joined, length}, keptMessage());
   return status;
 }
 
 void checkRange(double value, int low, int high, const char* name) {
   if (value >= low && value <= high) return;
-  throw Refusal{VELMORA_BAD_ARGUMENT,
-                std::string(name) + " lies outside " + std::to_string(low) + " to " + std::to_string(high)};
+  endWith(VELMORA_BAD_ARGUMENT, {name, " lies outside ", std::to_string(low), " to ", std::to_string(high)});
 }
 
 int choiceOf(int number, int choices, const char* name) {
   if (number >= 0 && number < choices) return number;
-  throw Refusal{VELMORA_BAD_ARGUMENT, std::string(name) + " is " + std::to_string(number) +
-                                          "; it is one of 0 to " + std::to_string(choices - 1)};
+  endWith(VELMORA_BAD_ARGUMENT,
+          {name, " is ", std::to_string(number), "; it is one of 0 to ", std::to_string(choices - 1)});
 }
 
 almanac::Place placeOf(const velmora_place* place) {
@@ -64,7 +66,7 @@ std::pair<Instant, Instant> coveredInterval(double from, double to) {
   const Instant start = coveredInstant(from, "from");
   checkNumber(to, "to");
   const Instant end = instantFromUnixSeconds(to);
-  if (end < start) throw Refusal{VELMORA_BAD_ARGUMENT, "to lies before from"};
+  if (end < start) endWith(VELMORA_BAD_ARGUMENT, {"to lies before from"});
   if (end > ephemeris::endInstant()) refuseYears("to");
   return {start, end};
 }

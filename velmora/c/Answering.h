@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
-#include <exception>
+#include <initializer_list>
 #include <limits>
-#include <optional>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <utility>
 
 #include <velmora/almanac/Place.h>
@@ -22,38 +22,34 @@ namespace c {
 
 constexpr double none = std::numeric_limits<double>::quiet_NaN();
 
-/// Why an operation ends before its answer: a status and what was wrong.
-struct Refusal {
-  velmora_status status;
-  std::string message;
-};
+/// A message in pieces.
+using Words = std::initializer_list<std::string_view>;
 
 /// Keeps the message for this thread and returns the status.
-velmora_status refuse(velmora_status status, std::string_view message) noexcept;
+velmora_status refuse(velmora_status status, Words message) noexcept;
 
-/// Runs an operation: its status, or that of the refusal or failure that it ends with. No exception leaves.
+/// Ends the operation before its answer: a status and what was wrong.
+[[noreturn]] void endWith(velmora_status status, Words message);
+
+/// Runs an operation: its status, or that with which it ended or failed. No exception leaves.
+velmora_status run(velmora_status (*operation)(void*), void* context) noexcept;
 template <class Operation>
 velmora_status answering(Operation&& operation) noexcept {
-  try {
-    return std::forward<Operation>(operation)();
-  } catch (const Refusal& refusal) {
-    return refuse(refusal.status, refusal.message);
-  } catch (const std::exception& failure) {
-    return refuse(VELMORA_FAILED, failure.what());
-  }
+  return run([](void* context) { return (*static_cast<std::remove_reference_t<Operation>*>(context))(); },
+             &operation);
 }
 
 /// Refuses a null pointer of that name.
 template <class Value>
 Value& given(Value* pointer, const char* name) {
-  if (!pointer) throw Refusal{VELMORA_BAD_ARGUMENT, std::string(name) + " is a null pointer"};
+  if (!pointer) endWith(VELMORA_BAD_ARGUMENT, {name, " is a null pointer"});
   return *pointer;
 }
 
 /// Refuses a list with room but without a place for it.
 template <class Item>
 void checkRoom(const Item* items, std::size_t capacity, const char* name) {
-  if (!items && capacity > 0) throw Refusal{VELMORA_BAD_ARGUMENT, std::string(name) + " is a null pointer"};
+  if (!items && capacity > 0) endWith(VELMORA_BAD_ARGUMENT, {name, " is a null pointer"});
 }
 
 /// Refuses a number outside [low, high], and what is no number.
@@ -85,7 +81,7 @@ velmora_status fill(const Source& source, Item* items, std::size_t capacity, std
   for (std::size_t i = 0; i < filled; ++i) items[i] = convert(source[i]);
   counted = source.size();
   if (filled == source.size()) return VELMORA_OK;
-  return refuse(VELMORA_MORE, "the list is longer than the room given for it");
+  return refuse(VELMORA_MORE, {"the list is longer than the room given for it"});
 }
 
 }  // namespace c

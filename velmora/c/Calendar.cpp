@@ -28,10 +28,10 @@ GeoLocationData locationOf(const almanac::Place& place, const TimeZone& zone) {
 
 std::shared_ptr<const YearTable> tableFor(int year) {
   if (year < firstTableYear || year > lastTableYear) {
-    throw Refusal{VELMORA_OUT_OF_YEARS, "the phase calendar covers the years 2000 to 2040"};
+    endWith(VELMORA_OUT_OF_YEARS, {"the phase calendar covers the years 2000 to 2040"});
   }
   auto table = tableOfYear(year);
-  if (!table) throw Refusal{VELMORA_NO_DATA, "the table of " + std::to_string(year) + " cannot be read"};
+  if (!table) endWith(VELMORA_NO_DATA, {"the table of ", std::to_string(year), " cannot be read"});
   return table;
 }
 

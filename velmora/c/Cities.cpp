@@ -27,7 +27,7 @@ velmora_status velmora_cities(const char* name, velmora_city* cities, size_t cap
   return answering([&] {
     const CityTable table = CityTable::shipped();
     const auto found = table.named(&given(name, "name"));
-    if (table.size() == 0) throw Refusal{VELMORA_NO_DATA, "the table of cities cannot be read"};
+    if (table.size() == 0) endWith(VELMORA_NO_DATA, {"the table of cities cannot be read"});
     return fill(found, cities, capacity, count, "cities", cityOf);
   });
 }

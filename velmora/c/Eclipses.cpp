@@ -72,7 +72,7 @@ velmora_status velmora_seen_from(const velmora_eclipse* eclipse, const velmora_p
   return answering([&] {
     velmora_local_eclipse& answer = given(local, "local");
     const auto seen = almanac::seenFrom(eclipseOf(given(eclipse, "eclipse")), placeOf(place));
-    if (!seen) throw Refusal{VELMORA_NONE, "the eclipse does not touch the place"};
+    if (!seen) endWith(VELMORA_NONE, {"the eclipse does not touch the place"});
     answer = localOf(*seen);
     return VELMORA_OK;
   });

@@ -13,8 +13,7 @@ constexpr int mostThreads = 1024;
 
 almanac::EventChoice choiceOfEvents(std::uint32_t choice) {
   constexpr std::uint32_t known = VELMORA_WITH_TWILIGHT | VELMORA_WITH_TRANSITS;
-  if ((choice & ~known) != 0)
-    throw Refusal{VELMORA_BAD_ARGUMENT, "choice holds more than twilight and transits"};
+  if ((choice & ~known) != 0) endWith(VELMORA_BAD_ARGUMENT, {"choice holds more than twilight and transits"});
   return {.twilight = (choice & VELMORA_WITH_TWILIGHT) != 0,
           .transits = (choice & VELMORA_WITH_TRANSITS) != 0};
 }
@@ -24,7 +23,7 @@ almanac::Convention conventionOf(const velmora_convention* convention) {
   constexpr double most = 10.0;
   const auto isAngle = [](double degrees) { return degrees >= 0.0 && degrees <= most; };
   if (!isAngle(convention->horizon_refraction) || !isAngle(convention->sun_semidiameter)) {
-    throw Refusal{VELMORA_BAD_ARGUMENT, "an angle of the convention lies outside 0 to 10 degrees"};
+    endWith(VELMORA_BAD_ARGUMENT, {"an angle of the convention lies outside 0 to 10 degrees"});
   }
   return {.limb = static_cast<almanac::Convention::Limb>(choiceOf(convention->limb, 3, "limb")),
           .horizonRefraction = convention->horizon_refraction,
@@ -77,7 +76,7 @@ velmora_status velmora_events(const velmora_place* place, double start, double e
     const auto [from, to] = coveredInterval(start, end);
     const auto answer =
         almanac::day(placeOf(place), from, to, choiceOfEvents(choice), conventionOf(convention));
-    if (!answer) throw Refusal{VELMORA_BAD_ARGUMENT, "the interval is empty"};
+    if (!answer) endWith(VELMORA_BAD_ARGUMENT, {"the interval is empty"});
     const velmora_status status = fill(answer->events, events, capacity, count, "events", eventOf);
     if (day) *day = dayOf(*answer, 0);
     return status;
@@ -90,7 +89,7 @@ velmora_status velmora_days(const velmora_place* place, const velmora_zone* zone
                             size_t event_capacity, size_t* event_count) {
   return answering([&] {
     const auto from = dateOf(first, "first"), to = dateOf(last, "last");
-    if (to < from) throw Refusal{VELMORA_BAD_ARGUMENT, "last lies before first"};
+    if (to < from) endWith(VELMORA_BAD_ARGUMENT, {"last lies before first"});
     const auto answers = almanac::days(placeOf(place), zoneOf(zone), from, to, choiceOfEvents(choice),
                                        conventionOf(convention));
     std::vector<velmora_day> made;
@@ -124,7 +123,7 @@ velmora_status velmora_at_places(const velmora_place* places, size_t count, doub
     const almanac::EventChoice riseAndSet = {.twilight = false, .transits = false};
     if (!almanac::forEachPlace(taken, from, to, keep, almanac::onThreads(threads), riseAndSet,
                                conventionOf(convention))) {
-      throw Refusal{VELMORA_BAD_ARGUMENT, "the interval is empty"};
+      endWith(VELMORA_BAD_ARGUMENT, {"the interval is empty"});
     }
     return VELMORA_OK;
   });
@@ -137,7 +136,7 @@ velmora_status velmora_next(const velmora_place* place, int32_t body, int32_t ki
     const auto wanted = static_cast<almanac::EventKind>(choiceOf(kind, kindsOfEvents, "kind"));
     const auto answer = almanac::next(placeOf(place), bodyOf(body), wanted, coveredInstant(after, "after"),
                                       conventionOf(convention));
-    if (!answer) throw Refusal{VELMORA_NONE, "there is no such event within a year"};
+    if (!answer) endWith(VELMORA_NONE, {"there is no such event within a year"});
     found = eventOf(*answer);
     return VELMORA_OK;
   });

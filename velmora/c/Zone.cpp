@@ -15,10 +15,10 @@ std::chrono::year_month_day dateOf(velmora_date date, const char* name) {
                                         std::chrono::month(static_cast<unsigned>(date.month)),
                                         std::chrono::day(static_cast<unsigned>(date.day)));
   if (!isCounted || !day.ok()) {
-    throw Refusal{VELMORA_BAD_ARGUMENT, std::string(name) + " is no day of the calendar"};
+    endWith(VELMORA_BAD_ARGUMENT, {name, " is no day of the calendar"});
   }
   if (date.year < 1900 || date.year > 2100) {
-    throw Refusal{VELMORA_OUT_OF_YEARS, std::string(name) + " lies outside the years 1900 to 2100"};
+    endWith(VELMORA_OUT_OF_YEARS, {name, " lies outside the years 1900 to 2100"});
   }
   return day;
 }
@@ -35,7 +35,7 @@ velmora_status velmora_zone_open(const char* name, velmora_zone** zone) {
   return answering([&] {
     velmora_zone*& opened = given(zone, "zone");
     const auto found = TimeZone::named(&given(name, "name"));
-    if (!found) throw Refusal{VELMORA_BAD_ARGUMENT, "there is no zone of the name " + std::string(name)};
+    if (!found) endWith(VELMORA_BAD_ARGUMENT, {"there is no zone of the name ", name});
     opened = new velmora_zone{*found};
     return VELMORA_OK;
   });
@@ -56,7 +56,7 @@ velmora_status velmora_civil_day(const velmora_zone* zone, velmora_date date, do
     double& from = given(start, "start");
     double& to = given(end, "end");
     const auto interval = almanac::civilDay(zoneOf(zone), dateOf(date, "date"));
-    if (!interval) throw Refusal{VELMORA_NONE, "the zone's clocks skipped that day"};
+    if (!interval) endWith(VELMORA_NONE, {"the zone's clocks skipped that day"});
     from = secondsOf(interval->start);
     to = secondsOf(interval->end);
     return VELMORA_OK;

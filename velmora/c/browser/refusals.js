@@ -1,10 +1,8 @@
-// In WebAssembly nothing catches what is thrown, which would cost every call: it leaves the module as an error of
-// JavaScript with the status that the operation would have ended with.
+// In WebAssembly nothing catches what is thrown, which would cost every call: an operation that ends without an
+// answer leaves the module as an error of JavaScript with its status.
 mergeInto(LibraryManager.library, {
-  __cxa_throw__deps: ['velmora_thrown', 'velmora_message'],
-  __cxa_throw: function(thrown, type) {
-    var status = _velmora_thrown(thrown, type);
+  velmora_end: function(status, message) {
     var Kind = status == 5 || status == 6 ? Error : RangeError; // VELMORA_NO_DATA, VELMORA_FAILED
-    throw Object.assign(new Kind(UTF8ToString(_velmora_message())), {status: status});
+    throw Object.assign(new Kind(UTF8ToString(message)), {status: status});
   },
 });
