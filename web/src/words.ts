@@ -25,16 +25,25 @@ export function setTexts(translations: Partial<Record<string, string>>): void {
   texts = translations;
 }
 
+/** Nothing for a wish that is no language tag: browsers hand on what the system says, such as "C". */
+function localeOf(wish: string): Intl.Locale | undefined {
+  try {
+    return new Intl.Locale(wish).maximize();
+  } catch {
+    return undefined;
+  }
+}
+
+/** The language of a wish, if the library writes in it. */
+function languageOf(wish: string): Language | undefined {
+  const locale = localeOf(wish);
+  return locale && (languages.find((language) => language === `${locale.language}-${locale.script}`) ??
+    languages.find((language) => language === locale.language));
+}
+
 /** The first of the wished languages, BCP 47 with or without a region, that there is; else English. */
 export function languageFor(wishes: readonly string[]): Language {
-  for (const wish of wishes) {
-    const locale = new Intl.Locale(wish).maximize();
-    const found =
-      languages.find((language) => language === `${locale.language}-${locale.script}`) ??
-      languages.find((language) => language === locale.language);
-    if (found) return found;
-  }
-  return "en";
+  return wishes.map(languageOf).find((language) => language !== undefined) ?? "en";
 }
 
 export function isRightToLeft(language: Language): boolean {
@@ -43,5 +52,5 @@ export function isRightToLeft(language: Language): boolean {
 
 /** The language with the region of the wish that led to it: "de-AT". */
 export function localeFor(language: Language, wishes: readonly string[]): string {
-  return wishes.find((wish) => languageFor([wish]) === language) ?? language;
+  return wishes.find((wish) => languageOf(wish) === language) ?? language;
 }

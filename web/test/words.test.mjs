@@ -45,3 +45,14 @@ test("ALanguageIsFoundByItsRegionAndScript", () => {
   assert.equal(localeFor("de", ["fi", "de-AT"]), "de-AT");
   assert.equal(localeFor("ja", ["de-AT"]), "ja");
 });
+
+test("DatesAreInTheLanguageOfTheTexts", () => {
+  assert.equal(localeFor("en", ["fi"]), "en");
+  assert.equal(localeFor("en", ["fi", "en-GB"]), "en-GB");
+});
+
+test("AWishThatIsNoLanguageIsPassedOver", () => {
+  assert.equal(languageFor(["C", "", "ja-JP"]), "ja");
+  assert.equal(languageFor(["C"]), "en");
+  assert.equal(localeFor("en", ["C"]), "en");
+});
