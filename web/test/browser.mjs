@@ -4,13 +4,16 @@ import { tmpdir } from "node:os";
 import { join } from "node:path";
 import puppeteer from "puppeteer-core";
 
+/** Chromium does not start for root with its sandbox. */
+const sandbox = process.getuid() === 0 ? ["--no-sandbox"] : [];
+
 export async function launch(flags = []) {
   return puppeteer.launch({
     executablePath: process.env.CHROMIUM ?? "/usr/bin/chromium",
     headless: true,
     userDataDir: await mkdtemp(join(tmpdir(), "velmora-chromium-")),
     args: [
-      "--no-sandbox", "--disable-gpu", "--disable-quic", "--no-first-run", "--disable-background-networking",
+      ...sandbox, "--disable-gpu", "--disable-quic", "--no-first-run", "--disable-background-networking",
       "--disable-component-update", "--disable-sync", "--disable-dev-shm-usage", ...flags,
     ],
   });
