@@ -8,6 +8,7 @@
 #include <velmora/views/OncePerProcess.h>
 #include <web/host/Calendars.h>
 #include <web/host/Colors.h>
+#include <web/host/Posters.h>
 #include <web/host/SkyViews.h>
 
 namespace velmora::web {
@@ -39,9 +40,9 @@ std::vector<AccessibilityElement> elementsOf(View& view) {
 
 std::unique_ptr<HostedView> HostedView::named(std::string_view name) {
   static const std::map<std::string_view, std::unique_ptr<HostedView> (*)()> makers = {
-      {"month", makeMonth},       {"year", makeYear},         {"riseset", makeRiseSet},
-      {"pictures", makePictures}, {"compass", makeCompass},   {"arc", makeArc},
-      {"disc", makeDisc},         {"timeline", makeTimeline}, {"chart", makeChart}};
+      {"month", makeMonth},     {"year", makeYear},   {"riseset", makeRiseSet},   {"pictures", makePictures},
+      {"compass", makeCompass}, {"arc", makeArc},     {"disc", makeDisc},         {"timeline", makeTimeline},
+      {"chart", makeChart},     {"night", makeNight}, {"darkness", makeDarkness}, {"poster", makePoster}};
   const auto found = makers.find(name);
   return found == makers.end() ? nullptr : found->second();
 }

@@ -59,6 +59,7 @@ bool Session::select(double latitude, double longitude, const std::string& name,
   location->SetLocation(latitude, longitude, name, zone, 0, false);
   if (!almanac::isValid({latitude, longitude, 0}) || !location->timezone || !isInTables(day)) return false;
   _location = std::move(location);
+  _placeName = name;
   TimeZone::setDefault(_location->timezone);
   ProcessValues::resetAll();
   const Instant start =

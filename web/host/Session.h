@@ -41,6 +41,7 @@ class Session {
   bool selectDay(Date day);
 
   almanac::Place place() const { return {_location->latitude, _location->longitude, 0}; }
+  const std::string& placeName() const { return _placeName; }
   const TimeZone& zone() const { return *_location->timezone; }
   Date day() const;
   Date today() const;
@@ -59,6 +60,7 @@ class Session {
 
   Settings _settings;
   std::shared_ptr<GeoLocationData> _location = GeoLocationData::DefaultLocation();
+  std::string _placeName;
   std::int64_t _generation = 0;
   std::vector<std::string> _announcements;
 };

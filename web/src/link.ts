@@ -2,7 +2,7 @@ import { type Day, dayOfText, dayText, isKnown } from "./days";
 import type { Place } from "./velmora";
 
 export const viewNames = [
-  "today", "month", "year", "riseset", "sky", "eclipses", "pictures", "place", "settings",
+  "today", "month", "year", "riseset", "sky", "eclipses", "pictures", "posters", "place", "settings",
 ] as const;
 export type ViewName = (typeof viewNames)[number];
 

@@ -4,6 +4,7 @@ import { Shell, viewTitles } from "./shell";
 import { monthScreen, picturesScreen, riseSetScreen, yearScreen } from "./screens/calendar";
 import { eclipsesScreen } from "./screens/eclipses";
 import { placeScreen } from "./screens/place";
+import { postersScreen } from "./screens/posters";
 import type { Screen } from "./screens/screen";
 import { settingsScreen } from "./screens/settings";
 import { skyScreen } from "./screens/sky";
@@ -22,6 +23,7 @@ function makeScreen(app: App, shell: Shell): Screen {
     case "pictures": return picturesScreen(app);
     case "sky": return skyScreen(app, warn);
     case "eclipses": return eclipsesScreen(app);
+    case "posters": return postersScreen(app);
     case "place": return placeScreen(app, warn);
     case "settings": return settingsScreen(app);
   }
@@ -92,7 +94,7 @@ export async function startPage(surroundings: Surroundings): Promise<(takeOver: 
   changed("all");
   if (app.linkFault) shell.warn(faultText(app));
 
-  printViews(app, () => screen?.view);
+  printViews(app, () => screen?.view ? [screen.view, ...(screen.furtherViews ?? [])] : []);
   addEventListener("hashchange", () => {
     app.followAddress();
     if (app.linkFault) shell.warn(faultText(app));

@@ -2,18 +2,21 @@ import type { App } from "./app";
 import { h } from "./dom";
 import type { HostedView } from "./velmora";
 
-/** On paper a view stands as a drawing, in the colours of the light: canvases print coarsely, if at all. */
-export function printViews(app: App, shown: () => HostedView | undefined): void {
-  let printed: HTMLElement | undefined;
+/** On paper views stand as drawings, in the colours of the light: canvases print coarsely, if at all. */
+export function printViews(app: App, shown: () => readonly HostedView[]): void {
+  let printed: HTMLElement[] = [];
   addEventListener("beforeprint", () => {
-    const view = shown();
-    if (!view) return;
+    const views = shown();
+    if (views.length === 0) return;
     const { settings } = app.moon;
     app.moon.configure({ ...settings, theme: "light" });
-    const drawing = new DOMParser().parseFromString(view.svg(), "image/svg+xml");
+    printed = views.map((view) => {
+      const drawing = new DOMParser().parseFromString(view.svg(), "image/svg+xml");
+      const holder = h("div", { class: "printed", "aria-hidden": "true" }, document.importNode(drawing.documentElement, true));
+      view.canvas.after(holder);
+      return holder;
+    });
     app.moon.configure(settings);
-    printed = h("div", { class: "printed", "aria-hidden": "true" }, document.importNode(drawing.documentElement, true));
-    view.canvas.after(printed);
   });
-  addEventListener("afterprint", () => printed?.remove());
+  addEventListener("afterprint", () => printed.forEach((drawing) => drawing.remove()));
 }

@@ -15,7 +15,7 @@ function save(file: Blob, name: string): void {
 
 /** Ways to take what is shown along: link, picture, drawing, calendar, paper. */
 export function openShare(app: App, shell: Shell, screen: Screen): void {
-  const { view } = screen;
+  const { view, pictureWidth } = screen;
   const name = `velmora-${app.view}-${dayText(app.day)}`;
   const link = new URL(app.address(), location.href).href;
   const row = (text: string, act: () => Promise<void> | void): HTMLElement =>
@@ -38,7 +38,8 @@ export function openShare(app: App, shell: Shell, screen: Screen): void {
   ];
   if (view) {
     rows.push(
-      row(t("Save as a picture (PNG)"), async () => save(await view.png(pictureScale), `${name}.png`)),
+      row(t("Save as a picture (PNG)"), async () => save(
+        await view.png(pictureWidth ? pictureWidth / view.size.width : pictureScale), `${name}.png`)),
       row(t("Save as a drawing (SVG)"), () => save(new Blob([view.svg()], { type: "image/svg+xml" }), `${name}.svg`)));
   }
   shell.openSheet(t("Save and share"), rows);

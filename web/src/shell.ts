@@ -6,7 +6,7 @@ import { t, type Text } from "./words";
 
 export const viewTitles: Record<ViewName, Text> = {
   today: "Today", month: "Month", year: "Year", riseset: "Rise and set", sky: "Sky",
-  eclipses: "Eclipses", pictures: "Pictures", place: "Place", settings: "Settings",
+  eclipses: "Eclipses", pictures: "Pictures", posters: "Posters", place: "Place", settings: "Settings",
 };
 
 /** Those that a phone's bar has room for; the others stand behind "More". */

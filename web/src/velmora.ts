@@ -114,7 +114,8 @@ export interface Velmora {
 }
 
 export type ViewKind =
-  | "month" | "year" | "riseset" | "pictures" | "compass" | "arc" | "disc" | "timeline" | "chart";
+  | "month" | "year" | "riseset" | "pictures" | "compass" | "arc" | "disc" | "timeline" | "chart"
+  | "night" | "darkness" | "poster";
 
 export interface ViewOptions {
   /** Year: which moons. */

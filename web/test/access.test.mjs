@@ -1,22 +1,8 @@
 // What a keyboard and a screen reader meet.
 import assert from "node:assert/strict";
-import { readFile } from "node:fs/promises";
-import { createRequire } from "node:module";
 import { after, before, describe, test } from "node:test";
+import { smallTargets, violations } from "./rules.mjs";
 import { at, desktop, drawn, focusedDay, hash, phone, press, Site, settled, text, views } from "./pages.mjs";
-
-const axe = await readFile(createRequire(import.meta.url).resolve("axe-core/axe.min.js"), "utf8");
-
-async function violations(page) {
-  const cdp = await page.createCDPSession();
-  await cdp.send("Runtime.evaluate", { expression: axe });  // past the page's own policy
-  const { result } = await cdp.send("Runtime.evaluate", {
-    expression: `axe.run(document, { runOnly: ["wcag2a", "wcag2aa", "wcag21a", "wcag21aa", "wcag22aa", "best-practice"] })
-      .then(({ violations }) => JSON.stringify(violations.map(({ id, nodes }) => [id, ...nodes.map(({ html, failureSummary }) => html.slice(0, 200) + " :: " + failureSummary)])))`,
-    awaitPromise: true, returnByValue: true,
-  });
-  return JSON.parse(result.value);
-}
 
 describe("Access", () => {
   let site;
@@ -54,13 +40,7 @@ describe("Access", () => {
     const page = await site.visitor();
     for (const view of views) {
       await site.show(page, at(view));
-      const small = await page.$$eval("button, select, input, summary, [role=slider]", (all) => all
-        .filter((one) => one.offsetParent && !one.closest("[hidden]"))
-        .map((one) => [one.outerHTML.slice(0, 120), one.getBoundingClientRect()])
-        .filter(([, { width, height }]) => width > 0 && (height < 43.9 || width < 43.9))
-        .filter(([html]) => !html.includes('role="switch"'))
-        .map(([html, { width, height }]) => `${html} ${width}x${height}`));
-      assert.deepEqual(small, [], view);
+      assert.deepEqual(await smallTargets(page), [], view);
     }
     await page.context.close();
   });

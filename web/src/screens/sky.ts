@@ -109,6 +109,7 @@ export function skyScreen(app: App, warn: (message: string) => void): Screen {
     root,
     title: t("Sky"),
     view: compass.view,
+    furtherViews: [arc.view],
     refresh: (change) => (change === "day" ? showDay() : showMoment()),
     close() {
       stopFollowing();
