@@ -5,9 +5,11 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
 #include <ostream>
 
 #include <velmora/platform/graphics/cairo/CairoColor.h>
+#include <velmora/platform/graphics/cairo/LargePages.h>
 #include <velmora/platform/graphics/cairo/PngWriter.h>
 
 namespace [[gnu::visibility("hidden")]] velmora {
@@ -70,9 +72,13 @@ CairoSurface makeSurface(PictureFormat format, Size size, double scale) {
     const cairo_rectangle_t extents = {0, 0, size.width, size.height};
     return CairoSurface(cairo_recording_surface_create(CAIRO_CONTENT_COLOR_ALPHA, &extents));
   }
-  return CairoSurface(cairo_image_surface_create(CAIRO_FORMAT_ARGB32,
+  CairoSurface pixels(cairo_image_surface_create(CAIRO_FORMAT_ARGB32,
                                                  static_cast<int>(std::lround(size.width * scale)),
                                                  static_cast<int>(std::lround(size.height * scale))));
+  preferLargePages(cairo_image_surface_get_data(pixels.get()),
+                   static_cast<std::size_t>(cairo_image_surface_get_stride(pixels.get())) *
+                       static_cast<std::size_t>(cairo_image_surface_get_height(pixels.get())));
+  return pixels;
 }
 
 double pixelsOfPage(Size size) {
