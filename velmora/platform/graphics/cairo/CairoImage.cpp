@@ -1,14 +1,15 @@
 #include <velmora/platform/graphics/cairo/CairoImage.h>
 
+#include <cstddef>
 #include <memory>
 #include <string>
+#include <utility>
 
 #include <velmora/platform/graphics/cairo/CairoHandles.h>
 
 namespace [[gnu::visibility("hidden")]] velmora {
 namespace {
 
-/// Cairo keeps a pixel as one number of 32 bits: alpha in the highest byte, then red, green and blue.
 std::uint32_t packed(const std::uint8_t* rgba) {
   return static_cast<std::uint32_t>(rgba[3]) << 24 | static_cast<std::uint32_t>(rgba[0]) << 16 |
          static_cast<std::uint32_t>(rgba[1]) << 8 | rgba[2];
@@ -19,12 +20,6 @@ void unpack(std::uint32_t pixel, std::uint8_t* rgba) {
   rgba[1] = static_cast<std::uint8_t>(pixel >> 8);
   rgba[2] = static_cast<std::uint8_t>(pixel);
   rgba[3] = static_cast<std::uint8_t>(pixel >> 24);
-}
-
-std::uint32_t* row(cairo_surface_t* surface, int y) {
-  unsigned char* const start = cairo_image_surface_get_data(surface);
-  return reinterpret_cast<std::uint32_t*>(start + static_cast<std::ptrdiff_t>(y) *
-                                                      cairo_image_surface_get_stride(surface));
 }
 
 /// A PDF or SVG holds what has the same name once, however often and on whichever page it is drawn.
@@ -82,16 +77,19 @@ void paintImage(cairo_t* context, const Image& image, const Rect& rect, double a
   cairo_restore(context);
 }
 
+std::span<std::uint32_t> rowOf(cairo_surface_t* surface, int y) {
+  unsigned char* const start = cairo_image_surface_get_data(surface) +
+                               static_cast<std::ptrdiff_t>(y) * cairo_image_surface_get_stride(surface);
+  return {reinterpret_cast<std::uint32_t*>(start),
+          static_cast<std::size_t>(cairo_image_surface_get_width(surface))};
+}
+
 void copyRow(cairo_surface_t* surface, int y, std::uint8_t* rgba) {
-  const std::uint32_t* const source = row(surface, y);
-  const int width = cairo_image_surface_get_width(surface);
-  for (int x = 0; x < width; ++x, rgba += 4) unpack(source[x], rgba);
+  for (const std::uint32_t pixel : rowOf(surface, y)) unpack(pixel, std::exchange(rgba, rgba + 4));
 }
 
 void setRow(cairo_surface_t* surface, int y, const std::uint8_t* rgba) {
-  std::uint32_t* const target = row(surface, y);
-  const int width = cairo_image_surface_get_width(surface);
-  for (int x = 0; x < width; ++x, rgba += 4) target[x] = packed(rgba);
+  for (std::uint32_t& pixel : rowOf(surface, y)) pixel = packed(std::exchange(rgba, rgba + 4));
 }
 
 std::vector<std::uint8_t> bytesOfSurface(cairo_surface_t* surface) {

@@ -2,11 +2,13 @@
 
 #include <png.h>
 
+#include <algorithm>
 #include <csetjmp>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <ostream>
+#include <span>
 #include <vector>
 
 #include <velmora/platform/graphics/cairo/CairoColor.h>
@@ -22,8 +24,6 @@ constexpr int compressionLevel = 2;
 constexpr int filters = PNG_FILTER_NONE;
 constexpr int bitsPerChannel = 8;
 constexpr unsigned opaque = 255;
-
-using Row = std::vector<std::uint8_t>;  ///< red, green, blue, alpha of each pixel
 
 void stop(png_structp png, png_const_charp) { png_longjmp(png, 1); }
 
@@ -42,14 +42,27 @@ struct PngDeleter {
 };
 using Png = std::unique_ptr<png_struct, PngDeleter>;
 
-/// A PNG keeps colours as they are before alpha scales them.
-void undoPremultiplication(Row& row) {
-  for (std::size_t pixel = 0; pixel < row.size(); pixel += 4) {
-    const unsigned alpha = row[pixel + 3];
-    if (alpha == 0 || alpha == opaque) continue;
-    for (std::size_t channel = pixel; channel < pixel + 3; ++channel) {
-      row[channel] = static_cast<std::uint8_t>((row[channel] * opaque + alpha / 2) / alpha);
+constexpr unsigned alphaOf(std::uint32_t pixel) { return pixel >> 24; }
+
+/// Red, green and blue of opaque pixels.
+void writeColors(std::span<const std::uint32_t> pixels, std::uint8_t* rgb) {
+  for (const std::uint32_t pixel : pixels) {
+    *rgb++ = static_cast<std::uint8_t>(pixel >> 16);
+    *rgb++ = static_cast<std::uint8_t>(pixel >> 8);
+    *rgb++ = static_cast<std::uint8_t>(pixel);
+  }
+}
+
+/// Red, green, blue and alpha. A PNG keeps colours as they are before alpha scales them.
+void writeColorsAndAlpha(std::span<const std::uint32_t> pixels, std::uint8_t* rgba) {
+  for (const std::uint32_t pixel : pixels) {
+    const unsigned alpha = alphaOf(pixel);
+    const bool isScaled = alpha != 0 && alpha != opaque;
+    for (const unsigned shift : {16U, 8U, 0U}) {
+      const unsigned color = pixel >> shift & 0xFF;
+      *rgba++ = static_cast<std::uint8_t>(isScaled ? (color * opaque + alpha / 2) / alpha : color);
     }
+    *rgba++ = static_cast<std::uint8_t>(alpha);
   }
 }
 
@@ -63,16 +76,22 @@ class Rows {
         _background(background),
         _band(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, bandHeight)),
         _context(cairo_create(_band.get())),
-        _row(static_cast<std::size_t>(width) * 4) {}
+        _bytes(static_cast<std::size_t>(width) * 4) {}
 
   const int width, height;
 
   cairo_status_t status() const { return cairo_status(_context.get()); }
 
-  Row& read(int y) {
+  std::span<const std::uint32_t> read(int y) {
     if (y % bandHeight == 0) composeFrom(y);
-    copyRow(_band.get(), y % bandHeight, _row.data());
-    return _row;
+    return rowOf(_band.get(), y % bandHeight);
+  }
+
+  /// The row as a PNG keeps it.
+  const std::uint8_t* read(int y, int colorType) {
+    const auto write = colorType == PNG_COLOR_TYPE_RGB ? writeColors : writeColorsAndAlpha;
+    write(read(y), _bytes.data());
+    return _bytes.data();
   }
 
  private:
@@ -92,14 +111,11 @@ class Rows {
   Color _background;
   CairoSurface _band;
   CairoContext _context;
-  Row _row;
+  std::vector<std::uint8_t> _bytes;
 };
 
-bool isOpaque(const Row& row) {
-  for (std::size_t alpha = 3; alpha < row.size(); alpha += 4) {
-    if (row[alpha] != opaque) return false;
-  }
-  return true;
+bool isOpaque(std::span<const std::uint32_t> row) {
+  return std::all_of(row.begin(), row.end(), [](std::uint32_t pixel) { return alphaOf(pixel) == opaque; });
 }
 
 bool areOpaque(Rows& rows) {
@@ -118,12 +134,7 @@ bool writeRows(png_struct* png, png_info* info, Rows& rows, int colorType) {
                bitsPerChannel, colorType, PNG_INTERLACE_NONE, PNG_COMPRESSION_TYPE_DEFAULT,
                PNG_FILTER_TYPE_DEFAULT);
   png_write_info(png, info);
-  if (colorType == PNG_COLOR_TYPE_RGB) png_set_filler(png, 0, PNG_FILLER_AFTER);  // leaves alpha out
-  for (int y = 0; y < rows.height; ++y) {
-    Row& row = rows.read(y);
-    undoPremultiplication(row);
-    png_write_row(png, row.data());
-  }
+  for (int y = 0; y < rows.height; ++y) png_write_row(png, rows.read(y, colorType));
   png_write_end(png, info);
   return true;
 }
