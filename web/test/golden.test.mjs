@@ -20,6 +20,9 @@ const mostDiffering = 0.001;
 const greenwich = { latitude: 51.48, longitude: 0, name: "Somewhere", zone: "Etc/UTC" };
 const cairo = { latitude: 30.044, longitude: 31.236, name: "Cairo", zone: "Africa/Cairo" };
 const tokyo = { latitude: 35.69, longitude: 139.692, name: "Tokyo", zone: "Asia/Tokyo" };
+const helsinki = { latitude: 60.1699, longitude: 24.9384, name: "Helsinki", zone: "Europe/Helsinki" };
+const capeTown = { latitude: -33.925, longitude: 18.424, name: "Cape Town", zone: "Africa/Johannesburg" };
+const sanFrancisco = { latitude: 37.785, longitude: -122.392, name: "San Francisco", zone: "America/Los_Angeles" };
 const honolulu = { latitude: 21.31, longitude: -157.86, name: "Honolulu", zone: "Pacific/Honolulu" };
 const english = { locale: "en-US", clock: 12, weekStart: 0, secondCalendar: "none", theme: "dark", isTablet: false };
 const date = (year, month, day) => ({ year, month, day });
@@ -45,25 +48,50 @@ const scenes = [
     settings: { ...english, locale: "ja-JP" }, options: { phase: "new" } },
   { name: "picture-month", kind: "pictures", size: [264, 445], day: date(2024, 6, 14), now: "2024-06-14T12:00Z", },
   { name: "position-chart", kind: "chart", size: [480, 480], day: date(2024, 6, 14), now: "2024-06-14T12:00Z" },
+  // As tests/web/PageViewsTest.cpp draws them.
+  { name: "page-riseset", kind: "riseset", size: [390, 560], day: date(2024, 6, 24), place: sanFrancisco },
+  { name: "page-riseset-arabic", kind: "riseset", size: [390, 560], day: date(2024, 6, 14), place: cairo,
+    settings: { ...english, locale: "ar-EG", secondCalendar: "islamic" } },
+  { name: "page-riseset-japanese", kind: "riseset", size: [390, 560], day: date(2024, 6, 20), place: tokyo,
+    settings: { ...english, locale: "ja-JP" } },
+  { name: "page-timeline", kind: "timeline", size: [390, 76], day: date(2025, 9, 7), place: helsinki },
+  { name: "page-timeline-arabic", kind: "timeline", size: [390, 76], day: date(2025, 9, 7), place: cairo,
+    settings: { ...english, locale: "ar-EG" } },
+  { name: "page-compass", kind: "compass", size: [320, 320], day: date(2025, 9, 7), place: helsinki,
+    options: { at: Date.UTC(2025, 8, 7, 21) } },
+  { name: "page-compass-south", kind: "compass", size: [320, 320], day: date(2025, 9, 3), place: capeTown,
+    options: { at: Date.UTC(2025, 8, 3, 10), heading: 135 } },
+  { name: "page-arc", kind: "arc", size: [390, 218], day: date(2025, 9, 7), place: helsinki,
+    options: { at: Date.UTC(2025, 8, 7, 21) } },
+  { name: "page-arc-south", kind: "arc", size: [390, 218], day: date(2025, 9, 3), place: capeTown,
+    options: { at: Date.UTC(2025, 8, 3, 16) } },
+  { name: "page-disc-tilted", kind: "disc", size: [240, 240], day: date(2025, 9, 3), place: helsinki,
+    options: { at: Date.UTC(2025, 8, 3, 18), isTilted: true } },
+  { name: "page-disc-south", kind: "disc", size: [240, 240], day: date(2025, 9, 18), place: capeTown,
+    options: { at: Date.UTC(2025, 8, 18, 3) } },
 ];
 
 /** Draws the scene in the page and compares it with the golden picture there. */
 async function compare({ base, scene, golden, tolerance: most }) {
-  Date.now = () => Date.parse(scene.now);
+  const { year, month, day } = scene.day;
+  Date.now = () => scene.now ? Date.parse(scene.now) : Date.UTC(year, month - 1, day, 12);
   const { loadVelmora } = await import(`${base}load.js`);
   const velmora = await loadVelmora({
     base, settings: scene.settings, place: scene.place, day: scene.day,
   });
   const view = velmora.createView(scene.kind, document.createElement("canvas"), scene.options);
   view.resize(...scene.size, 1);
-  const pixelsOf = async (blob) => {
+  /** A list is longer than the picture: what is seen of it from the top on. */
+  const pixelsOf = async (blob, top = 0, height) => {
     const bitmap = await createImageBitmap(blob);
-    const context = new OffscreenCanvas(bitmap.width, bitmap.height).getContext("2d");
-    context.drawImage(bitmap, 0, 0);
-    return context.getImageData(0, 0, bitmap.width, bitmap.height);
+    const context = new OffscreenCanvas(bitmap.width, height ?? bitmap.height).getContext("2d");
+    context.drawImage(bitmap, 0, -top);
+    return context.getImageData(0, 0, context.canvas.width, context.canvas.height);
   };
   const blob = await view.png(1);
-  const actual = await pixelsOf(blob), expected = await pixelsOf(await (await fetch(golden)).blob());
+  const isList = scene.kind === "riseset";
+  const expected = await pixelsOf(await (await fetch(golden)).blob());
+  const actual = isList ? await pixelsOf(blob, view.scrollOffset, expected.height) : await pixelsOf(blob);
   const { width, height } = expected;
   const picture = await new Promise((done) => {
     const reader = new FileReader();

@@ -1,0 +1,122 @@
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <memory>
+#include <ostream>
+#include <string>
+
+#include <velmora/platform/graphics/cairo/CairoCanvas.h>
+#include <velmora/platform/resources/Bundle.h>
+#include <velmora/platform/time/Clock.h>
+#include <velmora/platform/time/Locale.h>
+#include <velmora/platform/time/TimeZone.h>
+#include <velmora/platform/ui/Device.h>
+#include <velmora/views/AlternateCalendarType.h>
+
+#include "tests/support/GoldenPicture.h"
+#include "tests/support/SourceDirectory.h"
+#include "web/host/HostedView.h"
+#include "web/host/Session.h"
+
+namespace velmora::web {
+namespace {
+
+using namespace std::chrono_literals;
+
+struct City {
+  const char* name;
+  double latitude, longitude;
+  const char* zone;
+};
+
+constexpr City sanFrancisco{"San Francisco", 37.785, -122.392, "America/Los_Angeles"};
+constexpr City cairo{"Cairo", 30.044, 31.236, "Africa/Cairo"};
+constexpr City tokyo{"Tokyo", 35.69, 139.692, "Asia/Tokyo"};
+constexpr City helsinki{"Helsinki", 60.1699, 24.9384, "Europe/Helsinki"};
+constexpr City capeTown{"Cape Town", -33.925, 18.424, "Africa/Johannesburg"};
+
+/// web/test/golden.test.mjs draws the same in a browser.
+struct Scene {
+  const char* name;  ///< of the golden picture
+  const char* kind;
+  Size size;  ///< of the picture: rise and set are longer, and scrolled to the selected day
+  const City& city;
+  Date day;
+  ViewOptions options;
+  Settings settings;
+};
+
+void PrintTo(const Scene& scene, std::ostream* out) { *out << scene.name; }
+
+Instant utc(Date day, std::chrono::minutes time) {
+  return Instant(std::chrono::sys_days(day).time_since_epoch() + time);
+}
+
+const Scene scenes[] = {
+    // A week with a day without moonrise, the Islamic day in place of the weekday, the solstice.
+    {"page-riseset", "riseset", {390, 560}, sanFrancisco, 2024y / 6 / 24, {}, {}},
+    {"page-riseset-arabic",
+     "riseset",
+     {390, 560},
+     cairo,
+     2024y / 6 / 14,
+     {},
+     {.locale = "ar_EG", .secondCalendar = kIslamicUmmAlQuraCalendar}},
+    {"page-riseset-japanese", "riseset", {390, 560}, tokyo, 2024y / 6 / 20, {}, {.locale = "ja_JP"}},
+    {"page-timeline", "timeline", {390, 76}, helsinki, 2025y / 9 / 7, {}, {}},
+    {"page-timeline-arabic", "timeline", {390, 76}, cairo, 2025y / 9 / 7, {}, {.locale = "ar_EG"}},
+    // The Moon above the horizon and below it, the way of the north and the mirrored one of the south.
+    {"page-compass", "compass", {320, 320}, helsinki, 2025y / 9 / 7, {.at = utc(2025y / 9 / 7, 21h)}, {}},
+    {"page-compass-south",
+     "compass",
+     {320, 320},
+     capeTown,
+     2025y / 9 / 3,
+     {.at = utc(2025y / 9 / 3, 10h), .heading = 135},
+     {}},
+    {"page-arc", "arc", {390, 218}, helsinki, 2025y / 9 / 7, {.at = utc(2025y / 9 / 7, 21h)}, {}},
+    {"page-arc-south", "arc", {390, 218}, capeTown, 2025y / 9 / 3, {.at = utc(2025y / 9 / 3, 16h)}, {}},
+    {"page-disc-tilted",
+     "disc",
+     {240, 240},
+     helsinki,
+     2025y / 9 / 3,
+     {.at = utc(2025y / 9 / 3, 18h), .isTilted = true},
+     {}},
+    {"page-disc-south", "disc", {240, 240}, capeTown, 2025y / 9 / 18, {.at = utc(2025y / 9 / 18, 3h)}, {}},
+};
+
+class PageViewsTest : public ::testing::TestWithParam<Scene> {
+ protected:
+  /// The session sets them for all that is drawn.
+  ScopedLocale _locale{"en_US"};
+  ScopedDefaultTimeZone _zone{"Etc/UTC"};
+  ScopedDevice _device{Device()};
+  Session& _session = Session::shared();
+  ScopedMainBundle _resources{sourceDirectory() + "/app/resources"};
+};
+
+TEST_P(PageViewsTest, LooksAsItShould) {
+  const Scene& scene = GetParam();
+  const ScopedNow now(utc(scene.day, 12h));
+  _session.configure(scene.settings);
+  const City& city = scene.city;
+  ASSERT_TRUE(_session.select(city.latitude, city.longitude, city.name, city.zone, scene.day));
+
+  const auto view = HostedView::named(scene.kind);
+  view->resize(scene.size, 1);
+  view->setOptions(scene.options);
+  CairoCanvas canvas(PictureFormat::png, scene.size, 1, view->background());
+  canvas.translate(0, -view->scrollOffset());
+  view->render(canvas);
+  EXPECT_TRUE(testing::looksLikeGolden(canvas, scene.name));
+}
+
+INSTANTIATE_TEST_SUITE_P(Scenes, PageViewsTest, ::testing::ValuesIn(scenes), [](const auto& scene) {
+  std::string name = scene.param.name;
+  std::erase(name, '-');
+  return name;
+});
+
+}  // namespace
+}  // namespace velmora::web
