@@ -4,6 +4,12 @@ function __velmora_offers
     set -l program (string replace -r '^~' $HOME -- $words[1])
     set -l command (string match -rv '^(-|$)' -- "$words[2]")
     set -l help ($program $command --help 2>/dev/null); or return
+    # A view that is named takes a part of the options.
+    if test "$command" = draw
+        for view in (string replace -fr '^  ([a-z]+) .*' '$1' -- $help)
+            contains -- $view $words; and set help ($program draw $view --help)
+        end
+    end
 
     if contains -- $words[-1] --city --tz
         $program --complete (string sub -s 3 -- $words[-1]) (commandline -ct | string trim -c '"\'' | string unescape)

@@ -1,7 +1,9 @@
 #include <app/program/Help.h>
 
+#include <algorithm>
 #include <cctype>
 
+#include <app/request/DrawingOptions.h>
 #include <app/request/Options.h>
 #include <app/text/TextTable.h>
 
@@ -14,10 +16,11 @@ std::string spelled(const Option& option) {
          (option.valueName.empty() ? "" : " " + std::string(option.valueName));
 }
 
-std::string optionsText(const Command& command) {
+std::string optionsText(const Command& command, const DrawableView* view) {
   TextTable table({"Options", ""});
   for (const Option& option : allOptions()) {
     if (!command.takes(option.name) || option.name == command.positional) continue;
+    if (view && isOfOtherViews(option.name, *view)) continue;
     table.add({"  " + spelled(option), std::string(option.help)});
   }
   return table.text(false);
@@ -48,19 +51,33 @@ std::string sentence(std::string_view words) {
   return text;
 }
 
-std::string usageText(const Command& command) {
+std::string usageLine(const Command& command, std::string_view positional) {
   std::string line = "Usage: velmora " + std::string(command.name);
-  if (!command.positional.empty()) line += " " + std::string(findOption(command.positional)->valueName);
+  if (!positional.empty()) line += " " + std::string(positional);
   for (const auto name : command.required) line += " " + spelled(*findOption(name));
-  return line + " [options]\n\n" + sentence(command.summary) + "\n\n" + positionalText(command);
+  return line + " [options]\n\n";
+}
+
+std::string usageText(const Command& command) {
+  const Option* positional = findOption(command.positional);
+  return usageLine(command, positional ? positional->valueName : "") + sentence(command.summary) + "\n\n" +
+         positionalText(command);
+}
+
+std::string viewText(const Command& command, const DrawableView& view) {
+  const auto& options = view.options;
+  const bool takesCalendar = std::find(options.begin(), options.end(), "calendar") != options.end();
+  return usageLine(command, view.name) + sentence(view.summary) + "\n\n" +
+         (takesCalendar ? calendarNotes() + "\n" : "");
 }
 
 }  // namespace
 
-std::string helpText(const Command& command) {
+std::string helpText(const Command& command, const DrawableView* view) {
+  if (view) return viewText(command, *view) + optionsText(command, view);
   const bool answersUnnamed = &command == &allCommands().front();
   const std::string notes = command.notes ? command.notes() + "\n" : "";
-  return (answersUnnamed ? programText() : usageText(command)) + notes + optionsText(command);
+  return (answersUnnamed ? programText() : usageText(command)) + notes + optionsText(command, nullptr);
 }
 
 }  // namespace velmora::app

@@ -38,7 +38,7 @@ bool wantsBold(ColorChoice choice, const std::ostream& out) {
 
 void answer(const Request& request, std::istream& in, std::ostream& out) {
   if (request.help) {
-    out << helpText(*request.command);
+    out << helpText(*request.command, request.drawing.view);
   } else if (request.version) {
     out << "velmora " << VelmoraVersionString << '\n';
   } else if (request.command->name == "batch") {

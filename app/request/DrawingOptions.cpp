@@ -1,6 +1,7 @@
 #include <app/request/DrawingOptions.h>
 
 #include <algorithm>
+#include <string>
 
 #include <app/request/DrawableView.h>
 #include <app/text/Errors.h>
@@ -96,17 +97,17 @@ std::vector<Option> drawingOptions() {
       {"view", "VIEW", "what to draw", viewNames(), Text([](R& r, S& v) { r.drawing.view = view(v); })},
       {.name = "output",
        .valueName = "FILE",
-       .help = "where to (-o for short): .png, .svg, .pdf or - (stdout)",
+       .help = "file to write (-o for short): .png, .svg, .pdf or - (stdout)",
        .accepts = "",
        .read = Text([](R& r, S& v) { r.drawing.output = v; }),
        .letter = 'o'},
       {.name = "pictures",
        .valueName = "FOLDER",
-       .help = "below which lines may draw; without it none may",
+       .help = "where lines may write pictures; without it they cannot",
        .accepts = "",
        .read = Text([](R& r, S& v) { r.drawing.folder = v; }),
        .onlyOnCommandLine = true},
-      {"size", "WxH", "of the picture in points (default: the view's)",
+      {"size", "WxH", "width and height in points (default: the view's own)",
        "width x height in points, such as 390x600, of 1 to 16384 pixels a side, 64 million at most",
        Text([](R& r, S& v) { r.drawing.size = size(v); })},
       {"scale", "NUMBER", "pixels per point of a PNG (default: 1)",
@@ -116,28 +117,28 @@ std::vector<Option> drawingOptions() {
        Text([](R& r, S& v) { r.drawing.background = v; })},
       {"no-title", "", "leave out the date and the place above the view", "",
        Switch([](R& r) { r.drawing.hasTitle = false; })},
-      {"rtl", "", "from right to left, whatever the language is", "",
+      {"rtl", "", "lay out from right to left, whatever the language is", "",
        Switch([](R& r) { r.drawing.isRightToLeft = true; })},
-      {"tablet", "", "as on a tablet", "", Switch([](R& r) { r.drawing.isTablet = true; })},
+      {"tablet", "", "lay out as on a tablet", "", Switch([](R& r) { r.drawing.isTablet = true; })},
       {"theme", "NAME", "colours: calendar or default; of posters: dark or light",
-       "calendar or default, of posters dark or light", Text([](R& r, S& v) { r.drawing.theme = theme(v); })},
+       "calendar, default, dark or light", Text([](R& r, S& v) { r.drawing.theme = theme(v); })},
       {"paper", "NAME", "sheet of a poster: A4 (default), A3, letter or 24x36", "A4, A3, letter or 24x36",
        Text([](R& r, S& v) { r.drawing.paper = paper(v); })},
-      {"landscape", "", "the sheet lies: months are rows", "",
+      {"landscape", "", "turn the sheet on its side: a month is a row", "",
        Switch([](R& r) { r.drawing.isLandscape = true; })},
-      {"align", "NAME", "what days side by side share: date (default) or weekday",
-       "date or weekday", Text([](R& r, S& v) { r.drawing.alignsWeekdays = alignsWeekdays(v); })},
-      {"tilt", "", "the disc as it hangs in the sky of the place", "",
+      {"align", "NAME", "align the days of months by date (default) or weekday", "date or weekday",
+       Text([](R& r, S& v) { r.drawing.alignsWeekdays = alignsWeekdays(v); })},
+      {"tilt", "", "turn the disc as it is seen in the sky of the place", "",
        Switch([](R& r) { r.drawing.isTilted = true; })},
-      {"calendar", "NAME", "days of a second calendar in brackets",
+      {"calendar", "NAME", "also show the day of this calendar, in brackets",
        "hebrew, islamic, buddhist, japanese, chinese or indian",
        Text([](R& r, S& v) { r.drawing.calendar = calendar(v); })},
       {"week-start", "DAY", "first weekday of the month (default: the locale's)",
        "sunday, monday, tuesday, wednesday, thursday, friday or saturday",
        Text([](R& r, S& v) { r.drawing.weekStartDay = weekday(v); })},
-      {"hide-eclipses", "", "no rings around days with an eclipse", "",
+      {"hide-eclipses", "", "draw no rings around days with an eclipse", "",
        Switch([](R& r) { r.drawing.hidesEclipses = true; })},
-      {"heading", "DEGREES", "where one faces, up in the compass (default: 0, north)",
+      {"heading", "DEGREES", "direction you face, at the top (default: 0, north)",
        "-360 to 360 degrees, clockwise from north",
        Number([](R& r, double v) { r.drawing.heading = degreesOfTurn(v); })},
   };
@@ -156,6 +157,8 @@ const std::vector<std::string_view>& viewOptions() {
   return names;
 }
 
+std::string calendarNotes() { return "Calendars: " + std::string(findOption("calendar")->accepts) + "\n"; }
+
 std::string viewNotes() {
   TextTable views({"Views", ""});
   for (const DrawableView& view : allViews())
@@ -163,8 +166,14 @@ std::string viewNotes() {
   TextTable options({"Options of some views", ""});
   for (const std::string_view option : viewOptions())
     options.add({"  --" + std::string(option), viewsThatTake(option)});
-  return views.text(false) + "\n" + options.text(false) +
-         "\nCalendars: " + std::string(findOption("calendar")->accepts) + "\n";
+  return views.text(false) + "\n" + options.text(false) + "\n" + calendarNotes();
+}
+
+bool isOfOtherViews(std::string_view option, const DrawableView& view) {
+  const auto holds = [&](const auto& names) {
+    return std::find(names.begin(), names.end(), option) != names.end();
+  };
+  return holds(viewOptions()) && !holds(view.options);
 }
 
 }  // namespace velmora::app

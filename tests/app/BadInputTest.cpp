@@ -169,7 +169,7 @@ INSTANTIATE_TEST_SUITE_P(
         {"ScaleZero", {"draw", "disc", "--scale", "0", "-o", "x.png"}, {"--scale '0' is out of range"}},
         {"ScaleHuge", {"draw", "disc", "--scale", "1e300", "-o", "x.png"}, {"'1e300' is out of range"}},
         {"Background", {"draw", "disc", "--background", "red", "-o", "x.png"}, {"'red'", "RRGGBB"}},
-        {"Theme", {"draw", "disc", "--theme", "dim", "-o", "x.png"}, {"'dim'", "calendar or default"}},
+        {"Theme", {"draw", "disc", "--theme", "dim", "-o", "x.png"}, {"'dim'", "calendar, default, dark or light"}},
         {"Calendar", {"draw", "month", "--calendar", "maya", "-o", "x.png"}, {"'maya'", "hebrew, islamic"}},
         {"CalendarOfTheRows",
          {"draw", "riseset", "--calendar", "chinese", "-o", "x.png"},

@@ -1,4 +1,6 @@
 #include <app/request/Command.h>
+#include <app/request/DrawableView.h>
+#include <app/request/DrawingOptions.h>
 #include <app/request/Options.h>
 #include <velmora/Version.h>
 
@@ -8,6 +10,14 @@ namespace velmora::app {
 namespace {
 
 using HelpTest = AppTest;
+
+/// One that the option accepts, as it says itself.
+std::string valueOf(const Option& option) {
+  if (option.name == "phase") return "full";
+  if (option.name == "heading") return "90";
+  const std::string accepted(option.accepts);
+  return accepted.substr(0, accepted.find_first_of(", "));
+}
 
 TEST_F(HelpTest, NamesEveryCommand) {
   const std::string help = answer({"--help"});
@@ -22,6 +32,33 @@ TEST_F(HelpTest, OfACommandNamesEachOfItsOptionsAndNoOther) {
       const bool isListed = help.find("\n  --" + std::string(option.name) + " ") != std::string::npos;
       EXPECT_EQ(isListed, command.takes(option.name) && option.name != command.positional)
           << command.name << " " << option.name;
+    }
+  }
+}
+
+TEST_F(HelpTest, OfAViewNamesEachOptionThatItTakesAndNoOther) {
+  for (const DrawableView& view : allViews()) {
+    const std::string name(view.name), help = answer({"draw", name, "--help"});
+    EXPECT_EQ(linesOf(help).at(0), "Usage: velmora draw " + name + " --output FILE [options]");
+    EXPECT_EQ(help.find("\nViews\n"), std::string::npos);
+    for (const Option& option : allOptions()) {
+      const bool isListed = help.find("\n  --" + std::string(option.name) + " ") != std::string::npos;
+      const bool isTaken = findCommand("draw")->takes(option.name) && option.name != "view";
+      EXPECT_EQ(isListed, isTaken && !isOfOtherViews(option.name, view)) << name << " " << option.name;
+    }
+  }
+}
+
+TEST_F(HelpTest, OfAViewAgreesWithWhatTheViewTakes) {
+  for (const DrawableView& view : allViews()) {
+    const std::string name(view.name), help = answer({"draw", name, "--help"});
+    for (const std::string_view option : viewOptions()) {
+      const std::string spelling = "--" + std::string(option);
+      std::vector<std::string> arguments = {"draw", name, "-o", "picture.none", spelling};
+      if (!findOption(option)->isSwitch()) arguments.push_back(valueOf(*findOption(option)));
+      const std::string error = runProgram(arguments).err;
+      const bool isListed = help.find("\n  " + spelling + " ") != std::string::npos;
+      EXPECT_NE(error.find(isListed ? "'picture.none'" : "does not take"), std::string::npos) << error;
     }
   }
 }
