@@ -18,7 +18,7 @@ namespace {
 
 constexpr std::size_t longestLine = 64 * 1024, writtenAtOnce = 64 * 1024;  // bytes
 
-/// `id`: as JSON.
+/// `id` is written as it is, so it must be JSON.
 std::string errorLine(std::string_view id, const std::string& message) {
   return "{\"id\":" + std::string(id) + ",\"error\":" + jsonLine(message) + "}";
 }
@@ -28,7 +28,7 @@ const std::string tooLong =
 
 bool isBlank(std::string_view line) { return line.find_first_not_of(" \t\r") == std::string_view::npos; }
 
-/// The next line, without its end; of one that is too long the part that fits, the rest skipped.
+/// A line without its line feed. If it is too long, the text is its beginning and the rest has been skipped.
 struct Line {
   std::string_view text;
   bool isTooLong;
@@ -48,7 +48,7 @@ std::optional<Line> nextLine(std::istream& in, std::string& buffer) {
   return Line{std::string_view(buffer).substr(0, count), isTooLong};
 }
 
-/// The line of the answer; nothing for a blank line.
+/// The answer with its line feed; nothing for a blank line.
 std::string answerTo(const Line& line, const PictureFolder& folder) {
   if (line.isTooLong) return errorLine("null", tooLong) + '\n';
   return isBlank(line.text) ? "" : batchAnswer(line.text, folder) + '\n';
@@ -56,7 +56,7 @@ std::string answerTo(const Line& line, const PictureFolder& folder) {
 
 bool isPicture(const Request& request) { return request.command->name == "draw"; }
 
-/// Whoever writes the lines may not be the one who owns the files.
+/// Lines may come from people who must not touch the files of whoever runs the program.
 void keepWithin(const PictureFolder& folder, Request& request) {
   if (!folder) throw BadInput("pictures are not drawn here; accepted by batch --pictures FOLDER");
   request.drawing.folder = folder;
@@ -68,7 +68,7 @@ void checkIsFolder(const PictureFolder& folder) {
     throw BadInput("--pictures " + quote(*folder) + " is no folder; accepted: one that exists");
 }
 
-/// Writes whole lines only: a signal that ends the program takes effect after the write.
+/// Signals are held until all lines are written, so that none is cut when one ends the program.
 void writeLines(std::string& lines, std::ostream& out) {
   const HeldSignals untilWritten;
   out << lines << std::flush;

@@ -12,8 +12,9 @@ namespace {
 
 constexpr int deepestNesting = 16;
 
-/// Watches the parser. A deep value is stopped before it is built: values are destroyed and written by
-/// recursion. An option that is given twice is stopped because the parser would keep the last alone.
+/// Checks a line while it is parsed. A deeply nested value is refused before it is built, as destroying and
+/// writing it would take a call per level. An option that is given twice is refused, as the parser would keep
+/// only the last one.
 class Watch {
  public:
   bool operator()(int depth, Json::parse_event_t event, const Json& parsed) {
@@ -123,7 +124,7 @@ Json jsonFromLine(std::string_view line) {
   } catch (const Json::parse_error& error) {
     throw invalidAt(error.byte);
   } catch (const Json::out_of_range&) {
-    throw BadInput("the line holds a number out of range; accepted: what fits a double");
+    throw BadInput("the line holds a number out of range; accepted: numbers up to 1.7e308");
   }
 }
 

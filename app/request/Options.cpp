@@ -81,7 +81,7 @@ Locale locale(const std::string& text) {
   return Locale(text);
 }
 
-/// What can stand in a line of any answer, a terminal's among them.
+/// A name is written into the lines of every answer, also of those that go to a terminal.
 std::string nameText(const std::string& text) {
   if (!isUtf8(text)) throw BadInput("is not UTF-8");
   if (hasControls(text)) throw BadInput("holds control characters");
@@ -138,12 +138,12 @@ std::vector<Option> makeOptions() {
        Number([](R& r, double v) { r.place.longitude = within(v, 180); })},
       {"tz", "ZONE", "time zone of the place", "an identifier such as Europe/Helsinki, UTC or GMT+05:30",
        Text([](R& r, S& v) { r.place.zone = zoneNamed(v); })},
-      {"gmt-offset", "SECONDS", "fixed offset from GMT instead of a time zone",
+      {"gmt-offset", "SECONDS", "a fixed offset from GMT instead of a time zone",
        "whole seconds from -64800 to 64800 (18 hours), east positive",
        Number([](R& r, double v) { r.place.gmtOffset = wholeNumber(within(v, farthestGmtOffset)); })},
       {"name", "TEXT", "name of the place", "one line of text in UTF-8",
        Text([](R& r, S& v) { r.place.name = nameText(v); })},
-      {"height", "METRES", "of the eye above the ground at the horizon (default: 0)", "0 to 10000 metres",
+      {"height", "METRES", "eye above the ground at the horizon (default: 0)", "0 to 10000 metres",
        Number([](R& r, double v) { r.place.height = height(v); })},
       {"date", "YYYY-MM-DD", "the day (default: today)", dateForm,
        Text([](R& r, S& v) { r.date = date(v); })},
@@ -160,18 +160,18 @@ std::vector<Option> makeOptions() {
        Text(readPhase)},
       {"twilight", "KIND", "civil (default), nautical, astronomical or all three",
        "civil, nautical, astronomical or all", Text(readTwilight)},
-      {"transit", "", "also when Sun and Moon stand highest, in the meridian", "",
+      {"transit", "", "also when Sun and Moon are highest, on the meridian", "",
        Switch([](R& r) { r.transits = true; })},
       {"body", "BODY", "moon (default) or sun", "moon or sun", Text(readBody)},
       {"degrees", "DEGREES", "elevation above the horizon, -90 to 90 degrees", "-90 to 90 degrees",
        Number([](R& r, double v) { r.degrees = within(v, 90); })},
-      {"step", "MINUTES", "from one position of the path to the next (default: 60)",
+      {"step", "MINUTES", "from one position on the path to the next (default: 60)",
        "whole minutes from 1 to 1440", Number([](R& r, double v) { r.step = step(v); })},
-      {"grid", "", "also as a calendar of weeks", "", Switch([](R& r) { r.grid = true; })},
-      {"all-day", "", "as whole days of the place, without a time", "",
+      {"grid", "", "also as a calendar, one line a week", "", Switch([](R& r) { r.grid = true; })},
+      {"all-day", "", "events as whole days at the place, without a time", "",
        Switch([](R& r) { r.allDay = true; })},
       {"forget", "", "forget your own place", "", Switch([](R& r) { r.forgets = true; })},
-      {"now", "INSTANT", "the present, instead of the clock's",
+      {"now", "INSTANT", "take this as the present, instead of the clock's time",
        "an ISO 8601 instant such as 2024-06-20T12:00:00Z, from 1900 to 2100",
        Text([](R& r, S& v) { r.now = instant(v); })},
       {"clock", "FORM", "24h or 12h (default: the locale's habit)", "24h or 12h", Text(readClock)},
@@ -195,7 +195,7 @@ std::vector<Option> joined(std::vector<Option> list, const std::vector<Option>& 
   return list;
 }
 
-/// Runs a reader; what it finds wrong becomes a whole message.
+/// Runs a reader. Of what it finds wrong it makes a whole message: which option, which value, what is accepted.
 template <typename Read>
 void reading(const Option& option, const std::string& label, std::string_view value, Read read) {
   try {
