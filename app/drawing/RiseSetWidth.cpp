@@ -16,11 +16,6 @@ constexpr std::int64_t minutesOfDay = 1440;
 constexpr double gap = 5, iconReach = 22;  // of the view, the gap also between two times
 constexpr double edge = 2;                 // left free at the picture's end and beside the dates
 
-/// A time beside its bar, on a strip of 24 hours.
-struct Stretch {
-  double begin, end;
-};
-
 /// The events of a day and how wide their times are.
 class DayOfTimes {
  public:
