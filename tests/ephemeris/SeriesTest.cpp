@@ -49,7 +49,9 @@ void expectSameBits(const Series& series) {
   const auto together = coordinatesOf(series, times, anglesAt(times));
   for (std::size_t i = 0; i < laneCount; ++i) {
     const auto alone = coordinatesOf(series, t[i], anglesAt(t[i]));
-    for (std::size_t k = 0; k < mostCoordinates; ++k) EXPECT_EQ(together[k][i], alone[k]);
+    for (std::size_t k = 0; k < mostCoordinates; ++k) {
+      EXPECT_EQ(laidAs<Row<double>>(together[k])[i], alone[k]);
+    }
   }
 }
 

@@ -5,6 +5,7 @@
 #include <numbers>
 
 #include <velmora/almanac/Disc.h>
+#include <velmora/almanac/Trigonometry.h>
 
 namespace [[gnu::visibility("hidden")]] velmora {
 namespace almanac {
@@ -21,8 +22,8 @@ constexpr double danjonEnlargement = 1.01;
 double sharedArea(double a, double b, double separation) {
   const auto segment = [&](double radius, double other) {
     const double toChord = (separation * separation + radius * radius - other * other) / (2 * separation);
-    const double half = std::acos(std::clamp(toChord / radius, -1.0, 1.0));
-    return radius * radius * (half - std::sin(half) * std::cos(half));
+    const double half = arccosine(std::clamp(toChord / radius, -1.0, 1.0));
+    return radius * radius * (half - sine(half) * cosine(half));
   };
   return segment(a, b) + segment(b, a);
 }
@@ -31,7 +32,7 @@ double sharedArea(double a, double b, double separation) {
 
 Separation::Separation(const Motion& a, const Motion& b) {
   const Motion chord = direction(a) - direction(b);
-  angle = 2 * std::asin(length(chord.at) / 2);
+  angle = 2 * arcsine(length(chord.at) / 2);
   product = dot(chord.at, chord.rate);
   squaredSpeed = dot(chord.rate, chord.rate);
 }
@@ -56,9 +57,9 @@ double SolarDiscs::obscuration() const {
 
 SolarDiscs solarDiscs(const Motion& toSun, const Motion& toMoon) {
   const double sunDistance = length(toSun.at), moonDistance = length(toMoon.at);
-  const double sun = std::asin(sunRadius / sunDistance);
-  return {Separation(toMoon, toSun), sun + std::asin(outerMoonRadius / moonDistance),
-          sun - std::asin(innerMoonRadius / moonDistance)};
+  const double sun = arcsine(sunRadius / sunDistance);
+  return {Separation(toMoon, toSun), sun + arcsine(outerMoonRadius / moonDistance),
+          sun - arcsine(innerMoonRadius / moonDistance)};
 }
 
 EclipseKind EarthShadow::kind() const {
@@ -74,10 +75,10 @@ double EarthShadow::magnitude(EclipseKind kind) const {
 EarthShadow earthShadow(const Motion& sun, const Motion& moon) {
   const double sunDistance = length(sun.at), moonDistance = length(moon.at);
   const double shadow =
-      danjonEnlargement * std::asin(earthRadius / moonDistance) + std::asin(earthRadius / sunDistance);
-  const double sunSemidiameter = std::asin(sunRadius / sunDistance);
+      danjonEnlargement * arcsine(earthRadius / moonDistance) + arcsine(earthRadius / sunDistance);
+  const double sunSemidiameter = arcsine(sunRadius / sunDistance);
   return {Separation(moon, Motion{} - sun), shadow - sunSemidiameter, shadow + sunSemidiameter,
-          std::asin(outerMoonRadius / moonDistance)};
+          arcsine(outerMoonRadius / moonDistance)};
 }
 
 }  // namespace almanac

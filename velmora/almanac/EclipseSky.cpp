@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include <velmora/almanac/Trigonometry.h>
+
 namespace [[gnu::visibility("hidden")]] velmora {
 namespace almanac {
 namespace {
@@ -16,9 +18,9 @@ constexpr double halfStep = 4000;
 constexpr double turnPerSecond = 7.292115855e-5;
 
 Vector vectorOf(const Apparent& place) {
-  const double inEquator = place.distance * std::cos(place.declination);
-  return {inEquator * std::cos(place.rightAscension), inEquator * std::sin(place.rightAscension),
-          place.distance * std::sin(place.declination)};
+  const Complex<double> along = directionAt(place.rightAscension), across = directionAt(place.declination);
+  const double inEquator = place.distance * across.re;
+  return {inEquator * along.re, inEquator * along.im, place.distance * across.im};
 }
 
 }  // namespace
@@ -54,7 +56,7 @@ std::optional<EclipseSky> EclipseSky::around(Instant middle) {
   sky._moon = *moon;
   const ephemeris::Nutation nutation = ephemeris::nutation(middle);
   sky._siderealTime =
-      ephemeris::meanSiderealTime(middle) + nutation.longitude * std::cos(nutation.trueObliquity);
+      ephemeris::meanSiderealTime(middle) + nutation.longitude * cosine(nutation.trueObliquity);
   return sky;
 }
 

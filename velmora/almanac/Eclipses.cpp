@@ -8,6 +8,7 @@
 #include <velmora/almanac/EclipseDiscs.h>
 #include <velmora/almanac/EclipseSky.h>
 #include <velmora/almanac/Lunation.h>
+#include <velmora/almanac/Trigonometry.h>
 
 namespace velmora::almanac {
 namespace {
@@ -99,7 +100,7 @@ bool setLunar(Eclipse& eclipse, const EclipseSky& sky, double seconds) {
 std::optional<Eclipse> eclipseAt(Quarter quarter) {
   const RoughPhase phase = roughPhase(quarter);
   constexpr double farthestFromNode = 0.37;  // sine; Meeus, "Astronomical Algorithms", chapter 54: 0.36
-  if (std::abs(std::sin(phase.latitudeArgument)) > farthestFromNode) return std::nullopt;
+  if (std::abs(sine(phase.latitudeArgument)) > farthestFromNode) return std::nullopt;
   const auto sky = EclipseSky::around(phase.at);
   if (!sky) return std::nullopt;
 

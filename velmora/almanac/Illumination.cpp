@@ -3,6 +3,7 @@
 #include <velmora/almanac/Observer.h>
 #include <velmora/almanac/Positions.h>
 #include <velmora/almanac/Topocentric.h>
+#include <velmora/almanac/Trigonometry.h>
 #include <velmora/ephemeris/TimeScales.h>
 
 namespace velmora::almanac {
@@ -29,7 +30,7 @@ Local cross(const Local& a, const Local& b) {
 double positionAngle(const Observer& observer, const Local& body, const Local& other) {
   const Local pole{0, observer.cosLatitude, observer.sinLatitude};
   const Local east = cross(pole, body), north = cross(body, east);
-  return std::atan2(dot(other, east) * body.distance(), dot(other, north));
+  return arctangent(dot(other, east) * body.distance(), dot(other, north));
 }
 
 Local localOf(const Observer& observer, const Geocentric<double>& body, double meanMeridian) {
@@ -47,12 +48,12 @@ std::optional<Illumination> illumination(const Place& place, Instant at) {
   const Local toMoon = localOf(observer, moon, meridian), toSun = localOf(observer, sun, meridian);
   const Local lit{toSun.east - toMoon.east, toSun.north - toMoon.north, toSun.up - toMoon.up};
   const Local back{-toMoon.east, -toMoon.north, -toMoon.up};
-  const double phaseAngle = std::atan2(std::sqrt(dot(cross(lit, back), cross(lit, back))), dot(lit, back));
+  const double phaseAngle = arctangent(std::sqrt(dot(cross(lit, back), cross(lit, back))), dot(lit, back));
   const double elongation = 360 * positive(moon.longitude - sun.longitude);
   const double brightLimb = positionAngle(observer, toMoon, toSun);
   const double parallactic = positionAngle(observer, toMoon, {0, 0, 1});
   return Illumination{
-      .fraction = (1 + std::cos(phaseAngle)) / 2,
+      .fraction = (1 + cosine(phaseAngle)) / 2,
       .isWaxing = elongation < 180,
       .elongation = elongation,
       .phaseAngle = phaseAngle / degree,

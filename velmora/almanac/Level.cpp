@@ -4,6 +4,7 @@
 
 #include <velmora/almanac/Disc.h>
 #include <velmora/almanac/Refraction.h>
+#include <velmora/almanac/Trigonometry.h>
 
 namespace [[gnu::visibility("hidden")]] velmora {
 namespace almanac {
@@ -32,8 +33,8 @@ double limbFactor(Convention::Limb limb) {
 
 Level::Level(double depression, double radius)
     : _up(1),
-      _sine(std::sin(depression * degree)),
-      _cosine(std::cos(depression * degree)),
+      _sine(sine(depression * degree)),
+      _cosine(cosine(depression * degree)),
       _radius(radius),
       _depression(depression),
       _apparentAltitude(apparentAltitude(-depression)) {}
@@ -45,9 +46,9 @@ Level Level::meridian() {
 }
 
 double Level::apparentAltitudeOf(const Local& local) const {
-  if (isMeridian()) return apparentAltitude(std::asin(local.up / local.distance()) / degree);
+  if (isMeridian()) return apparentAltitude(arcsine(local.up / local.distance()) / degree);
   if (_radius == 0) return _apparentAltitude;
-  return apparentAltitude(-_depression - std::asin(_radius / local.distance()) / degree);
+  return apparentAltitude(-_depression - arcsine(_radius / local.distance()) / degree);
 }
 
 Level horizonOf(ephemeris::Body body, const Place& place, const Convention& convention) {

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include <velmora/almanac/Refraction.h>
+#include <velmora/almanac/Trigonometry.h>
 
 namespace [[gnu::visibility("hidden")]] velmora {
 namespace almanac {
@@ -25,19 +26,20 @@ LocalSky::LocalSky(const EclipseSky& sky, Body body, const Place& place)
 
 Motion LocalSky::seen(const Motion& geocentric, double seconds) const {
   const double angle = _sky.siderealTime(seconds) + _longitude;
-  const double x = _observer.equatorial * std::cos(angle), y = _observer.equatorial * std::sin(angle);
+  const Complex<double> meridian = directionAt(angle);
+  const double x = _observer.equatorial * meridian.re, y = _observer.equatorial * meridian.im;
   return geocentric - Motion{{x, y, _observer.polar}, {-earthTurn * y, earthTurn * x, 0}};
 }
 
 Local LocalSky::direction(double seconds) const {
   const Motion body = _body == Body::sun ? _sky.sun(seconds) : _sky.moon(seconds);
-  const double angle = _sky.siderealTime(seconds);
-  return _observer.seen(turned(body.at, std::cos(angle), std::sin(angle)));
+  const Complex<double> turn = directionAt(_sky.siderealTime(seconds));
+  return _observer.seen(turned(body.at, turn.re, turn.im));
 }
 
 EclipseMoment LocalSky::moment(double seconds) const {
   const Local local = direction(seconds);
-  const double altitude = std::asin(local.up / local.distance()) / degree;
+  const double altitude = arcsine(local.up / local.distance()) / degree;
   return {_sky.instant(seconds), apparentAltitude(altitude), azimuthOf(local), _horizon.heightOf(local) >= 0};
 }
 

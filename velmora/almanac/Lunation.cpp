@@ -3,6 +3,8 @@
 #include <cmath>
 #include <numbers>
 
+#include <velmora/almanac/Trigonometry.h>
+
 namespace [[gnu::visibility("hidden")]] velmora {
 namespace almanac {
 namespace {
@@ -26,26 +28,26 @@ Arguments argumentsAt(double lunations) {
 
 /// Days from the mean to the true new or full moon.
 double syzygyCorrection(const Arguments& a) {
-  return -0.4068 * std::sin(a.moon) + 0.1727 * std::sin(a.sun) + 0.0161 * std::sin(2 * a.moon) +
-         0.0104 * std::sin(2 * a.latitude) + 0.0074 * std::sin(a.moon - a.sun) -
-         0.0051 * std::sin(a.moon + a.sun) + 0.0021 * std::sin(2 * a.sun);
+  return -0.4068 * sine(a.moon) + 0.1727 * sine(a.sun) + 0.0161 * sine(2 * a.moon) +
+         0.0104 * sine(2 * a.latitude) + 0.0074 * sine(a.moon - a.sun) - 0.0051 * sine(a.moon + a.sun) +
+         0.0021 * sine(2 * a.sun);
 }
 
 /// Days from the mean to the true first or last quarter.
 double halfMoonCorrection(const Arguments& a, bool isFirst) {
-  const double evection = 0.0031 - 0.0004 * std::cos(a.sun) + 0.0003 * std::cos(a.moon);
-  return -0.6280 * std::sin(a.moon) + 0.1717 * std::sin(a.sun) - 0.0118 * std::sin(a.moon + a.sun) +
-         0.0086 * std::sin(2 * a.moon) + 0.0080 * std::sin(2 * a.latitude) +
-         0.0045 * std::sin(a.moon - a.sun) + 0.0020 * std::sin(2 * a.sun) + (isFirst ? evection : -evection);
+  const double evection = 0.0031 - 0.0004 * cosine(a.sun) + 0.0003 * cosine(a.moon);
+  return -0.6280 * sine(a.moon) + 0.1717 * sine(a.sun) - 0.0118 * sine(a.moon + a.sun) +
+         0.0086 * sine(2 * a.moon) + 0.0080 * sine(2 * a.latitude) + 0.0045 * sine(a.moon - a.sun) +
+         0.0020 * sine(2 * a.sun) + (isFirst ? evection : -evection);
 }
 
 /// Degrees a day, fitted to the rates at the phases of 1900 to 2100.
 double elongationRate(const Arguments& a, bool isSyzygy) {
-  const double reduction = -0.05 * std::cos(2 * a.latitude);
-  return isSyzygy ? reduction + 12.533 + 1.733 * std::cos(a.moon) + 0.045 * std::cos(2 * a.moon) -
-                        0.021 * std::cos(a.sun)
-                  : reduction + 12.029 + 1.163 * std::cos(a.moon) - 0.016 * std::cos(2 * a.moon) -
-                        0.050 * std::cos(a.sun);
+  const double reduction = -0.05 * cosine(2 * a.latitude);
+  return isSyzygy ? reduction + 12.533 + 1.733 * cosine(a.moon) + 0.045 * cosine(2 * a.moon) -
+                        0.021 * cosine(a.sun)
+                  : reduction + 12.029 + 1.163 * cosine(a.moon) - 0.016 * cosine(2 * a.moon) -
+                        0.050 * cosine(a.sun);
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
 #include <velmora/almanac/Observer.h>
 
+#include <velmora/almanac/Trigonometry.h>
+
 namespace [[gnu::visibility("hidden")]] velmora {
 namespace almanac {
 namespace {
@@ -11,18 +13,20 @@ constexpr double squaredEccentricity = flattening * (2 - flattening);
 
 }  // namespace
 
-Observer::Observer(const Place& place)
-    : cosLatitude(std::cos(place.latitude * degree)),
-      sinLatitude(std::sin(place.latitude * degree)),
-      cosLongitude(std::cos(place.longitude * degree)),
-      sinLongitude(std::sin(place.longitude * degree)) {
+Observer::Observer(const Place& place) {
+  const Complex<double> north = directionAt(place.latitude * degree),
+                        east = directionAt(place.longitude * degree);
+  cosLatitude = north.re;
+  sinLatitude = north.im;
+  cosLongitude = east.re;
+  sinLongitude = east.im;
   const double normal = equatorialRadius / std::sqrt(1 - squaredEccentricity * sinLatitude * sinLatitude);
   equatorial = normal * cosLatitude;
   polar = normal * (1 - squaredEccentricity) * sinLatitude;
 }
 
 double azimuthOf(const Local& local) {
-  const double azimuth = std::atan2(local.east, local.north) / degree;
+  const double azimuth = arctangent(local.east, local.north) / degree;
   const double positive = azimuth < 0 ? azimuth + 360 : azimuth;
   return positive < 360 ? positive : 0.0;  // a tiny negative angle rounds up to a whole turn
 }

@@ -8,6 +8,7 @@
 
 #include <velmora/almanac/CoveredPart.h>
 #include <velmora/almanac/Lunation.h>
+#include <velmora/almanac/Trigonometry.h>
 #include <velmora/ephemeris/Ephemeris.h>
 
 namespace velmora::almanac {
@@ -40,7 +41,7 @@ void refine(Batch& batch) {
     ephemeris::apparent(Body::moon, instants, std::span(moon).first(batch.size));
     for (std::size_t i = 0; i < batch.size; ++i) {
       const double ahead = moon[i].longitude - sun[i].longitude - elongationOf(batch.events[i].phase);
-      batch.at[i] -= Seconds(std::remainder(ahead, 2 * std::numbers::pi) / batch.rates[i]);
+      batch.at[i] -= Seconds(withinHalfTurn(ahead) / batch.rates[i]);
     }
   }
   for (std::size_t i = 0; i < batch.size; ++i) batch.events[i].at = batch.at[i];

@@ -117,8 +117,8 @@ void positions(const Place& place, Body body, std::span<const Instant> instants,
       centuries[i] = ephemeris::terrestrialCenturies(at);
       meridians[i] = meanMeridian(place, at);
     }
-    const auto there = geocentric(body, ephemeris::doublesOf(centuries.data()));
-    const auto f = fieldsOf(observer, body, there, ephemeris::doublesOf(meridians.data()));
+    const auto there = geocentric(body, ephemeris::doublesOf(centuries));
+    const auto f = fieldsOf(observer, body, there, ephemeris::doublesOf(meridians));
     for (std::size_t i = 0; i < count; ++i) {
       out[first + i] = ephemeris::covers(instants[first + i]) ? positionOf(f, i) : none();
     }

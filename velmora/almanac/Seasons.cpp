@@ -5,6 +5,7 @@
 
 #include <velmora/almanac/CoveredPart.h>
 #include <velmora/almanac/Phases.h>
+#include <velmora/almanac/Trigonometry.h>
 #include <velmora/ephemeris/Ephemeris.h>
 
 namespace velmora::almanac {
@@ -35,7 +36,7 @@ Instant seasonInstant(int year, Season season) {
   for (int step = 0; step < 2; ++step) {
     const auto sun = ephemeris::apparent(Body::sun, at);
     if (!sun) break;
-    at -= Seconds(std::remainder(sun->longitude - longitude, 2 * std::numbers::pi) / rate);
+    at -= Seconds(withinHalfTurn(sun->longitude - longitude) / rate);
   }
   return at;
 }

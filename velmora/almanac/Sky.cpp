@@ -26,7 +26,7 @@ Sky::Sky(const ephemeris::Paths& paths, Blocks blocks)
   for (std::size_t first = 0; first < sampleCount(); first += samplesPerBlock) {
     const Instant start = timeOf(first);
     const ephemeris::Stretch& stretch = stretchAt(paths.data(), start);  // which ends with a block
-    _turns[first] = Turn::of(siderealAt(stretch, start) * ephemeris::radiansOfTurn);
+    _turns[first] = Turn::of(siderealAt(stretch, start));
     const std::size_t past = std::min(first + samplesPerBlock, sampleCount());
     for (std::size_t sample = first; sample < past; ++sample) {
       if (sample > first) _turns[sample] = _turns[sample - 1] + step;

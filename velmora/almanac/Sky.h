@@ -68,7 +68,10 @@ class Sky {
   struct Turn {
     double cosine, sine;
 
-    static Turn of(double x) { return {std::cos(x), std::sin(x)}; }
+    static Turn of(double turns) {
+      const auto direction = ephemeris::cosineAndSine(turns);
+      return {direction.re, direction.im};
+    }
     /// Of up to 0.8 radians, by Taylor's series.
     static Turn ofSmall(double x) {
       const double xx = x * x;

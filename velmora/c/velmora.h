@@ -1,9 +1,9 @@
 /**
  * Velmora in C: the one interface that every other language uses.
  *
- * Every operation may be called from any thread and keeps nothing between calls. What it fills belongs to the
- * caller; only a zone is an object of the library's own, opened and closed. Structs are plain and only grow
- * by new operations, never by new fields.
+ * Every operation may be called from any thread; no answer depends on what was asked before. What it fills
+ * belongs to the caller; only a zone is an object of the library's own, opened and closed. Structs are plain
+ * and only grow by new operations, never by new fields.
  *
  * An operation returns VELMORA_OK or says by its status what was wrong, and then by velmora_message() in
  * words; what it would have filled is then left as it was. A number that does not exist is NaN, an instant

@@ -47,7 +47,7 @@ void apparent(Body body, std::span<const Instant> instants, std::span<Apparent> 
     for (std::size_t i = 0; i < count; ++i) {
       if (covers(instants[i])) centuries[i] = terrestrialCenturies(instants[i]);
     }
-    const auto fields = fieldsAt(body, doublesOf(centuries.data()));
+    const auto fields = fieldsAt(body, doublesOf(centuries));
     for (std::size_t i = 0; i < count; ++i) {
       out[i] = covers(instants[i])
                    ? Apparent{lane(fields.rightAscension, i), lane(fields.declination, i),

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <array>
 #include <cmath>
 #include <cstddef>
+#include <cstring>
 #include <type_traits>
 
 namespace [[gnu::visibility("hidden")]] velmora {
@@ -18,9 +20,6 @@ struct Pack {
   using Scalar = Real;
   using Vector [[gnu::vector_size(bytes)]] = Real;
   Vector numbers;
-
-  Real operator[](std::size_t index) const { return numbers[index]; }
-  void set(std::size_t index, Real number) { numbers[index] = number; }
 
   friend Pack operator+(const Pack& a, const Pack& b) { return {a.numbers + b.numbers}; }
   friend Pack operator-(const Pack& a, const Pack& b) { return {a.numbers - b.numbers}; }
@@ -40,13 +39,6 @@ struct Twice {
   static constexpr std::size_t count = 2 * Half::count;
   using Scalar = typename Half::Scalar;
   Half low, high;
-
-  Scalar operator[](std::size_t index) const {
-    return index < Half::count ? low[index] : high[index - Half::count];
-  }
-  void set(std::size_t index, Scalar number) {
-    index < Half::count ? low.set(index, number) : high.set(index - Half::count, number);
-  }
 
   friend Twice operator+(const Twice& a, const Twice& b) { return {a.low + b.low, a.high + b.high}; }
   friend Twice operator-(const Twice& a, const Twice& b) { return {a.low - b.low, a.high - b.high}; }
@@ -113,12 +105,31 @@ struct InSingle<Wide::Doubles> {
 template <class Number>
 using Single = typename InSingle<Number>::Type;
 
+/// The same eight numbers: every kind of them lies in memory as they do in a row.
+template <class Kind, class Numbers>
+Kind laidAs(const Numbers& numbers) {
+  Kind result;
+  static_assert(sizeof result == sizeof numbers);
+  std::memcpy(&result, &numbers, sizeof result);
+  return result;
+}
+template <class Real>
+using Row = std::array<Real, laneCount>;
+
+/// The eight in numbers of the other precision.
+template <class Converted, class Number>
+Converted converted(const Number& x) {
+  using Real = typename Converted::Scalar;
+  const auto from = laidAs<Row<typename Number::Scalar>>(x);
+  Row<Real> to;
+  for (std::size_t i = 0; i < laneCount; ++i) to[i] = static_cast<Real>(from[i]);
+  return laidAs<Converted>(to);
+}
+
 inline float inSingle(double x) { return static_cast<float>(x); }
 template <class Number>
 Single<Number> inSingle(const Number& x) {
-  Single<Number> result;
-  for (std::size_t i = 0; i < laneCount; ++i) result.set(i, static_cast<float>(x[i]));
-  return result;
+  return converted<Single<Number>>(x);
 }
 
 template <class Number>
@@ -130,23 +141,19 @@ Number inDouble(const Single<Number>& x) {
   if constexpr (std::is_same_v<Number, double>) {
     return x;
   } else {
-    Number result;
-    for (std::size_t i = 0; i < laneCount; ++i) result.set(i, x[i]);
-    return result;
+    return converted<Number>(x);
   }
 }
 
 /// The eight as they are handed around.
 using Doubles = Narrow::Doubles;
 
-inline double lane(const Doubles& numbers, std::size_t index) { return numbers[index]; }
+inline double lane(const Doubles& numbers, std::size_t index) { return laidAs<Row<double>>(numbers)[index]; }
 
 /// Eight numbers in a row, or eight in vectors of another size.
 template <class Number = Doubles, class Numbers>
 Number doublesOf(const Numbers& numbers) {
-  Number result;
-  for (std::size_t i = 0; i < laneCount; ++i) result.set(i, numbers[i]);
-  return result;
+  return laidAs<Number>(numbers);
 }
 
 #if defined(__x86_64__) && !defined(__clang__)  // which does not inline all of it

@@ -1,5 +1,7 @@
 #include <chrono>
 #include <cmath>
+#include <cstdint>
+#include <limits>
 
 #include <velmora/ephemeris/EarthRotation.h>
 #include <velmora/ephemeris/Evaluation.h>
@@ -67,7 +69,7 @@ Segment segmentOf(Body body, double number) {
   for (std::size_t i = 0; i < laneCount; ++i) {
     centuries[i] = (number + (nodes[i] + 1) / 2) * (segmentSeconds(body) / secondsPerCentury);
   }
-  const auto places = placesAt(body, doublesOf(centuries.data()));
+  const auto places = placesAt(body, doublesOf(centuries));
   Segment segment{};
   for (std::size_t power = 0; power < nodesOfSegment; ++power) {
     for (std::size_t i = 0; i < laneCount; ++i) {
@@ -78,10 +80,24 @@ Segment segmentOf(Body body, double number) {
   return segment;
 }
 
+/// As above; a thread keeps some, so that questions about one time do not begin anew.
+const Segment& keptSegment(Body body, double number) {
+  struct Kept {
+    double number = std::numeric_limits<double>::quiet_NaN();
+    Segment segment;
+  };
+  constexpr std::int64_t keptOfBody = 8;
+  thread_local std::array<std::array<Kept, keptOfBody>, 2> kept;
+  const auto place = static_cast<std::size_t>(static_cast<std::int64_t>(number) & (keptOfBody - 1));
+  Kept& here = kept[static_cast<std::size_t>(body)][place];
+  if (here.number != number) here = {number, segmentOf(body, number)};
+  return here.segment;
+}
+
 std::vector<Segment> segmentsOf(Body body, double first, double last) {
   std::vector<Segment> segments;
   segments.reserve(static_cast<std::size_t>(last - first) + 1);
-  for (double number = first; number <= last; ++number) segments.push_back(segmentOf(body, number));
+  for (double number = first; number <= last; ++number) segments.push_back(keptSegment(body, number));
   return segments;
 }
 
