@@ -67,7 +67,8 @@ std::optional<SeenEclipse> eclipseOf(CivilDate day, const Query& query) {
 
 std::optional<SeenEclipse> nextVisibleEclipse(Instant after, const Place& place) {
   constexpr std::chrono::days stride{366};
-  for (Instant from = after; from < ephemeris::endInstant(); from += stride) {
+  // One whose greatest moment is over may still begin at the place.
+  for (Instant from = after - longestHalf; from < ephemeris::endInstant(); from += stride) {
     for (const SeenEclipse& eclipse : eclipsesBetween(from, from + stride, place)) {
       if (eclipse.isVisible() && eclipse.local->visibleFrom > after) return eclipse;
     }

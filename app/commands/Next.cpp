@@ -86,7 +86,7 @@ std::string nameOf(const almanac::Event& event) {
 struct Line {
   Instant instant;
   std::string glyph, what;
-  std::string details = "";  ///< below it; mostly none
+  std::vector<std::string> details = {};  ///< below it, one a line; mostly none
 };
 
 /// What comes next, in order.
@@ -98,8 +98,11 @@ std::vector<Line> linesOf(const Next& next, const Query& query) {
   }
   for (const almanac::Event& event : next.events) lines.push_back({event.at, "", nameOf(event)});
   if (next.eclipse) {
-    lines.push_back(
-        {next.eclipse->local->visibleFrom, "", eclipseTitle(next.eclipse->eclipse), seenText(*next.eclipse)});
+    const std::string most = words("Maximum") + " " + clockAt(bestMoment(*next.eclipse), query);
+    lines.push_back({next.eclipse->local->visibleFrom,
+                     "",
+                     eclipseTitle(next.eclipse->eclipse),
+                     {seenText(*next.eclipse), most}});
   }
   std::stable_sort(lines.begin(), lines.end(),
                    [](const Line& a, const Line& b) { return a.instant < b.instant; });
@@ -111,11 +114,11 @@ std::string text(const Query& query) {
   const auto lines = linesOf(answer(query), query);
   for (const Line& line : lines) {
     table.add({line.glyph, momentText(line.instant, query), waitText(line.instant, query), line.what});
-    if (!line.details.empty()) table.add({"", "", "", line.details});
+    for (const std::string& detail : line.details) table.add({"", "", "", detail});
   }
   return query.place.heading() + "\n" +
          (lines.empty() ? words("What is known ends with 2100.") + "\n"
-                        : table.text(query.boldHeadings) + noteOnTimeToCome(lines.front().instant));
+                        : table.text(query.boldHeadings) + noteOnTimeToCome(lines.back().instant));
 }
 
 }  // namespace

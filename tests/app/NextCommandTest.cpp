@@ -75,6 +75,15 @@ TEST_F(NextCommandTest, EndsWithTheNextEclipseThatIsSeenFromThePlace) {
   EXPECT_EQ(sydney["isVisible"], true);
 }
 
+TEST_F(NextCommandTest, AnEclipseThatIsPastItsGreatestElsewhereMayStillComeHere) {
+  // Greatest in Mexico at 18:17; in Iceland it begins at 18:49.
+  const auto eclipseAfter = [](const char* now) {
+    return json({"next", "--city", "Reykjavik", "--now", now}).back()["datetime"].get<std::string>();
+  };
+  EXPECT_EQ(eclipseAfter("2024-04-08T18:30:00Z").substr(0, 16), "2024-04-08T18:17");
+  EXPECT_EQ(eclipseAfter("2024-04-08T18:55:00Z").substr(0, 10), "2024-09-18");
+}
+
 TEST_F(NextCommandTest, InstantsOfPhasesAreThoseOfEveryZone) {
   for (const char* now : {"2024-12-31T23:00:00Z", "2025-01-01T00:30:00Z", "2009-12-31T19:12:00Z"}) {
     const Json universal = phasesOf(next(now));
@@ -98,12 +107,27 @@ TEST_F(NextCommandTest, KnowsNothingAfter2100) {
 
 TEST_F(NextCommandTest, SaysHowManyDaysAway) {
   const auto lines = linesOf(answer({"next", "--now", "2024-06-20T23:30:00Z", "--city", "London", "--24h"}));
-  ASSERT_EQ(lines.size(), 14U);
+  ASSERT_EQ(lines.size(), 15U);
   EXPECT_EQ(lines[4], "    Fri 2024-06-21 03:24  today       Moonset");
   EXPECT_EQ(lines[8], "🌕  Sat 2024-06-22 02:08  tomorrow    Full Moon");
   EXPECT_EQ(lines[9], "🌗  Fri 2024-06-28 22:53  in 7 days   Last Quarter");
   EXPECT_EQ(lines[12], "    Wed 2024-09-18 03:13  in 89 days  Partial Lunar Eclipse");
   EXPECT_EQ(lines[13], "                                      partial 0.08");
+}
+
+TEST_F(NextCommandTest, AnEclipseStandsWhereItBeginsAndSaysWhenMostIsSeen) {
+  const auto lines = linesOf(answer({"next", "--now", "2024-06-20T23:30:00Z", "--city", "London", "--24h"}));
+  EXPECT_EQ(lines[12].substr(4, 20), "Wed 2024-09-18 03:13");
+  EXPECT_EQ(lines[14], "                                      Maximum 03:44");
+}
+
+TEST_F(NextCommandTest, TheNoteOnTimeToComeIsThereForAnyOfTheLines) {
+  // The next eclipses seen in Helsinki are those of 9 December 2030 and 7 May 2031.
+  const std::string note = "Of years after 2030";
+  EXPECT_EQ(answer({"next", "--city", "Helsinki", "--now", "2030-06-20T00:00:00Z"}).find(note),
+            std::string::npos);
+  EXPECT_NE(answer({"next", "--city", "Helsinki", "--now", "2030-12-20T00:00:00Z"}).find(note),
+            std::string::npos);
 }
 
 }  // namespace
