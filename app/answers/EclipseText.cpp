@@ -90,21 +90,33 @@ std::string withHidden(const std::string& text, const std::string& hidden) {
   return hidden.empty() ? text : words("%1, %2", {text, hidden});
 }
 
+/// The part, a step below 1 at most where it falls short of the whole, so that it is not rounded up to it.
+double shortOfWhole(double part, double step) { return part < 1 ? std::min(part, 1 - step) : part; }
+
+std::string magnitudeText(const LocalEclipse& local, int fractionDigits) {
+  return decimalText(shortOfWhole(local.bestMagnitude, std::pow(10, -fractionDigits)), fractionDigits);
+}
+
+/// The covered part of the Sun's disc where the maximum is seen, in whole percent; none below one half.
+std::optional<std::string> coverText(const LocalEclipse& local) {
+  constexpr double percent = 0.01;
+  if (local.body != Body::sun || !local.maximum.isUp || local.obscuration < percent / 2) return std::nullopt;
+  return percentText(shortOfWhole(local.obscuration, percent));
+}
+
 /// "partial 36%": of a partial eclipse of the Sun the covered part of its disc, of the Moon the magnitude.
 std::string sizeText(const LocalEclipse& local) {
   const EclipseKind kind = seenKind(local);
   if (kind != EclipseKind::partial) return kindWord(kind);
-  const bool knowsCover = local.body == Body::sun && local.maximum.isUp;
-  return kindWord(kind) + " " +
-         (knowsCover ? percentText(local.obscuration) : decimalText(local.bestMagnitude, 2));
+  return kindWord(kind) + " " + coverText(local).value_or(magnitudeText(local, 2));
 }
 
 /// The same in a sentence.
 std::string sizeSentence(const LocalEclipse& local) {
-  const std::string magnitude = decimalText(local.bestMagnitude, 3);
-  if (local.body == Body::sun && local.maximum.isUp)
-    return words("magnitude %1, %2 of the Sun covered", {magnitude, percentText(local.obscuration)});
-  return words("magnitude %1", {magnitude});
+  const std::string magnitude = magnitudeText(local, 3);
+  const auto cover = coverText(local);
+  return cover ? words("magnitude %1, %2 of the Sun covered", {magnitude, *cover})
+               : words("magnitude %1", {magnitude});
 }
 
 void addMoment(TextTable& table, const std::string& what, const almanac::EclipseMoment& moment,

@@ -123,6 +123,25 @@ TEST_F(EclipseCommandTest, ReadsAsATableOfItsMoments) {
   EXPECT_EQ(lines[11].substr(0, 27), "Maximum               13:42");
 }
 
+TEST_F(EclipseCommandTest, WhatIsCoveredInPartIsNeverRoundedToTheWhole) {
+  // Just beside the path of the total phase near Exmouth.
+  const Arguments exmouth = {"--lat", "-22", "--lon", "113.9", "--tz", "Australia/Perth"};
+  const Json eclipse = eclipseOn("2023-04-20", exmouth)["local"];
+  EXPECT_EQ(eclipse["kind"], "partial");
+  EXPECT_GT(eclipse["magnitude"], 0.9995);
+  EXPECT_GT(eclipse["obscuration"], 0.9995);
+  EXPECT_NE(answer({"eclipse", "--lat", "-22", "--lon", "113.9", "--date", "2023-04-20"})
+                .find("Seen from here: partial, magnitude 0.999, 99% of the Sun covered."),
+            std::string::npos);
+  EXPECT_NE(answer({"eclipses", "2023", "--lat", "-22", "--lon", "113.9"}).find("partial 99%\n"),
+            std::string::npos);
+}
+
+TEST_F(EclipseCommandTest, WhatIsLessThanHalfAPercentIsToldByTheMagnitude) {
+  const std::string told = answer({"eclipse", "--city", "Helsinki", "--date", "1967-05-09"});
+  EXPECT_NE(told.find("Seen from here: partial, magnitude 0.004.\n"), std::string::npos) << told;
+}
+
 TEST_F(EclipseCommandTest, ADayWithoutOneSaysSo) {
   EXPECT_TRUE(answer({"eclipse", "--city", "New York", "--date", "2025-03-12"})
                   .ends_with("\nThere is no eclipse on this day.\n"));
@@ -209,7 +228,7 @@ TEST_F(EclipsesCommandTest, ReadAsATable) {
             "2024-09-17 21:44  Partial Lunar Eclipse   partial 0.08\n"
             "2024-10-02 13:45  Annular Solar Eclipse   not seen from here\n"
             "\nTime: when most is seen from here; of what is not seen, when it is greatest on Earth.\n");
-  EXPECT_NE(answer({"eclipses", "2026", "--city", "Madrid"}).find("partial 100%, partly after sunset"),
+  EXPECT_NE(answer({"eclipses", "2026", "--city", "Madrid"}).find("partial 99%, partly after sunset"),
             std::string::npos);
 }
 
