@@ -3,6 +3,7 @@
 #include <app/place/Cities.h>
 #include <app/text/Errors.h>
 #include <velmora/platform/resources/Words.h>
+#include <velmora/platform/time/NumberText.h>
 
 namespace velmora::app {
 namespace {
@@ -70,8 +71,9 @@ PlaceChoice upon(const PlaceChoice& usual, PlaceChoice choice) {
 }  // namespace
 
 std::string Place::heading() const {
-  return (location.name ? *location.name + "\n" : "") + location.locationText + ", " + zone.name() + "\n" +
-         originLine(origin);
+  const std::string above = height > 0 ? ", " + decimalText(height, 0) + " m" : "";
+  return (location.name ? *location.name + "\n" : "") + location.locationText + above + ", " + zone.name() +
+         "\n" + originLine(origin);
 }
 
 Place placeOf(const PlaceChoice& asked, const UsualPlace& usual) {

@@ -51,8 +51,8 @@ struct Place {
   /// Where the almanac looks from.
   almanac::Place observer() const { return {location.latitude, location.longitude, height}; }
 
-  /// The lines above an answer for people: the name, if there is one, then coordinates and zone, then where
-  /// the place comes from unless it was asked for.
+  /// The lines above an answer for people: the name, if there is one, then coordinates, height above the
+  /// horizon around, if there is one, and zone, then where the place comes from unless it was asked for.
   std::string heading() const;
 };
 

@@ -85,6 +85,8 @@ TEST_F(PlaceTest, TheHeadingNamesPlaceCoordinatesAndZone) {
   choice.latitude = -33.9;
   choice.longitude = -70.5;
   EXPECT_EQ(placeOf(choice, {}).heading(), "33.9000° S, 70.5000° W, UTC\n");
+  choice.height = 40;
+  EXPECT_EQ(placeOf(choice, {}).heading(), "33.9000° S, 70.5000° W, 40 m, UTC\n");
 }
 
 }  // namespace
