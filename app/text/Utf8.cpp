@@ -34,8 +34,15 @@ Character firstOf(std::string_view text) {
   return code < form->least || code > lastCharacter || isSurrogate ? Character() : Character{code, bytes};
 }
 
+/// A break of the line or of the paragraph, or a turn of the writing direction that lasts beyond the text.
+bool turnsLine(char32_t code) {
+  constexpr char32_t lineSeparator = 0x2028, lastOverride = 0x202E, firstIsolate = 0x2066,
+                     endOfIsolate = 0x2069;
+  return (code >= lineSeparator && code <= lastOverride) || (code >= firstIsolate && code <= endOfIsolate);
+}
+
 bool isControl(char32_t code) {
-  return code < firstPrintable || (code >= deleteCharacter && code < endOfSecondControls);
+  return code < firstPrintable || (code >= deleteCharacter && code < endOfSecondControls) || turnsLine(code);
 }
 
 }  // namespace

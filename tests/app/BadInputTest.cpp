@@ -112,6 +112,8 @@ INSTANTIATE_TEST_SUITE_P(
         {"NameThatIsNoUnicode", {"--name", "a\xff"}, {"is not UTF-8", "text in UTF-8"}},
         {"NameThatMovesTheCursor", {"--name", "a\x1b[2Jb"}, {"holds control characters", "one line of text"}},
         {"NameOfTwoLines", {"--name", "a\nb"}, {"holds control characters", "one line of text"}},
+        {"NameOfTwoLinesByUnicode", {"--name", "a\u2028b"}, {"'a?b' holds control characters"}},
+        {"NameThatTurnsTheLine", {"--name", "a\u202Eb"}, {"'a?b' holds control characters"}},
         {"Clock", {"--clock", "25h"}, {"'25h'", "24h or 12h"}},
         {"BothClocks", {"--24h", "--12h"}, {"contradicts"}},
         {"Locale", {"--locale", "en US"}, {"'en US'", "letters"}},
