@@ -13,7 +13,7 @@ namespace {
 
 double elevationOf(const Query& query) {
   if (!query.request.degrees) throw BadInput("the elevation is missing; accepted: -90 to 90 degrees");
-  return *query.request.degrees;
+  return *query.request.degrees + 0.0;  // 0 for -0
 }
 
 std::vector<almanac::Crossing> answer(const Query& query) {

@@ -220,6 +220,7 @@ void readJson(const Option& option, const Json& value, Request& request) {
     return (*text)(request, value.get_ref<const std::string&>());
   }
   if (const auto* number = std::get_if<Option::Number>(&option.read)) {
+    if (value.is_string()) throw BadInput("is a text and not a number");
     if (!value.is_number()) throw BadInput("is not a number");
     return (*number)(request, value.get<double>());
   }

@@ -88,6 +88,7 @@ TEST_F(ElevationCommandTest, PeopleReadTheCrossingsOrThatThereAreNone) {
       answer({"elevation", "0", "--body", "sun", "--city", "Guayaquil", "--date", "2024-06-20", "--24h"}));
   ASSERT_EQ(lines.size(), 7U);
   EXPECT_EQ(lines[2], "Sun at an elevation of 0.0°");
+  EXPECT_EQ(answer({"elevation", "-0", "--city", "Oslo"}), answer({"elevation", "0", "--city", "Oslo"}));
   EXPECT_EQ(lines[4], "Time              Azimuth  Direction");
   EXPECT_TRUE(lines[5].ends_with("  rising")) << lines[5];
   EXPECT_TRUE(lines[6].ends_with("  setting")) << lines[6];
