@@ -24,7 +24,7 @@ def test_day_of_midsummer_in_helsinki():
     assert day.end - day.start == timedelta(hours=24)
     assert day.sunrise.strftime("%H:%M") == "03:54"
     assert day.sunset.strftime("%H:%M") == "22:50"
-    assert day.daylight == pytest.approx(day.sunset - day.sunrise, abs=timedelta(seconds=1))
+    assert abs(day.daylight - (day.sunset - day.sunrise)) < timedelta(seconds=1)
     assert day.darkness == timedelta(0)
     assert day.sun is AllDay.NO
     assert [e.at for e in day.events] == sorted(e.at for e in day.events)
@@ -226,7 +226,7 @@ def test_program_prints_the_day_of_a_city():
     [
         (("today", "--city", "Nowhere at all"), "Nowhere at all"),
         (("today", "--city", "Portland"), "Portland, Maine"),
-        (("today", "--lat", "91", "--lon", "0"), "latitude is 91"),
+        (("today", "--lat", "91", "--lon", "0"), "latitude lies outside -90 to 90"),
         (("today", "--lat", "10"), "--lon"),
         (("today", "--lat", "10", "--lon", "10", "--tz", "Mars/Base"), "Mars/Base"),
         (("today", "--city", "Helsinki", "--date", "1850-01-01"), "1900 to 2100"),
