@@ -30,7 +30,7 @@ Json instantJson(const std::optional<Instant>& instant) {
   return instant ? Json(instantText(*instant)) : Json(nullptr);
 }
 
-/// The day's record where the tables have it, else the same of the almanac, which has no such factor.
+/// From the tables' record of the day. Where the tables end, from the almanac, which has no `fullFactor`.
 Json phaseOfDayJson(const MoonDay& day, const Place& place) {
   if (!isCovered(day.date)) {
     return {{"phase", day.phase},

@@ -14,7 +14,7 @@ namespace {
 
 constexpr bool use24HourClock = true;  // for record texts that are not shown
 
-/// Where an argument says no more than the offset of a place without a named zone, which no place here is.
+/// For an argument that only matters for places without a named zone, of which there are none here.
 constexpr Instant anyInstant{};
 
 std::int64_t zeroBased(std::chrono::month month) { return static_cast<unsigned>(month) - 1; }

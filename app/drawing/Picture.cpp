@@ -60,7 +60,7 @@ const DrawableView& viewOf(const Request& request) {
   return *view;
 }
 
-/// A shell takes what begins with "#" for a comment, so that it may be left out.
+/// The "#" may be left out, as a shell takes what begins with it for a comment.
 Color backgroundOf(const DrawingRequest& drawing) {
   if (!drawing.background) return VelmoraTheme::calendarTheme()->backgroundColor;
   const std::string& text = *drawing.background;
@@ -74,7 +74,7 @@ Color backgroundOf(const DrawingRequest& drawing) {
   return *color;
 }
 
-/// Of the year and of its neighbours, whose last and first phases reach into it.
+/// Checks the tables of the year and of its neighbours, whose last and first phases reach into it.
 void checkTables(std::chrono::year year) {
   wholeTable(year);
   for (const auto month : {std::chrono::January, std::chrono::December}) checkNeighbour(year / month);
@@ -97,7 +97,7 @@ struct Layout {
   Rect view;
 };
 
-/// Texts are measured as a phone writes them, and not kept so for the drawing.
+/// Measures texts as on a phone. What views make once per process is made again for the drawing's own device.
 Size usualSize(const Query& query, const DrawableView& view) {
   Size size;
   {
@@ -123,7 +123,7 @@ Layout layoutOf(const Query& query, const DrawableView& view) {
   return {size, Rect{0, 0, size.width, titleHeight}, {0, top, size.width, size.height - top}};
 }
 
-/// So that no request takes all the memory there is.
+/// Keeps a request from taking all the memory there is.
 void checkPixels(PictureFormat format, Size size, double scale) {
   constexpr double mostPixels = 64e6;
   if (format == PictureFormat::png && size.width * scale * size.height * scale > mostPixels)

@@ -9,8 +9,8 @@ struct RiseSetWidth {
   int faults;     ///< how many times run over another, or into the column of the dates, even so
 };
 
-/// For the selected month: of the widths from a tablet's to the widest picture's the least at which the
-/// fewest times run over something else. None is cut.
+/// For the selected month. Of the widths between a tablet's and the widest picture's it is the least at which
+/// as few times as possible run over something else. No time is cut.
 RiseSetWidth riseSetWidth();
 
 }  // namespace velmora::app

@@ -37,7 +37,7 @@ std::optional<double> azimuthOf(almanac::EventKind kind, const Query& query) {
   return std::nullopt;
 }
 
-/// At its next transit; by the hemisphere where none is known.
+/// Judged by the Moon's next transit, or by the hemisphere where the almanac knows of none.
 bool isHighestInTheNorth(const Query& query) {
   const Instant now = presentOf(query);
   const auto transit =
@@ -46,13 +46,13 @@ bool isHighestInTheNorth(const Query& query) {
   return transit->azimuth < dueEast || transit->azimuth > dueWest;
 }
 
-/// Changes right and left where the Moon is highest in the north; the views take it to be in the south.
+/// Swaps left and right where the Moon is highest in the north, as the views draw it highest in the south.
 AffineTransform mirror(const Query& query) {
   return AffineTransform::scaling(isHighestInTheNorth(query) ? -1 : 1, 1);
 }
 
-/// The turn of the half circle, which ends below and above its middle, that brings its lower end to the
-/// compass's point at the start angle.
+/// The angle by which to turn the half circle, whose ends lie below and above its middle, so that its lower
+/// end comes to the compass's point at the start angle.
 double turnToStart(const MoonAzimuthElevationView& way) {
   const Point start = MoonAzimuthElevationView::pointOnCircleWithCenter(
       way.bounds().center(), radiansFromDegrees(way.startAngle()), way.radius());
@@ -87,7 +87,7 @@ std::shared_ptr<CompassView> makeRing(const Query& query, double side, double ra
 
 using Making = std::shared_ptr<View> (*)(const Query&, Size);
 
-/// A view with parts of a fixed length, which a small picture shows as a larger one from afar.
+/// Some parts of the view have a fixed length, so a small picture shows a larger view, scaled down.
 std::shared_ptr<View> fromAfar(Making make, const Query& query, Size size) {
   constexpr double leastSide = 160;
   const double factor = std::min(std::min(size.width, size.height) / leastSide, 1.0);

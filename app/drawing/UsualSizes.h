@@ -14,14 +14,14 @@ constexpr double widestPicture = 1600;
 /// Of the text on one line.
 double widthOf(const std::string& text, const TextAttributes& attributes);
 
-/// A phone's width, or where two calendars' numbers stand side by side a tablet's: they would be cut.
+/// As wide as a phone; as a tablet where two calendars' numbers stand side by side, which a phone would cut.
 Size monthSize(const Query& query);
 
 /// So wide that every date of the selected year fits its column in the language.
 Size yearSize(const Query& query);
 
-/// Of the selected month's whole list, as wide as `riseSetWidth` says. Times that run over another even so are
-/// counted in the log.
+/// Of the selected month's whole list, as wide as `riseSetWidth` says. Times that run over another even so
+/// are counted in the log.
 Size riseSetSize(const Query& query);
 
 }  // namespace velmora::app
