@@ -34,6 +34,7 @@ constexpr City cairo{"Cairo", 30.044, 31.236, "Africa/Cairo"};
 constexpr City tokyo{"Tokyo", 35.69, 139.692, "Asia/Tokyo"};
 constexpr City helsinki{"Helsinki", 60.1699, 24.9384, "Europe/Helsinki"};
 constexpr City capeTown{"Cape Town", -33.925, 18.424, "Africa/Johannesburg"};
+constexpr City longyearbyen{"Longyearbyen", 78.22, 15.65, "Arctic/Longyearbyen"};
 
 /// web/test/golden.test.mjs draws the same in a browser.
 struct Scene {
@@ -86,15 +87,17 @@ const Scene scenes[] = {
     {"page-disc-south", "disc", {240, 240}, capeTown, 2025y / 9 / 18, {.at = utc(2025y / 9 / 18, 3h)}, {}},
 };
 
-class PageViewsTest : public ::testing::TestWithParam<Scene> {
+/// What the session sets for all that is drawn is set back.
+class PageSession {
  protected:
-  /// The session sets them for all that is drawn.
   ScopedLocale _locale{"en_US"};
   ScopedDefaultTimeZone _zone{"Etc/UTC"};
   ScopedDevice _device{Device()};
   Session& _session = Session::shared();
   ScopedMainBundle _resources{sourceDirectory() + "/app/resources"};
 };
+
+class PageViewsTest : public PageSession, public ::testing::TestWithParam<Scene> {};
 
 TEST_P(PageViewsTest, LooksAsItShould) {
   const Scene& scene = GetParam();
@@ -110,6 +113,27 @@ TEST_P(PageViewsTest, LooksAsItShould) {
   canvas.translate(0, -view->scrollOffset());
   view->render(canvas);
   EXPECT_TRUE(testing::looksLikeGolden(canvas, scene.name));
+}
+
+/// What is said of a day's rises and sets.
+std::string saidOf(Date day, const City& city) {
+  Session& session = Session::shared();
+  session.configure({.uses24Hours = true});
+  EXPECT_TRUE(session.select(city.latitude, city.longitude, city.name, city.zone, day));
+  const auto list = HostedView::named("riseset");
+  list->resize({390, 560}, 1);
+  return list->elements().at(static_cast<unsigned>(day.day()) - 1).element.label;
+}
+
+class PageRiseSetTest : public PageSession, public ::testing::Test {};
+
+TEST_F(PageRiseSetTest, NothingIsSaidOfAMoonsetThatADayDoesNotHave) {
+  EXPECT_EQ(saidOf(2025y / 9 / 3, helsinki), "Sep 3, 2025: moonrise 20:00, sunrise 06:20, sunset 20:18");
+}
+
+TEST_F(PageRiseSetTest, AMoonThatStaysUpOrDownIsSaidTo) {
+  EXPECT_EQ(saidOf(2026y / 6 / 14, longyearbyen), "Jun 14, 2026: Moon up all day, Sun up all day");
+  EXPECT_EQ(saidOf(2026y / 12 / 9, longyearbyen), "Dec 9, 2026: Moon down all day, Sun down all day");
 }
 
 INSTANTIATE_TEST_SUITE_P(Scenes, PageViewsTest, ::testing::ValuesIn(scenes), [](const auto& scene) {
