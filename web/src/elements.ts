@@ -183,7 +183,9 @@ function dayOf(text: string): Day {
 /** What the node says of the element, and where it lies. */
 function describe(node: HTMLElement, element: ViewElement, today: Day): void {
   const { frame, day, isSelected } = element;
-  node.setAttribute("aria-label", [element.label, element.value].filter(Boolean).join(", "));
+  // Of a day the label says all: the month's value names the month and day again, in English.
+  const value = day ? "" : element.value;
+  node.setAttribute("aria-label", [element.label, value].filter(Boolean).join(", "));
   node.style.left = `${frame.x}px`;
   node.style.top = `${frame.y}px`;
   node.style.width = `${frame.width}px`;
