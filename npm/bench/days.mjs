@@ -19,13 +19,18 @@ function byAstronomyEngine(date) {
 }
 
 const each = answer => dates => dates.forEach(answer);
+
+/** The same dates, none within a month of the one before. */
+const scattered = dates => dates.map((_, k) => dates[k * 577 % dates.length]);
+const byDay = date => almanac.day(place, zone, dayOf(date), {transits: false});
 const ways = {
   'astronomy-engine': each(byAstronomyEngine),
   'suncalc': each(date => {
     suncalc.getTimes(date, latitude, longitude);
     suncalc.getMoonTimes(date, latitude, longitude);
   }),
-  'almanac.day': each(date => almanac.day(place, zone, dayOf(date), {transits: false})),
+  'almanac.day, a day after the one before': each(byDay),
+  'almanac.day, of another time': dates => scattered(dates).forEach(byDay),
   'almanac.days, a day of its four years': dates =>
     almanac.days(place, zone, dayOf(dates[0]), dayOf(dates.at(-1)), {transits: false}),
   'calendar.riseSet, one twilight': each(date => calendar.riseSet(place, zone, dayOf(date))),

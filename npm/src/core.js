@@ -75,7 +75,14 @@ export class Core {
 
   double(at) { return this.doubles[at >> 3]; }
   integer(at) { return this.integers[at >> 2]; }
-  text(at) { return decoder.decode(this.bytes.subarray(at, this.bytes.indexOf(0, at))); }
+  text(at) {
+    let text = '';
+    for (let next = at, byte; (byte = this.bytes[next]) !== 0; ++next) {
+      if (byte > 127) return decoder.decode(this.bytes.subarray(at, this.bytes.indexOf(0, at)));
+      text += String.fromCharCode(byte); // which is quicker for a clock's text
+    }
+    return text;
+  }
   instant(at) { return new Date(Math.round(this.doubles[at >> 3] * 1000)); }
   setDouble(at, value) { this.doubles[at >> 3] = value; }
   setInteger(at, value) { this.integers[at >> 2] = value; }
@@ -179,7 +186,7 @@ export function integer(value, name) {
 
 /** Seconds since 1970 of a Date, or of what Temporal has with epochMilliseconds. */
 export function seconds(instant, name) {
-  const milliseconds = typeof instant?.getTime === 'function' ? instant.getTime() : instant?.epochMilliseconds;
+  const milliseconds = instant?.getTime?.() ?? instant?.epochMilliseconds;
   if (typeof milliseconds !== 'number') throw new TypeError(`${name} is neither a Date nor an instant of Temporal`);
   if (Number.isNaN(milliseconds)) throw new RangeError(`${name} is an invalid Date`);
   return milliseconds / 1000;
