@@ -8,7 +8,7 @@
 #include "tests/support/GoldenPicture.h"
 
 #include <velmora/platform/time/Locale.h>
-#include <velmora/posters/MoonYear.h>
+#include <velmora/posters/MoonDays.h>
 #include <velmora/posters/YearLayout.h>
 
 namespace velmora {
@@ -72,11 +72,11 @@ TEST(YearLayout, BeginsAMonthAtItsWeekday) {
   EXPECT_EQ(firstLine(year(2026) / 3, DayAlignment::date, 1), 0U);
 }
 
-TEST(MoonYear, HasItsPhasesOnTheLocalDate) {
+TEST(MoonDays, HasItsPhasesOnTheLocalDate) {
   const auto tokyo = PosterPlace{{35.6895, 139.6917, 0}, TimeZone::named("Asia/Tokyo").value(), "東京"};
   // Full Moon of 2026-01-03 10:03 UT, new of 2026-08-12 17:37 UT.
-  const MoonYear inHelsinki = MoonYear::of(testing::helsinki(), year(2026)).value();
-  const MoonYear inTokyo = MoonYear::of(tokyo, year(2026)).value();
+  const MoonDays inHelsinki = MoonDays::of(testing::helsinki(), year(2026)).value();
+  const MoonDays inTokyo = MoonDays::of(tokyo, year(2026)).value();
   EXPECT_EQ(inHelsinki.find(year(2026) / 1 / 3)->phase->phase, almanac::PrincipalPhase::fullMoon);
   EXPECT_EQ(inHelsinki.find(year(2026) / 8 / 12)->phase->phase, almanac::PrincipalPhase::newMoon);
   EXPECT_EQ(inTokyo.find(year(2026) / 8 / 13)->phase->phase, almanac::PrincipalPhase::newMoon);
@@ -84,16 +84,16 @@ TEST(MoonYear, HasItsPhasesOnTheLocalDate) {
   EXPECT_EQ(inHelsinki.days.size(), 365U);
 }
 
-TEST(MoonYear, RingsTheEclipsesSeenFromThePlace) {
-  const MoonYear moons = MoonYear::of(testing::helsinki(), year(2026)).value();
+TEST(MoonDays, RingsTheEclipsesSeenFromThePlace) {
+  const MoonDays moons = MoonDays::of(testing::helsinki(), year(2026)).value();
   EXPECT_TRUE(moons.find(year(2026) / 8 / 12)->eclipse) << "partial of the Sun, in the evening";
   EXPECT_TRUE(moons.find(year(2026) / 8 / 28)->eclipse) << "partial of the Moon, at dawn";
   EXPECT_FALSE(moons.find(year(2026) / 2 / 17)->eclipse) << "annular of the Sun, in Antarctica";
 }
 
-TEST(MoonYear, PacificApiaSkippedADay) {
+TEST(MoonDays, PacificApiaSkippedADay) {
   const PosterPlace apia = {{-13.8333, -171.7667, 0}, TimeZone::named("Pacific/Apia").value(), "Apia"};
-  const MoonYear moons = MoonYear::of(apia, year(2011)).value();
+  const MoonDays moons = MoonDays::of(apia, year(2011)).value();
   EXPECT_EQ(moons.days.size(), 364U);
   EXPECT_EQ(moons.find(year(2011) / 12 / 30), nullptr);
   EXPECT_NE(moons.find(year(2011) / 12 / 31), nullptr);

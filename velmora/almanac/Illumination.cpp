@@ -2,6 +2,7 @@
 
 #include <velmora/almanac/Observer.h>
 #include <velmora/almanac/Positions.h>
+#include <velmora/almanac/SkyAngles.h>
 #include <velmora/almanac/Topocentric.h>
 #include <velmora/almanac/Trigonometry.h>
 #include <velmora/ephemeris/TimeScales.h>
@@ -13,24 +14,9 @@ using ephemeris::Geocentric;
 
 constexpr double turn = ephemeris::radiansOfTurn;
 
-/// The part of a turn, [0, 1).
-double positive(double turns) {
-  const double part = turns - std::floor(turns);
-  return part < 1 ? part : 0;  // a tiny negative angle rounds up to the turn
-}
-
-double dot(const Local& a, const Local& b) { return a.east * b.east + a.north * b.north + a.up * b.up; }
-
-Local cross(const Local& a, const Local& b) {
-  return {a.north * b.up - a.up * b.north, a.up * b.east - a.east * b.up,
-          a.east * b.north - a.north * b.east};
-}
-
 /// The angle at a body from the north of the sky by its east to another direction, radians.
 double positionAngle(const Observer& observer, const Local& body, const Local& other) {
-  const Local pole{0, observer.cosLatitude, observer.sinLatitude};
-  const Local east = cross(pole, body), north = cross(body, east);
-  return arctangent(dot(other, east) * body.distance(), dot(other, north));
+  return angleBetween(body, {0, observer.cosLatitude, observer.sinLatitude}, other);
 }
 
 Local localOf(const Observer& observer, const Geocentric<double>& body, double meanMeridian) {
@@ -49,7 +35,7 @@ std::optional<Illumination> illumination(const Place& place, Instant at) {
   const Local lit{toSun.east - toMoon.east, toSun.north - toMoon.north, toSun.up - toMoon.up};
   const Local back{-toMoon.east, -toMoon.north, -toMoon.up};
   const double phaseAngle = arctangent(std::sqrt(dot(cross(lit, back), cross(lit, back))), dot(lit, back));
-  const double elongation = 360 * positive(moon.longitude - sun.longitude);
+  const double elongation = 360 * partOfTurn(moon.longitude - sun.longitude);
   const double brightLimb = positionAngle(observer, toMoon, toSun);
   const double parallactic = positionAngle(observer, toMoon, {0, 0, 1});
   return Illumination{
@@ -57,9 +43,9 @@ std::optional<Illumination> illumination(const Place& place, Instant at) {
       .isWaxing = elongation < 180,
       .elongation = elongation,
       .phaseAngle = phaseAngle / degree,
-      .brightLimbAngle = 360 * positive(brightLimb / turn),
+      .brightLimbAngle = 360 * partOfTurn(brightLimb / turn),
       .parallacticAngle = parallactic / degree,
-      .tilt = 360 * positive((brightLimb - parallactic) / turn),
+      .tilt = 360 * partOfTurn((brightLimb - parallactic) / turn),
   };
 }
 

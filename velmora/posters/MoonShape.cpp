@@ -41,6 +41,10 @@ void addHalfEllipse(Path& path, const Frame& frame, double towards, double fromA
   path.curveTo(frame.at(towards, -fromAside * c), frame.at(towards * c, -fromAside), frame.at(0, -fromAside));
 }
 
+Rect squareAround(Point center, double reach) {
+  return {center.x - reach, center.y - reach, 2 * reach, 2 * reach};
+}
+
 }  // namespace
 
 MoonLight tilted(const almanac::Illumination& moon) {
@@ -63,15 +67,21 @@ Path litPart(Point center, double radius, const MoonLight& light) {
 
 void drawMoon(Sheet& sheet, Point center, double radius, const MoonLight& light) {
   const Point middle = sheet.onPaper(center);
-  const Rect square = {middle.x - radius, middle.y - radius, 2 * radius, 2 * radius};
   Canvas& canvas = sheet.canvas();
   canvas.setFillColor(sheet.palette().moonDark);
-  canvas.fillEllipse(square);
+  canvas.fillEllipse(squareAround(middle, radius));
   canvas.setFillColor(sheet.palette().moonLit);
   canvas.fill(litPart(middle, radius, light));
   canvas.setStrokeColor(sheet.palette().moonRim);
   canvas.setLineWidth(std::max(leastRim * sheet.unit(), radius * rimShare));
-  canvas.strokeEllipse(square);
+  canvas.strokeEllipse(squareAround(middle, radius));
+}
+
+void drawRing(Sheet& sheet, Point center, double radius) {
+  const double gap = 1.4 * sheet.unit();
+  sheet.canvas().setStrokeColor(sheet.palette().accent);
+  sheet.canvas().setLineWidth(1.2 * sheet.unit());
+  sheet.canvas().strokeEllipse(squareAround(sheet.onPaper(center), radius + gap));
 }
 
 }  // namespace velmora

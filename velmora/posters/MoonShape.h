@@ -25,4 +25,7 @@ Path litPart(Point center, double radius, const MoonLight& light);
 /// Draws the disc around the place on the sheet.
 void drawMoon(Sheet& sheet, Point center, double radius, const MoonLight& light);
 
+/// The ring around the disc of a day with an eclipse.
+void drawRing(Sheet& sheet, Point center, double radius);
+
 }  // namespace velmora

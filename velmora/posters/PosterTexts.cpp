@@ -1,6 +1,8 @@
 #include <velmora/posters/PosterTexts.h>
 
 #include <cmath>
+#include <map>
+#include <tuple>
 
 #include <velmora/platform/resources/Words.h>
 #include <velmora/platform/time/DateFormatter.h>
@@ -11,11 +13,19 @@ namespace {
 
 constexpr double minute = 60;
 
+/// The locale's pattern for the fields: looked up once, as it takes longer than writing a text by it.
+const std::string& patternOf(std::string_view fields, const Locale& locale) {
+  thread_local std::map<std::tuple<std::string, bool, std::string>, std::string> patterns;
+  std::string& pattern = patterns[{locale.identifier(), locale.uses24HourClock(), std::string(fields)}];
+  if (pattern.empty()) pattern = DateFormatter::dateFormatFromTemplate(fields, locale);
+  return pattern;
+}
+
 std::string written(Instant instant, std::string_view fields, const Locale& locale, const TimeZone& zone) {
   DateFormatter formatter;
   formatter.setLocale(locale);
   formatter.setTimeZone(zone);
-  formatter.setDateFormat(DateFormatter::dateFormatFromTemplate(fields, locale));
+  formatter.setDateFormat(patternOf(fields, locale));
   return formatter.stringFromDate(instant);
 }
 

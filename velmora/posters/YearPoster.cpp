@@ -5,9 +5,9 @@
 #include <velmora/almanac/Events.h>
 #include <velmora/platform/resources/Words.h>
 #include <velmora/platform/time/DateFormatter.h>
+#include <velmora/posters/MoonDays.h>
 #include <velmora/posters/MoonNames.h>
 #include <velmora/posters/MoonShape.h>
-#include <velmora/posters/MoonYear.h>
 #include <velmora/posters/PosterTexts.h>
 #include <velmora/posters/Sheet.h>
 #include <velmora/posters/YearLayout.h>
@@ -22,7 +22,7 @@ Instant middayOf(year_month_day date) { return std::chrono::sys_days(date) + std
 /// Draws the days into the layout.
 class YearDrawing {
  public:
-  YearDrawing(Sheet& sheet, const YearLayout& layout, const MoonYear& moons, const PosterPlace& place,
+  YearDrawing(Sheet& sheet, const YearLayout& layout, const MoonDays& moons, const PosterPlace& place,
               const YearPosterStyle& style)
       : _sheet(sheet),
         _layout(layout),
@@ -83,7 +83,7 @@ class YearDrawing {
 
   void drawNotes() const {
     const LabelStyle style = {.size = 8.5 * _unit, .color = _palette.quiet};
-    const std::string evening = _plain.time(Instant(MoonYear::evening));
+    const std::string evening = _plain.time(Instant(MoonDays::evening));
     std::string note = words("The Moon of each day at %1", {evening});
     const std::vector<const MoonDay*> eclipses = eclipseDays(_moons);
     if (!eclipses.empty()) note += " · " + words("Ringed: an eclipse seen from here");
@@ -92,7 +92,7 @@ class YearDrawing {
       _sheet.label(eclipseText(*eclipses[i]->eclipse), _layout.eclipses[i], style);
   }
 
-  static std::vector<const MoonDay*> eclipseDays(const MoonYear& moons) {
+  static std::vector<const MoonDay*> eclipseDays(const MoonDays& moons) {
     std::vector<const MoonDay*> days;
     for (const MoonDay& day : moons.days)
       if (day.eclipse) days.push_back(&day);
@@ -120,20 +120,12 @@ class YearDrawing {
   void drawDay(const MoonDay& day, const YearLayout::Cell& cell) const {
     drawMoon(_sheet, cell.center, cell.radius,
              _style.isTilted ? tilted(day.moon) : upright(day.moon, _isSouthern));
-    if (day.eclipse) drawRing(cell);
+    if (day.eclipse) drawRing(_sheet, cell.center, cell.radius);
     const bool isPrincipal = day.phase.has_value();
     _sheet.label(_plain.number(static_cast<unsigned>(day.date.day())), cell.day,
                  {6.5 * _unit, isPrincipal ? _palette.ink : _palette.quiet, sideOfTexts(),
                   isPrincipal ? FontWeight::bold : FontWeight::regular});
     if (isPrincipal) _sheet.label(_local.time(day.phase->at), cell.time, _timeStyle);
-  }
-
-  void drawRing(const YearLayout::Cell& cell) const {
-    const double radius = cell.radius + 1.4 * _unit;
-    const Point middle = _sheet.onPaper(cell.center);
-    _sheet.canvas().setStrokeColor(_palette.accent);
-    _sheet.canvas().setLineWidth(1.2 * _unit);
-    _sheet.canvas().strokeEllipse({middle.x - radius, middle.y - radius, 2 * radius, 2 * radius});
   }
 
   std::string eclipseText(const almanac::LocalEclipse& eclipse) const {
@@ -143,7 +135,7 @@ class YearDrawing {
 
   Sheet& _sheet;
   const YearLayout& _layout;
-  const MoonYear& _moons;
+  const MoonDays& _moons;
   const YearPosterStyle& _style;
   const bool _isSouthern;
   const PosterTexts _local, _plain;
@@ -162,7 +154,7 @@ bool YearPoster::isCovered() const {
 }
 
 void YearPoster::compose(Sheet& sheet) const {
-  const auto moons = MoonYear::of(place(), _year);
+  const auto moons = MoonDays::of(place(), _year);
   if (!moons) return;
   const DayAlignment alignment = _style.alignsWeekdays ? DayAlignment::weekday : DayAlignment::date;
   const YearLayout layout =

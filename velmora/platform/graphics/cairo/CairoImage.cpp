@@ -72,7 +72,10 @@ void paintImage(cairo_t* context, const Image& image, const Rect& rect, double a
   cairo_scale(context, rect.width / static_cast<double>(image.pixelSize().width),
               rect.height / static_cast<double>(image.pixelSize().height));
   cairo_set_source_surface(context, surface, 0, 0);
-  cairo_pattern_set_extend(cairo_get_source(context), CAIRO_EXTEND_PAD);  // edges do not fade
+  // Edges of pixels must not fade; a PDF has no such edges, and would hold a copy as large as the page.
+  const bool isRecord =
+      cairo_surface_get_type(cairo_get_group_target(context)) == CAIRO_SURFACE_TYPE_RECORDING;
+  if (!isRecord) cairo_pattern_set_extend(cairo_get_source(context), CAIRO_EXTEND_PAD);
   cairo_paint_with_alpha(context, alpha);
   cairo_restore(context);
 }
