@@ -58,11 +58,14 @@ std::string spokenTime(std::string text) {
   return localizedText("%@ the next day", text);
 }
 
-/// None is the record without times.
+/// None is the record without times. Minutes without a text are where a bar ends that goes beyond the day.
 std::vector<std::string> eventsOf(const Body& body) {
   std::vector<std::pair<std::int64_t, std::string>> events;
-  if (body.rise >= 0) events.emplace_back(body.rise, localizedText(body.riseKey, spokenTime(body.riseText)));
-  if (body.set >= 0) events.emplace_back(body.set, localizedText(body.setKey, spokenTime(body.setText)));
+  const auto add = [&events](std::int64_t minutes, const char* key, const std::string& text) {
+    if (minutes >= 0 && !text.empty()) events.emplace_back(minutes, localizedText(key, spokenTime(text)));
+  };
+  add(body.rise, body.riseKey, body.riseText);
+  add(body.set, body.setKey, body.setText);
   std::sort(events.begin(), events.end());
   std::vector<std::string> texts;
   for (auto& [minute, text] : events) texts.push_back(std::move(text));
