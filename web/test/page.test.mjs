@@ -235,6 +235,15 @@ describe("Page", () => {
     await page.context.close();
   });
 
+  test("ThePageCanBeInstalled", async () => {
+    const page = await site.browser.newPage();  // a visitor's window is a private one, which installs nothing
+    await site.show(page);
+    const cdp = await page.createCDPSession();
+    assert.deepEqual((await cdp.send("Page.getAppManifest")).errors, []);
+    assert.deepEqual((await cdp.send("Page.getInstallabilityErrors")).installabilityErrors, []);
+    await page.close();
+  });
+
   test("ThePageOpensWithoutANetworkAfterOneVisit", async () => {
     const own = await Site.open();
     const page = await own.visitor();
