@@ -76,10 +76,15 @@ std::string jsonOf(const HostedElement& hosted, Date selected) {
   return object.text();
 }
 
+std::unique_ptr<Canvas2dCanvas>& lastCanvas() {
+  static std::unique_ptr<Canvas2dCanvas> canvas;
+  return canvas;
+}
+
 /// What is drawn on a canvas of that size, until the next drawing.
 const double* recorded(Size size, double scale, std::size_t* count,
                        const std::function<void(Canvas&)>& draw) {
-  static std::unique_ptr<Canvas2dCanvas> canvas;
+  auto& canvas = lastCanvas();
   canvas = std::make_unique<Canvas2dCanvas>(size, scale);
   canvas->save();
   canvas->clip(Path::rect({0, 0, size.width, size.height}));
@@ -225,6 +230,14 @@ EMSCRIPTEN_KEEPALIVE const char* velmora_web_pictures(int number) {
 EMSCRIPTEN_KEEPALIVE const double* velmora_web_draw(int number, double scale, std::size_t* count) {
   HostedView& drawn = view(number);
   return recorded(drawn.size(), scale, count, [&](Canvas& canvas) { drawn.render(canvas); });
+}
+
+/// What the last drawing shows in each of its squares: see `Canvas2dCanvas::squares`.
+EMSCRIPTEN_KEEPALIVE const double* velmora_web_squares(std::size_t* count) {
+  static std::vector<double> squares;
+  squares = lastCanvas()->squares();
+  *count = squares.size();
+  return squares.data();
 }
 
 EMSCRIPTEN_KEEPALIVE int velmora_web_part_count(int number) {

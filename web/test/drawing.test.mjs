@@ -1,6 +1,8 @@
 // What is drawn again after a change, and what stays.
 import assert from "node:assert/strict";
 import { after, before, describe, test } from "node:test";
+import { serve } from "../static.mjs";
+import { launch } from "./browser.mjs";
 import { at, drawn, isReal, press, Site } from "./pages.mjs";
 
 /** Has the page remember each canvas that is cleared to be drawn on. */
@@ -87,5 +89,60 @@ describe("Drawing", () => {
     await drawn(page);
     assert.equal(await page.evaluate(() => globalThis.painted.some(({ className }) => className === "face")), true);
     await page.context.close();
+  });
+});
+
+/** Draws a view after each of some changes; answers the share of pixels that a new drawing of all has otherwise. */
+async function differences({ base, kind, days, places }) {
+  const { loadVelmora } = await import(`${base}load.js`);
+  const settings = { locale: "en-US", clock: 12, weekStart: 0, secondCalendar: "none", theme: "dark", isTablet: false };
+  const velmora = await loadVelmora({ base, settings, place: places[0], day: days[0] });
+  const make = () => {
+    const view = velmora.createView(kind, document.createElement("canvas"));
+    view.resize(390, 430, 2);
+    return view;
+  };
+  const pixelsOf = ({ canvas }) => new Uint32Array(
+    canvas.getContext("2d").getImageData(0, 0, canvas.width, canvas.height).data.buffer);
+  const view = make();
+  view.draw();
+  const found = [];
+  for (const change of [...days.map((day) => () => velmora.selectDay(day)),
+    ...places.map((place) => () => velmora.select(place, days[1])),
+    () => velmora.configure({ ...settings, theme: "light" })]) {
+    change();
+    view.draw();
+    const whole = make();
+    whole.draw();
+    const expected = pixelsOf(whole), actual = pixelsOf(view);
+    found.push(expected.filter((pixel, at) => pixel !== actual[at]).length / expected.length);
+    whole.close();
+  }
+  return found;
+}
+
+describe("Changes", { skip: !isReal && "VELMORA_MODULE names no module" }, () => {
+  const day = (year, month, number) => ({ year, month, day: number });
+  const days = [day(2025, 9, 7), day(2025, 9, 8), day(2025, 9, 30), day(2025, 9, 1), day(2025, 10, 7), day(2026, 2, 28)];
+  const places = [
+    { latitude: 60.17, longitude: 24.94, zone: "Europe/Helsinki", name: "Helsinki" },
+    { latitude: -33.92, longitude: 18.42, zone: "Africa/Johannesburg", name: "Cape Town" },
+  ];
+
+  /** Browsers smooth edges a little otherwise where what is drawn ends beside them; a day of a month has 0.02. */
+  const most = 0.002;
+
+  test("WhatIsDrawnAgainLeavesWhatADrawingOfAllShows", async () => {
+    const module = await serve(process.env.VELMORA_MODULE);
+    const browser = await launch();
+    const page = await browser.newPage();
+    await page.goto(`${module.address}icons/sunrise.png`);
+    for (const kind of ["month", "year", "compass", "arc", "disc", "timeline", "night"]) {
+      const found = await page.evaluate(differences, { base: module.address, kind, days, places });
+      assert.equal(found.length, days.length + places.length + 1);
+      assert.ok(Math.max(...found) <= most, `${kind}: ${found}`);
+    }
+    await browser.close();
+    module.close();
   });
 });

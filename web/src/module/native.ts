@@ -55,11 +55,20 @@ export class Native {
 
   /** The operations of a view's drawing, or of a part of it, until the next call. */
   operations(view: number, scale: number, part?: number): Float64Array {
+    return part === undefined ? this.#numbers("velmora_web_draw", view, scale)
+      : this.#numbers("velmora_web_draw_part", view, part, scale);
+  }
+
+  /** A number for each square of that drawing; where two drawings have the same, they show the same. */
+  squares(): Float64Array {
+    return this.#numbers("velmora_web_squares");
+  }
+
+  #numbers(name: string, ...values: Value[]): Float64Array {
     return this.withBytes(new Uint8Array(8), (count) => {
-      const begin = part === undefined ? this.number("velmora_web_draw", view, scale, count)
-        : this.number("velmora_web_draw_part", view, part, scale, count);
+      const begin = this.number(name, ...values, count) / 8;
       const size = new Uint32Array(this.#module.HEAPU8.buffer, count, 1)[0]!;
-      return this.#module.HEAPF64.subarray(begin / 8, begin / 8 + size);
+      return this.#module.HEAPF64.subarray(begin, begin + size);
     });
   }
 

@@ -1,17 +1,41 @@
-import type { CivilDate, End, HostedView, Size, ViewElement, ViewKind, ViewOptions } from "../velmora";
+import type { CivilDate, End, Frame, HostedView, Size, ViewElement, ViewKind, ViewOptions } from "../velmora";
 import type { Module } from "./module";
 import { replay } from "./replay";
 import { svgOf } from "./svg";
 
-/** Draws on a canvas of that many pixels a point, the background below or none. */
+/** How wide and high a square of a drawing is, in pixels. */
+const square = 64;
+
+/** The pixels that hold all squares in which the drawings differ; none where they do not. */
+function differing(one: Float64Array, other: Float64Array, width: number): Frame | undefined {
+  const across = Math.max(Math.ceil(width / square), 1);
+  let left = Infinity, top = Infinity, right = -1, bottom = -1;
+  one.forEach((number, index) => {
+    if (number === other[index]) return;
+    const x = index % across, y = Math.floor(index / across);
+    [left, top] = [Math.min(left, x), Math.min(top, y)];
+    [right, bottom] = [Math.max(right, x), Math.max(bottom, y)];
+  });
+  if (right < 0) return undefined;
+  return { x: left * square, y: top * square, width: (right + 1 - left) * square, height: (bottom + 1 - top) * square };
+}
+
+/** Draws on a canvas of that many pixels a point, the background below or none; within the frame alone, if any. */
 function paint({ texts, pictures }: Module, canvas: HTMLCanvasElement, operations: Float64Array, scale: number,
-               background?: string): void {
+               { background, within }: { background?: string; within?: Frame } = {}): void {
   const context = canvas.getContext("2d");
   if (!context) return;
+  context.save();
   context.setTransform(1, 0, 0, 1, 0, 0);
+  if (within) {
+    context.beginPath();
+    context.rect(within.x, within.y, within.width, within.height);
+    context.clip();
+  }
   context.clearRect(0, 0, context.canvas.width, context.canvas.height);
   context.setTransform(scale, 0, 0, scale, 0, 0);
   replay(context, operations, texts, pictures);
+  context.restore();
   if (background === undefined) return;
   context.setTransform(1, 0, 0, 1, 0, 0);
   context.globalCompositeOperation = "destination-over";
@@ -48,6 +72,8 @@ export class CanvasView implements HostedView {
   #isTold = false;
   #isClosed = false;
   readonly #parts: Part[] = [];
+  /** Of the last drawing on the canvas. */
+  #squares: Float64Array | undefined;
 
   constructor(module: Module, readonly kind: ViewKind, readonly canvas: HTMLElement, options: ViewOptions) {
     this.#module = module;
@@ -85,7 +111,8 @@ export class CanvasView implements HostedView {
     if (!this.needsDisplay) return;
     const isStale = this.#isStale;
     this.#isStale = this.#isTold = false;
-    if (this.canvas instanceof HTMLCanvasElement) this.#paintOn(this.canvas);
+    if (isStale) this.#squares = undefined;
+    if (this.canvas instanceof HTMLCanvasElement) this.#paintChanges(this.canvas);
     else this.#paintParts(this.canvas, isStale);
     void this.#fetchPictures();
   }
@@ -102,7 +129,7 @@ export class CanvasView implements HostedView {
   async ready(): Promise<void> {
     await this.#fetchPictures();
     if (this.#isClosed) return;
-    this.#module.native.operations(this.#number, this.#scale);  // which hands the pictures to the browser
+    this.#drawnElsewhere(this.#scale);  // which hands the pictures to the browser
     await this.#module.pictures.settled();
   }
 
@@ -132,7 +159,7 @@ export class CanvasView implements HostedView {
   }
 
   svg(): string {
-    const operations = this.#module.native.operations(this.#number, 1).slice();
+    const operations = this.#drawnElsewhere(1).slice();
     return svgOf(operations, this.size, this.#background, this.#module.texts, this.#module.pictures);
   }
 
@@ -140,7 +167,8 @@ export class CanvasView implements HostedView {
     await this.ready();
     const canvas = document.createElement("canvas");
     fit(canvas, this.size, scale);
-    paint(this.#module, canvas, this.#module.native.operations(this.#number, scale), scale, this.#background);
+    paint(this.#module, canvas, this.#drawnElsewhere(scale), scale,
+          { background: this.#background });
     return new Promise((done, fail) =>
       canvas.toBlob((blob) => blob ? done(blob) : fail(new Error("the picture is too large for this browser"))));
   }
@@ -165,6 +193,12 @@ export class CanvasView implements HostedView {
     for (const listener of [...this.#listeners]) listener();
   }
 
+  /** Its operations; for the library it is drawn then, but what the page shows stays as outdated as it was. */
+  #drawnElsewhere(scale: number): Float64Array {
+    this.#isStale ||= this.needsDisplay;
+    return this.#module.native.operations(this.#number, scale);
+  }
+
   get #background(): string {
     return this.#module.native.text("velmora_web_view_background", this.#number);
   }
@@ -172,6 +206,18 @@ export class CanvasView implements HostedView {
   #paintOn(canvas: HTMLCanvasElement): void {
     fit(canvas, this.size, this.#scale);
     paint(this.#module, canvas, this.#module.native.operations(this.#number, this.#scale), this.#scale);
+  }
+
+  /** Where it shows something else than before; everywhere after more than the library's view may have changed. */
+  #paintChanges(canvas: HTMLCanvasElement): void {
+    const { native } = this.#module;
+    fit(canvas, this.size, this.#scale);
+    const operations = native.operations(this.#number, this.#scale);
+    const before = this.#squares;
+    this.#squares = native.squares().slice();
+    const within = before && differing(this.#squares, before, canvas.width);
+    if (before && !within) return;
+    paint(this.#module, canvas, operations, this.#scale, within && { within });
   }
 
   /** Those of which something has changed; all where more than the library's view may have. */

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -261,6 +262,72 @@ TEST_F(Canvas2dCanvasTest, LengthsOfDashesThatAreNoneMakeASolidLine) {
   const std::vector<Told> told = toldBy(canvas);
   EXPECT_EQ(told.at(0).numbers, (std::vector<double>{1, 2, 2, 4}));
   EXPECT_EQ(told.at(1).numbers, (std::vector<double>{0, 0}));
+}
+
+/// In which squares of 64 pixels the drawings differ, of a canvas of 4 by 3.
+std::vector<std::size_t> differing(const std::function<void(Canvas&)>& one,
+                                   const std::function<void(Canvas&)>& other) {
+  Canvas2dCanvas first(size, scale), second(size, scale);
+  one(first);
+  other(second);
+  const std::vector<double> before = first.squares(), after = second.squares();
+  EXPECT_EQ(before.size(), 12U);
+  std::vector<std::size_t> found;
+  for (std::size_t at = 0; at < before.size(); ++at) {
+    if (before.at(at) != after.at(at)) found.push_back(at);
+  }
+  return found;
+}
+
+TEST(CanvasSquares, AreThoseOfWhatChanged) {
+  const auto drawn = [](const Color& color) {
+    return [color](Canvas& canvas) {
+      canvas.fillRect({0, 0, 100, 80});
+      canvas.save();
+      canvas.setFillColor(color);
+      canvas.fillRect({40, 5, 20, 20});
+      canvas.restore();
+      canvas.fillRect({70, 70, 5, 5});
+    };
+  };
+  EXPECT_TRUE(differing(drawn(Color::white()), drawn(Color::white())).empty());
+  EXPECT_EQ(differing(drawn(Color::white()), drawn(Color::black())), (std::vector<std::size_t>{1}));
+}
+
+TEST(CanvasSquares, AreThoseOfWhatIsThereAloneInOneDrawing) {
+  const auto nothing = [](Canvas&) {};
+  EXPECT_EQ(differing(nothing,
+                      [](Canvas& canvas) {
+                        canvas.fillRect({30, 30, 4, 4});
+                      }),
+            (std::vector<std::size_t>{0, 1, 4, 5}));
+}
+
+TEST(CanvasSquares, FollowClipsDashesFramesAndFading) {
+  const auto line = [](Canvas& canvas) { canvas.strokeLine({1, 5}, {20, 5}); };
+  const auto after = [&](const std::function<void(Canvas&)>& change) {
+    return differing(line, [&](Canvas& canvas) {
+      change(canvas);
+      line(canvas);
+    });
+  };
+  const std::vector<std::size_t> first = {0};
+  EXPECT_EQ(after([](Canvas& canvas) { canvas.clip(Path::rect({0, 0, 10, 10})); }), first);
+  EXPECT_EQ(after([](Canvas& canvas) { canvas.setLineDash({1, 2}, 0); }), first);
+  EXPECT_EQ(after([](Canvas& canvas) { canvas.translate(1, 0); }), first);
+  EXPECT_EQ(after([](Canvas& canvas) { canvas.beginGroup(0.5); }), first);
+}
+
+TEST(CanvasSquares, AreOtherWhereWhatLiesAboveIsBelow) {
+  const auto inOrder = [](double one, double other) {
+    return [=](Canvas& canvas) {
+      for (const double white : {one, other}) {
+        canvas.setFillColor(Color::withWhite(white, 1));
+        canvas.fillRect({1, 1, 10, 10});
+      }
+    };
+  };
+  EXPECT_EQ(differing(inOrder(0, 1), inOrder(1, 0)), (std::vector<std::size_t>{0}));
 }
 
 }  // namespace

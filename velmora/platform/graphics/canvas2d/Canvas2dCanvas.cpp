@@ -30,6 +30,11 @@ const std::vector<double>& Canvas2dCanvas::operations() {
   return _recording->operations.numbers();
 }
 
+std::vector<double> Canvas2dCanvas::squares() {
+  _recording->endAll();
+  return _recording->squares.numbers();
+}
+
 void Canvas2dCanvas::save() { _recording->save(); }
 void Canvas2dCanvas::restore() { _recording->restore(); }
 void Canvas2dCanvas::setStrokeColor(const Color& color) { _recording->state().style.stroke = color; }
@@ -47,9 +52,7 @@ void Canvas2dCanvas::setLineDash(const std::vector<double>& lengths, double phas
       std::all_of(lengths.begin(), lengths.end(), [](double length) { return length >= 0; }) &&
       std::accumulate(lengths.begin(), lengths.end(), 0.0) > 0;
   const std::vector<double>& used = isValid ? lengths : std::vector<double>();
-  _recording->operations.add(Operation::lineDash,
-                             {std::isfinite(phase) ? phase : 0, static_cast<double>(used.size())});
-  _recording->operations.append(used);
+  _recording->setLineDash(used, std::isfinite(phase) ? phase : 0);
 }
 
 void Canvas2dCanvas::translate(double dx, double dy) {

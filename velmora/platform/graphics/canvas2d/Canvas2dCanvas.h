@@ -21,6 +21,10 @@ class Canvas2dCanvas : public Canvas {
   /// The operations, once the drawing is complete: groups that are still open are ended.
   const std::vector<double>& operations();
 
+  /// A number for each square of 64 by 64 pixels, row by row from the top left, for what is drawn there:
+  /// where two drawings have the same, their pixels are the same, so that a page draws again only the others.
+  std::vector<double> squares();
+
   void save() override;
   void restore() override;
   void setStrokeColor(const Color& color) override;

@@ -18,6 +18,11 @@ bool isFinite(const AffineTransform& frame) {
          std::isfinite(frame.d) && std::isfinite(frame.tx) && std::isfinite(frame.ty);
 }
 
+void addFrame(Fingerprint& fingerprint, const AffineTransform& frame) {
+  for (const double number : {frame.a, frame.b, frame.c, frame.d, frame.tx, frame.ty})
+    fingerprint.add(number);
+}
+
 bool meetsAny(const std::vector<Rect>& painted, const Rect& pixels) {
   return std::any_of(painted.begin(), painted.end(),
                      [&](const Rect& paint) { return !pixels.intersection(paint).isEmpty(); });
@@ -26,7 +31,9 @@ bool meetsAny(const std::vector<Rect>& painted, const Rect& pixels) {
 }  // namespace
 
 Canvas2dCanvas::Recording::Recording(Size size, double scale)
-    : _pixelsOfPoints(AffineTransform::scaling(scale, scale)), _states{State()} {
+    : squares({size.width * scale, size.height * scale}),
+      _pixelsOfPoints(AffineTransform::scaling(scale, scale)),
+      _states{State()} {
   state().clip = inPixels({0, 0, size.width, size.height});
 }
 
@@ -64,6 +71,7 @@ void Canvas2dCanvas::Recording::beginGroup(double alpha) {
                  {0, _groups.back().alpha, shown.x, shown.y, shown.width, shown.height});
   _states.push_back(state());
   state().kind = State::Kind::group;
+  state().shape.add(_groups.back().alpha);
   state().style.alpha = 1;
   state().style.blendMode = BlendMode::normal;
 }
@@ -77,6 +85,7 @@ void Canvas2dCanvas::Recording::endGroup() {
 void Canvas2dCanvas::Recording::endAll() {
   while (_states.size() > 1) pop();
   finishPendingClear();
+  finishPainting();
 }
 
 void Canvas2dCanvas::Recording::transform(const AffineTransform& step) {
@@ -94,7 +103,17 @@ void Canvas2dCanvas::Recording::clip(const Path& path) {
   finishPendingClear();
   const Rect box = path.boundingBox().value_or(Rect());
   state().clip = state().clip.intersection(inPixels(box));
+  const std::size_t beginsAt = operations.size();
   operations.add(Operation::clip, path);
+  addFrame(state().shape, state().frame);
+  state().shape.add(operations.numbers().data() + beginsAt, operations.size() - beginsAt);
+}
+
+void Canvas2dCanvas::Recording::setLineDash(const std::vector<double>& lengths, double phase) {
+  const std::size_t beginsAt = operations.size();
+  operations.add(Operation::lineDash, {phase, static_cast<double>(lengths.size())});
+  operations.append(lengths);
+  state().shape.add(operations.numbers().data() + beginsAt, operations.size() - beginsAt);
 }
 
 void Canvas2dCanvas::Recording::fill(const Path& path) {
@@ -133,6 +152,7 @@ void Canvas2dCanvas::Recording::finishPendingClear() {
   if (!_pendingClear) return;
   const Rect box = *_pendingClear->boundingBox();
   _groups.back().reachesBelow = true;
+  beginPainting(inPixels(box).intersection(state().clip));
   if (*_pendingClear == Path::rect(box)) {
     operations.add(Operation::clearRect, {box.x, box.y, box.width, box.height});
   } else {
@@ -147,7 +167,31 @@ bool Canvas2dCanvas::Recording::isShown(const Rect& rect) {
   const Rect shown = inPixels(rect).intersection(state().clip);
   if (shown.isEmpty()) return false;
   _groups.back().painted.push_back(shown);
+  beginPainting(shown);
   return true;
+}
+
+void Canvas2dCanvas::Recording::beginPainting(const Rect& pixels) {
+  finishPainting();
+  const State& now = state();
+  const Style& style = now.style;
+  Fingerprint fingerprint = now.shape;
+  addFrame(fingerprint, now.frame);
+  for (const Color& color : {style.fill, style.stroke}) {
+    for (const double part : {color.red, color.green, color.blue, color.alpha}) fingerprint.add(part);
+  }
+  for (const double number : {style.lineWidth, style.alpha, static_cast<double>(style.blendMode)}) {
+    fingerprint.add(number);
+  }
+  _painting = {pixels, operations.size(), fingerprint};
+}
+
+void Canvas2dCanvas::Recording::finishPainting() {
+  if (!_painting) return;
+  const std::vector<double>& numbers = operations.numbers();
+  _painting->fingerprint.add(numbers.data() + _painting->beginsAt, numbers.size() - _painting->beginsAt);
+  squares.add(_painting->pixels, _painting->fingerprint.value());
+  _painting.reset();
 }
 
 void Canvas2dCanvas::Recording::tellFill() {

@@ -5,6 +5,7 @@
 
 #include <velmora/platform/graphics/canvas2d/Canvas2dCanvas.h>
 #include <velmora/platform/graphics/canvas2d/Operations.h>
+#include <velmora/platform/graphics/canvas2d/Squares.h>
 
 namespace [[gnu::visibility("hidden")]] velmora {
 
@@ -24,12 +25,14 @@ class Canvas2dCanvas::Recording {
     Style told;   ///< as the page knows it
     AffineTransform frame;
     Rect clip;                 ///< holds all that may show, in pixels
+    Fingerprint shape;         ///< of clips, dashes and fading groups around
     bool isCollapsed = false;  ///< the frame has no area: nothing shows
   };
 
   Recording(Size size, double scale);
 
   OperationList operations;
+  Squares squares;
 
   State& state() { return _states.back(); }
   void save();
@@ -41,6 +44,7 @@ class Canvas2dCanvas::Recording {
 
   void transform(const AffineTransform& step);
   void clip(const Path& path);
+  void setLineDash(const std::vector<double>& lengths, double phase);
   void fill(const Path& path);
   void clear(const Path& path);
   void stroke(const Path& path);
@@ -62,7 +66,16 @@ class Canvas2dCanvas::Recording {
     std::vector<Rect> painted;  ///< in pixels
   };
 
+  /// What is painted next, of whose operations the first comes now.
+  struct Painting {
+    Rect pixels;
+    std::size_t beginsAt;
+    Fingerprint fingerprint;
+  };
+
   void pop();
+  void beginPainting(const Rect& pixels);
+  void finishPainting();
   void tellCompositing();
   Rect inPixels(const Rect& rect) const;
   bool isOverPaint(const Rect& pixels) const;
@@ -70,6 +83,7 @@ class Canvas2dCanvas::Recording {
   AffineTransform _pixelsOfPoints;
   std::vector<State> _states;
   std::vector<Group> _groups{Group()};
+  std::optional<Painting> _painting;
   std::optional<Path> _pendingClear;  ///< waits to see whether the same path covers it at once
 };
 
