@@ -18,9 +18,14 @@ const middleOf = (page, selector) => page.$eval(selector, (element) => {
   return { x: x + width / 2, y: y + height / 2, left: x, width };
 });
 
-async function tap(page, selector) {
-  const { x, y } = await middleOf(page, selector);
-  await page.touchscreen.tap(x, y);
+/** Taps days in turn. */
+async function taps(page, days) {
+  const points = [];
+  for (const day of days) points.push(await middleOf(page, `[data-day='${day}']`));
+  return (round) => {
+    const { x, y } = points[round % points.length];
+    return page.touchscreen.tap(x, y);
+  };
 }
 
 /** What is done over and over: `prepare` answers what one step does. */
@@ -35,10 +40,9 @@ const rows = [
       return (round) => page.mouse.move(left + 20 + ((round * 7) % (width - 40)), y);
     },
   })),
-  { name: "a day tapped in the month", view: "month", prepare: (page) => (round) =>
-    tap(page, `[data-day='2025-09-${10 + (round % 5)}']`) },
-  { name: "a day tapped in rise and set", view: "riseset", prepare: (page) => (round) =>
-    tap(page, `[data-day='2025-09-${String(8 + (round % 2)).padStart(2, "0")}']`) },
+  { name: "a day tapped in the month", view: "month",
+    prepare: (page) => taps(page, ["2025-09-10", "2025-09-11", "2025-09-12", "2025-09-13"]) },
+  { name: "a day tapped in rise and set", view: "riseset", prepare: (page) => taps(page, ["2025-09-08", "2025-09-09"]) },
   { name: "rise and set scrolled", view: "riseset", prepare: (page) => (round) =>
     page.evaluate((down) => scrollBy({ top: down, behavior: "instant" }), round % 20 < 10 ? 60 : -60) },
   { name: "the month pulled", view: "month", async prepare(page) {
