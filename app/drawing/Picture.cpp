@@ -151,6 +151,13 @@ void draw(CairoCanvas& canvas, const Layout& layout, const DrawableView& view, c
   canvas.restore();
 }
 
+void drawPages(CairoCanvas& canvas, const std::vector<std::shared_ptr<View>>& pages) {
+  for (const auto& page : pages) {
+    if (page != pages.front()) canvas.nextPage();
+    page->render(canvas);
+  }
+}
+
 void warnOfUncovered(const CairoCanvas& canvas) {
   std::string characters;
   for (const std::string& character : canvas.uncoveredCharacters()) characters += character;
@@ -191,7 +198,12 @@ Picture drawPicture(const Query& query) {
   checkPixels(file.format, layout.size, drawing.scale);
   CairoCanvas canvas(file.format, layout.size, drawing.scale, background);
   check(canvas.error());
-  draw(canvas, layout, view, query, background);
+  const auto makePages = makingOf(view).makePages;
+  if (makePages != nullptr && file.format == PictureFormat::pdf) {
+    drawPages(canvas, makePages(query, layout.size));
+  } else {
+    draw(canvas, layout, view, query, background);
+  }
   warnOfUncovered(canvas);
   std::string bytes;
   if (file.isStandardOutput()) {

@@ -2,6 +2,7 @@
 
 #include <map>
 
+#include <app/drawing/CalendarDrawing.h>
 #include <app/drawing/CalendarViews.h>
 #include <app/drawing/DarknessDrawing.h>
 #include <app/drawing/Hosting.h>
@@ -53,8 +54,11 @@ const ViewMaking& makingOf(const DrawableView& view) {
       {"disc", {fixedSize<240, 240>, makeDisc}},
       {"month", {monthSize, makeMonth}},
       {"year", {yearSize, makeYear}},
-      {"riseset", {riseSetSize, makeRiseSet, checkIcons}},
-      {"images", {fixedSize<390, 560>, makeView<MoonCalendarView>, checkMoonPictures}},
+      {"riseset", {.usualSize = riseSetSize, .make = makeRiseSet, .checkResources = checkIcons}},
+      {"images",
+       {.usualSize = fixedSize<390, 560>,
+        .make = makeView<MoonCalendarView>,
+        .checkResources = checkMoonPictures}},
       {"compass", {.usualSize = fixedSize<390, 390>, .make = makeCompass, .note = moonText}},
       {"azel", {.usualSize = fixedSize<390, 390>, .make = makeElevationArc, .note = moonText}},
       {"chart", {fixedSize<390, 390>, makeView<MoonPositionView>}},
@@ -62,6 +66,11 @@ const ViewMaking& makingOf(const DrawableView& view) {
       {"poster", {yearPosterSize, makeYearPoster}},
       {"night", {nightSize, makeNight}},
       {"darkness", {darknessSize, makeDarkness}},
+      {"calendar",
+       {.usualSize = calendarSize,
+        .make = makeCalendar,
+        .makePages = makeCalendarPages,
+        .checkResources = checkFullMoonPicture}},
   };
   return makings.at(view.name);
 }

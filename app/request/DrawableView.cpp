@@ -57,6 +57,9 @@ const std::vector<DrawableView>& allViews() {
       {.name = "darkness",
        .summary = "a poster: the nights of the year, moonlight, the darkest",
        .options = {"theme", "paper"}},
+      {.name = "calendar",
+       .summary = "a wall calendar: a month a page, a PDF the months of the year",
+       .options = {"theme", "paper", "tilt", "calendar", "week-start"}},
   };
   return views;
 }

@@ -1,0 +1,50 @@
+#include <app/drawing/CalendarDrawing.h>
+
+#include <app/answers/Days.h>
+#include <app/answers/ShippedData.h>
+#include <app/drawing/PosterHosting.h>
+#include <velmora/posters/CalendarPoster.h>
+#include <velmora/posters/SkyDisc.h>
+
+namespace velmora::app {
+namespace {
+
+using std::chrono::year_month;
+
+year_month monthOf(const Query& query) {
+  const CivilDate day = dayOf(query);
+  return {day.year(), day.month()};
+}
+
+CalendarPosterStyle styleOf(const Query& query) {
+  const DrawingRequest& drawing = query.request.drawing;
+  return {.theme = drawing.theme ? paperThemeOf(query) : PaperTheme::light,
+          .isTilted = drawing.isTilted,
+          .firstWeekday =
+              static_cast<unsigned>(drawing.weekStartDay.value_or(Locale::current().firstWeekday() - 1)),
+          .secondCalendar = drawing.calendar};
+}
+
+}  // namespace
+
+void checkFullMoonPicture(const Query&) { checkPictures(Bundle::library(), {fullMoonPicture}); }
+
+Size calendarSize(const Query& query) { return paperSize(query.request.drawing.paper); }
+
+std::shared_ptr<View> makeCalendar(const Query& query, Size size) {
+  const year_month month = monthOf(query);
+  return filling(std::make_shared<CalendarPoster>(posterPlaceOf(query), month, styleOf(query)), size);
+}
+
+std::vector<std::shared_ptr<View>> makeCalendarPages(const Query& query, Size size) {
+  const std::chrono::year year = monthOf(query).year();
+  const CalendarPosterStyle style = styleOf(query);
+  std::vector<std::shared_ptr<View>> pages;
+  for (unsigned month = 1; month <= 12; ++month)
+    pages.push_back(filling(
+        std::make_shared<CalendarPoster>(posterPlaceOf(query), year / std::chrono::month(month), style),
+        size));
+  return pages;
+}
+
+}  // namespace velmora::app
