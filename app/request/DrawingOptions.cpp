@@ -97,7 +97,7 @@ std::vector<Option> drawingOptions() {
       {"view", "VIEW", "what to draw", viewNames(), Text([](R& r, S& v) { r.drawing.view = view(v); })},
       {.name = "output",
        .valueName = "FILE",
-       .help = "file to write (-o for short): .png, .svg, .pdf or - (stdout)",
+       .help = "file to write (-o): .png, .svg, .pdf or - (stdout)",
        .accepts = "",
        .read = Text([](R& r, S& v) { r.drawing.output = v; }),
        .letter = 'o'},
@@ -163,7 +163,7 @@ std::string viewNotes() {
   TextTable views({"Views", ""});
   for (const DrawableView& view : allViews())
     views.add({"  " + std::string(view.name), std::string(view.summary)});
-  TextTable options({"Options of some views", ""});
+  TextTable options({"Options of views", ""});
   for (const std::string_view option : viewOptions())
     options.add({"  --" + std::string(option), viewsThatTake(option)});
   return views.text(false) + "\n" + options.text(false) + "\n" + calendarNotes();
