@@ -32,7 +32,7 @@ struct Passage {
 /// several at a time.
 void find(std::span<Passage> passages);
 
-/// The way of a body over a place, which must outlive it, as must the sky.
+/// The path of a body over a place, which must outlive it, as must the sky.
 class Course {
  public:
   Course(const Sky& sky, ephemeris::Body body, const Observer& observer);

@@ -57,8 +57,8 @@ struct Day {
   std::vector<Event> events;  ///< in time order, of the kinds asked for
   AllDay sun = AllDay::no;
   AllDay moon = AllDay::no;
-  Seconds daylight{};  ///< for which the Sun is up
-  Seconds darkness{};  ///< for which the Sun's centre is below −18°
+  Seconds daylight{};  ///< how long the Sun is up
+  Seconds darkness{};  ///< how long the Sun's centre is below −18°
 
   friend bool operator==(const Day&, const Day&) = default;
 };
@@ -93,12 +93,12 @@ std::vector<Day> days(const Place& place, const TimeZone& zone, std::chrono::yea
 std::optional<Day> day(const ephemeris::Paths& paths, const Place& place, Instant start, Instant end,
                        const EventChoice& choice = {}, const Convention& convention = {});
 
-/// Takes the day of the place of that number; the reference holds until it returns.
+/// Is given a place's number in the list and its day, a reference that is valid until this returns.
 using DayVisitor = std::function<void(std::size_t place, const Day& day)>;
 
 /// The events of [start, end) at many places, a map of the world for instance, on the threads of `run`, which
-/// call `use` for one place after the other in no certain order. Places that are not valid are left out.
-/// Whether the interval and the convention are valid and covered; if not, there is nothing.
+/// call `use` for each place, in no certain order and several at a time. Places that are not valid are left
+/// out. Returns whether the interval and the convention are valid and covered; if not, `use` is not called.
 bool forEachPlace(std::span<const Place> places, Instant start, Instant end, const DayVisitor& use,
                   const Executor& run = {}, const EventChoice& choice = {},
                   const Convention& convention = {});

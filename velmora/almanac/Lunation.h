@@ -14,7 +14,7 @@ using Quarter = std::int64_t;
 /// The last quarter whose mean instant lies at or before the instant. The true one is up to 15 hours off.
 Quarter meanQuarterBefore(Instant instant);
 
-/// About when a quarter is reached, and the Moon's way there.
+/// About when a quarter is reached, and how the Moon moves then.
 struct RoughPhase {
   Instant at{};                   ///< within seven minutes
   double elongationRate = 0.0;    ///< of the Moon's longitude from the Sun's, radians a second, within 0.6 %

@@ -11,8 +11,8 @@ struct Place {
   friend bool operator==(const Place&, const Place&) = default;
 };
 
-/// Whether every number of the place is finite and within its range. What is asked for any other place is
-/// answered by none.
+/// Whether every number of the place is finite and within its range. For any other place the operations of
+/// the almanac return none or an empty list.
 bool isValid(const Place& place);
 
 /// What people do not agree on: when a body counts as risen. As it stands, what national almanac offices

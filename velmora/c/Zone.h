@@ -16,7 +16,7 @@ namespace c {
 
 const TimeZone& zoneOf(const velmora_zone* zone);
 
-/// The day; refuses one that no calendar has, and one outside the years that are answered.
+/// The day; refuses one that no calendar has, and one outside the years that are covered.
 std::chrono::year_month_day dateOf(velmora_date date, const char* name);
 
 }  // namespace c

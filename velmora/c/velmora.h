@@ -1,7 +1,7 @@
 /**
  * Velmora in C: the one interface that every other language uses.
  *
- * Every operation may be called from any thread; no answer depends on what was asked before. What it fills
+ * Every operation may be called from any thread; no result depends on earlier calls. What it fills
  * belongs to the caller; only a zone is an object of the library's own, opened and closed. Structs are plain
  * and only grow by new operations, never by new fields.
  *
@@ -10,7 +10,7 @@
  * that does not exist likewise.
  *
  * Instants are seconds since 1970-01-01T00:00:00Z without leap seconds (as time_t, fractions included),
- * angles degrees, longitudes east positive, azimuths from north to east. Years 1900 to 2100 are answered.
+ * angles degrees, longitudes east positive, azimuths from north to east. The years 1900 to 2100 are covered.
  *
  * Lists: an operation that fills a list takes room for `capacity` items and sets `count` to how many there
  * are. Where that is more than the room, the first `capacity` are filled and the status is VELMORA_MORE; to
@@ -38,7 +38,7 @@ typedef enum velmora_status {
   VELMORA_MORE = 1,         /**< the list is longer than the room given; what fits is filled */
   VELMORA_NONE = 2,         /**< what was asked for does not exist: no such event, no such day at the place */
   VELMORA_BAD_ARGUMENT = 3, /**< a null pointer, a number out of its range, an unknown zone */
-  VELMORA_OUT_OF_YEARS = 4, /**< an instant or day outside the years that are answered */
+  VELMORA_OUT_OF_YEARS = 4, /**< an instant or day outside the years that are covered */
   VELMORA_NO_DATA = 5,      /**< a table of the library's resources cannot be read */
   VELMORA_FAILED = 6        /**< no memory, or another failure of the system */
 } velmora_status;
@@ -185,7 +185,7 @@ typedef struct velmora_place_day {
 
 /**
  * What happens in [start, end) at each of `count` places, a map of the world for instance, shared among that
- * many threads of the operation's own (1: the caller's alone).
+ * many threads of the operation's own, 1 to 1024 (1: the caller's alone).
  */
 VELMORA_API velmora_status velmora_at_places(const velmora_place* places, size_t count, double start,
                                              double end, const velmora_convention* convention,
@@ -225,7 +225,7 @@ typedef struct velmora_position {
   double semidiameter;                /**< of the disc, degrees */
 } velmora_position;
 
-/** The body's position at each of `count` instants; every field NaN where one is not answered. */
+/** The body's position at each of `count` instants; every field NaN where one is not covered. */
 VELMORA_API velmora_status velmora_positions(const velmora_place* place, int32_t body, const double* at,
                                              size_t count, velmora_position* positions);
 
@@ -241,7 +241,7 @@ typedef struct velmora_illumination {
   int32_t reserved;  /**< 0, for later */
 } velmora_illumination;
 
-/** How the Moon is lit at each of `count` instants; every number NaN where one is not answered. */
+/** How the Moon is lit at each of `count` instants; every number NaN where one is not covered. */
 VELMORA_API velmora_status velmora_illuminations(const velmora_place* place, const double* at, size_t count,
                                                  velmora_illumination* illuminations);
 
@@ -351,9 +351,10 @@ VELMORA_API velmora_status velmora_set_resources(const char* folder);
 
 /** One day of the phase calendar. */
 typedef struct velmora_calendar_day {
-  int32_t day;      /**< of the month */
-  int32_t phase;    /**< 0 full, 1 first quarter, 2 last quarter, 3 new; 4 to 7 between: waxing crescent and
-                       gibbous,    waning gibbous and crescent */
+  int32_t day; /**< of the month */
+  /** 0 full, 1 first quarter, 2 last quarter, 3 new; between them 4 waxing crescent, 5 waxing gibbous, 6
+   * waning gibbous, 7 waning crescent. */
+  int32_t phase;
   int32_t moon_age; /**< days from the last new moon, whose own day is 1 */
   int32_t image;    /**< number of the day's picture; -1 for none */
   double lit;       /**< lit part of the calendar's disc, 0..1, linear between principal phases by design */
@@ -363,13 +364,14 @@ typedef struct velmora_calendar_day {
 VELMORA_API velmora_status velmora_calendar_month(const velmora_zone* zone, int32_t year, int32_t month,
                                                   velmora_calendar_day* days, size_t capacity, size_t* count);
 
-/** The calendar's rise and set record of a day, found by its fixed search. Minutes from local midnight. */
+/** The calendar's rise and set record of a day, found by its fixed search. Minutes from local midnight, -1
+ * where there is none; a set of the next day may lie above 1440. */
 typedef struct velmora_rise_set_record {
   int32_t moon_rise;  /**< first moonrise */
   int32_t moon_set;   /**< first moonset */
   int32_t sun_rise;   /**< first sunrise */
   int32_t sun_set;    /**< first sunset */
-  int32_t day_length; /**< sunset minus sunrise, by the calendar's rules */
+  int32_t day_length; /**< minutes, sunset minus sunrise; no set counts as 1440, no rise as 0 */
   int32_t reserved;   /**< 0, for later */
   /** Clock texts "05:48", "05:48 **" of the next day, "--:--" or "--" for none; zero-terminated. */
   char moon_rise_text[16];      /**< moonrise */

@@ -44,10 +44,13 @@ class CityTable {
   City city(std::size_t number) const;
 
   /// The city of that name or time zone: "Munich", "MÜNCHEN", "東京", "Asia/Saigon"; after commas may come
-  /// its region and country in English, or their letters: "Portland, Maine", "Portland, US" (there the most
-  /// populous). Several, most populous first, where none of that name is named by a time zone or has ten
-  /// times the people of the next; less than a hundredth of the first's are too few. For this another name of
-  /// a city counts a hundredth of its own. None if unknown.
+  /// its region and country, in English or by their letters: "Portland, Maine", "Portland, US", which is the
+  /// most populous there.
+  ///
+  /// Of several cities with one name it is the one that a time zone is named after, else the one with ten
+  /// times the people of the next; else all those with at least a hundredth of the first one's people, most
+  /// populous first. In this comparison a city counts a hundredth of its people where the name is another one
+  /// than its own. Empty if unknown.
   std::vector<City> named(std::string_view spelling) const;
 
   /// The most populous cities with a name that begins so, at most that many, most populous first: "Portl",

@@ -36,10 +36,10 @@ struct Apparent {
 /// Kilometres of an astronomical unit (IAU 2012).
 constexpr double kilometresPerAstronomicalUnit = 149597870.7;
 
-/// The first instant that is answered, 1900-01-01T00:00Z, and the end, 2101-01-01T00:00Z, which is not.
+/// The first instant that is covered, 1900-01-01T00:00Z, and the end, 2101-01-01T00:00Z, which is not.
 Instant firstInstant();
 Instant endInstant();
-/// Whether the instant lies in the years that are answered; NaN and infinities do not.
+/// Whether the instant lies in the years that are covered; NaN and infinities do not.
 bool covers(Instant instant);
 
 /// Where the body stands at the instant; none outside 1900 to 2100, never an extrapolation.
@@ -51,7 +51,7 @@ void apparent(Body body, std::span<const Instant> instants, std::span<Apparent> 
 struct PathData;
 
 /// The paths of the Sun and the Moon over an interval, prepared once for many questions and places. The
-/// segments lie on a grid that is fixed in time, so that an answer never depends on what was asked before. An
+/// segments lie on a grid that is fixed in time, so that a result never depends on earlier calls. An
 /// immutable value, usable from any thread.
 class Paths {
  public:

@@ -40,7 +40,7 @@ class GeoLocationData {
   /// The shared default place, San Francisco. Callers that change it change the default for the process.
   static const std::shared_ptr<GeoLocationData>& DefaultLocation();
 
-  /// A new place from a geocoder's answer, with the zone's offset of the present instant.
+  /// A new place from what a geocoder says, with the zone's offset of the present instant.
   static std::shared_ptr<GeoLocationData> locationFromPlaceMark(const Placemark& placemark);
 
   /// Sets the coordinates (degrees) and their text.

@@ -58,7 +58,7 @@ class MoonPhaseData {
   MoonPhaseData& operator=(const MoonPhaseData&) = delete;
 
   /// Puts another source in place of the fixed rules for rise and set, or for the eclipse of a day; an empty
-  /// one puts the rules back. The month's rise/set items are built anew on demand.
+  /// one puts the rules back. The month's rise/set items are built anew on demand; nothing is posted.
   void setRiseSetSource(RiseSetSource source);
   void setEclipseSource(EclipseSource source) { _eclipseSource = std::move(source); }
 

@@ -21,8 +21,8 @@ class CircleGeometry {
 
   /// The squared distance of two points.
   static double CGPointDistanceSquared(Point from, Point to) {
-    const Point way = to - from;
-    return way.x * way.x + way.y * way.y;
+    const Point difference = to - from;
+    return difference.x * difference.x + difference.y * difference.y;
   }
 
   /// The distance of two points.

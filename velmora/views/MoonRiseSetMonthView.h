@@ -34,7 +34,7 @@ class MoonRiseSetMonthView : public View {
   std::int64_t alternateCalendarType() const { return _alternateCalendarType; }
   void setAlternateCalendarType(std::int64_t type) { _alternateCalendarType = type; }
 
-  /// For the host application: the rows draw with the shared calendar theme, or their own.
+  /// Held for the host application alone: the rows draw with the shared calendar theme, or their own.
   const std::shared_ptr<VelmoraTheme>& colorTheme() const { return _colorTheme; }
   void setColorTheme(std::shared_ptr<VelmoraTheme> theme) { _colorTheme = std::move(theme); }
 
@@ -51,7 +51,7 @@ class MoonRiseSetMonthView : public View {
   Size intrinsicContentSize() const override;
 
   /// How far down to scroll, in points, so that the day is the third row seen, or higher up the first days of
-  /// the month; 0 without items or rows.
+  /// the month; 0 without items or rows. Late in the month it may lie farther down than a list can scroll.
   double offsetForDay(std::int64_t day) const;
 
  private:

@@ -41,7 +41,7 @@ class iPhoneCalendarView : public View {
   double padding() const { return _padding; }
   void setPadding(double padding);
 
-  /// The weekday of the first column: 0 is the first of `shortWeekdayStrings`, Sunday.
+  /// The weekday of the first column, 0 to 6: 0 is the first of `shortWeekdayStrings`, Sunday.
   std::int64_t weekStartDay() const { return _weekStartDay; }
   void setWeekStartDay(std::int64_t index);
 

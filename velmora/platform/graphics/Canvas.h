@@ -33,7 +33,7 @@ class Canvas {
   virtual void setLineWidth(double width) = 0;
   /// Lengths of lines and gaps in turn; none is a solid line.
   virtual void setLineDash(const std::vector<double>& lengths, double phase = 0) = 0;
-  /// Multiplies the alpha of everything drawn, images included.
+  /// Multiplies the alpha of everything drawn, images included: 0 is invisible, 1 leaves it as it is.
   virtual void setAlpha(double alpha) = 0;
   virtual void setBlendMode(BlendMode mode) = 0;
 

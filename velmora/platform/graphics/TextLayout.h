@@ -9,7 +9,7 @@
 
 namespace velmora {
 
-/// One line of text, measured by the process's text engine, and the ways to draw it.
+/// One line of text, measured by the process's text engine, to be drawn at a point or in a rectangle.
 class TextLayout {
  public:
   /// Space at either end of the line when its glyphs are laid out one by one, in points.

@@ -9,9 +9,9 @@
 
 namespace velmora {
 
-/// The words of an almanac in the language of the current locale, from the library's string tables
-/// "Almanac.strings": the text under that English one, with the parts put where %1, %2 … stand. The English
-/// text itself where the language has none.
+/// A text of the almanac in the language of the current locale: what the library's string table
+/// "Almanac.strings" has under the English text, with the parts put where %1, %2 … stand. The English text
+/// itself where the language has none.
 std::string words(std::string_view english, std::initializer_list<std::string_view> parts = {});
 
 /// The same for a text that counts something, in the language's plural form for that many: the count stands
