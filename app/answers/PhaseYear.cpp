@@ -48,6 +48,18 @@ std::chrono::year coveredYear(const Query& query) {
   return year;
 }
 
+std::chrono::year_month coveredMonth(const Query& query) {
+  if (!query.request.month) {
+    const CivilDate today = coveredToday(query);
+    return {today.year(), today.month()};
+  }
+  const std::chrono::year_month month = *query.request.month;
+  if (!hasTable(month.year()))
+    throw BadInput("month " + dateText(month / 1).substr(0, std::string("YYYY-MM").size()) +
+                   " lies outside the phase tables; accepted: 2000-01 to 2040-12");
+  return month;
+}
+
 PhaseYear::PhaseYear(std::chrono::year year, const Place& place)
     : _year(year), _place(place), _table(wholeTable(year)) {}
 

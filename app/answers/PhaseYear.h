@@ -20,6 +20,9 @@ bool isCovered(CivilDate date);
 /// tables do not cover.
 std::chrono::year coveredYear(const Query& query);
 
+/// The month that the request asks for, likewise.
+std::chrono::year_month coveredMonth(const Query& query);
+
 /// A new moon, first quarter, full moon or last quarter as the tables have it, to the minute.
 struct RecordedPhase {
   Instant instant;

@@ -25,12 +25,6 @@ struct RecordedDay {
   std::optional<std::int32_t> image;
 };
 
-year_month monthOf(const Query& query) {
-  if (query.request.month) return *query.request.month;
-  const CivilDate today = coveredToday(query);
-  return {today.year(), today.month()};
-}
-
 /// Without the days that the place's clocks skipped.
 std::vector<RecordedDay> recordedDays(const PhaseYear& year, year_month month, const TimeZone& zone) {
   std::vector<RecordedDay> days;
@@ -66,7 +60,7 @@ Json phaseJson(const RecordedPhase& event, const Query& query) {
 }
 
 Json json(const Query& query) {
-  const year_month month = monthOf(query);
+  const year_month month = coveredMonth(query);
   const PhaseYear year(month.year(), query.place);
   Json days = Json::array(), events = Json::array();
   for (const RecordedDay& day : recordedDays(year, month, query.place.zone)) days.push_back(dayJson(day));
@@ -107,7 +101,7 @@ std::string listText(const std::vector<MoonDay>& days, const Query& query) {
 }
 
 std::string text(const Query& query) {
-  const year_month month = monthOf(query);
+  const year_month month = coveredMonth(query);
   PhaseYear(month.year(), query.place).days(month.month());  // names a table that is damaged
   const auto days = moonDaysOf(month, query.place.zone);
   return query.place.heading() + localDate(days.front().date, DateForm::monthAndYear) + "\n\n" +

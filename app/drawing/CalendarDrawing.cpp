@@ -3,6 +3,7 @@
 #include <app/answers/Days.h>
 #include <app/answers/ShippedData.h>
 #include <app/drawing/PosterHosting.h>
+#include <app/text/Errors.h>
 #include <velmora/posters/CalendarPoster.h>
 #include <velmora/posters/SkyDisc.h>
 
@@ -12,6 +13,9 @@ namespace {
 using std::chrono::year_month;
 
 year_month monthOf(const Query& query) {
+  const Request& request = query.request;
+  if (request.month && request.date) throw BadInput("month and date exclude each other: give one of the two");
+  if (request.month) return *request.month;
   const CivilDate day = dayOf(query);
   return {day.year(), day.month()};
 }
@@ -37,6 +41,7 @@ std::shared_ptr<View> makeCalendar(const Query& query, Size size) {
 }
 
 std::vector<std::shared_ptr<View>> makeCalendarPages(const Query& query, Size size) {
+  if (query.request.month) return {makeCalendar(query, size)};
   const std::chrono::year year = monthOf(query).year();
   const CalendarPosterStyle style = styleOf(query);
   std::vector<std::shared_ptr<View>> pages;

@@ -10,10 +10,11 @@
 namespace velmora::app {
 namespace {
 
-/// "--date YYYY-MM-DD".
+/// "--date YYYY-MM-DD". A value that may be left out where it stands by itself must follow its option.
 std::string spelled(const Option& option) {
-  return "--" + std::string(option.name) +
-         (option.valueName.empty() ? "" : " " + std::string(option.valueName));
+  std::string value(option.valueName);
+  if (value.starts_with('[')) value = value.substr(1, value.size() - 2);
+  return "--" + std::string(option.name) + (value.empty() ? "" : " " + value);
 }
 
 std::string optionsText(const Command& command, const DrawableView* view) {

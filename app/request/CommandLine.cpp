@@ -13,14 +13,15 @@
 namespace velmora::app {
 namespace {
 
-bool isPositional(const Option& option) {
+/// Whether some command takes the option without its name.
+bool isPositionalSomewhere(const Option& option) {
   const auto& commands = allCommands();
   return std::any_of(commands.begin(), commands.end(),
                      [&](const Command& command) { return command.positional == option.name; });
 }
 
-void declare(CLI::App& parser, const Option& option) {
-  std::string spelling = (isPositional(option) ? "" : "--") + std::string(option.name);
+void declare(CLI::App& parser, const Option& option, bool isPositional) {
+  std::string spelling = (isPositional ? "" : "--") + std::string(option.name);
   if (option.letter) spelling += std::string(",-") + option.letter;
   if (option.isSwitch()) {
     parser.add_flag(spelling);
@@ -30,17 +31,18 @@ void declare(CLI::App& parser, const Option& option) {
   }
 }
 
-/// A command takes its own options; in front of the command any may stand.
+/// A command takes its own options; in front of the command any may stand whose name all commands need.
 void declareAll(CLI::App& parser) {
   parser.set_help_flag();
   parser.allow_extras();
   parser.require_subcommand(0, 1);
   for (const Option& option : allOptions()) {
-    if (!isPositional(option)) declare(parser, option);
+    if (!isPositionalSomewhere(option)) declare(parser, option, false);
   }
   for (const Command& command : allCommands()) {
     CLI::App& subcommand = *parser.add_subcommand(std::string(command.name));
-    for (const std::string_view name : command.options) declare(subcommand, *findOption(name));
+    for (const std::string_view name : command.options)
+      declare(subcommand, *findOption(name), name == command.positional);
   }
 }
 

@@ -58,8 +58,8 @@ const std::vector<DrawableView>& allViews() {
        .summary = "a poster: the nights of the year, moonlight, the darkest",
        .options = {"theme", "paper"}},
       {.name = "calendar",
-       .summary = "a wall calendar: a month a page, a PDF the months of the year",
-       .options = {"theme", "paper", "tilt", "calendar", "week-start"}},
+       .summary = "a wall calendar: a month a page, a PDF of the year or of --month",
+       .options = {"theme", "paper", "tilt", "month", "calendar", "week-start"}},
   };
   return views;
 }

@@ -151,9 +151,9 @@ const std::vector<std::string_view>& pictureOptions() {
 }
 
 const std::vector<std::string_view>& viewOptions() {
-  static const std::vector<std::string_view> names = {"theme", "paper",    "landscape",  "align",
-                                                      "tilt",  "calendar", "week-start", "hide-eclipses",
-                                                      "phase", "heading"};
+  static const std::vector<std::string_view> names = {"theme",         "paper", "landscape", "align",
+                                                      "tilt",          "month", "calendar",  "week-start",
+                                                      "hide-eclipses", "phase", "heading"};
   return names;
 }
 

@@ -46,7 +46,7 @@ std::chrono::minutes step(double number) {
 std::chrono::year_month month(const std::string& text) {
   const auto month = monthFromText(text);
   if (!month) throw BadInput("is not a month");
-  if (month->year() < firstTableYear || month->year() > lastTableYear) throw BadInput("is out of range");
+  if (month->year() < firstYear || month->year() > lastYear) throw BadInput("is out of range");
   return *month;
 }
 
@@ -152,7 +152,7 @@ std::vector<Option> makeOptions() {
       {"from", "YYYY-MM-DD", "first day of a range", dateForm, Text([](R& r, S& v) { r.from = date(v); })},
       {"to", "YYYY-MM-DD", "last day of a range, at most 41 years long", dateForm,
        Text([](R& r, S& v) { r.to = date(v); })},
-      {"month", "[YYYY-MM]", "the month (default: the present one)", "YYYY-MM from 2000-01 to 2040-12",
+      {"month", "[YYYY-MM]", "the month (default: the present one)", "YYYY-MM from 1900-01 to 2100-12",
        Text([](R& r, S& v) { r.month = month(v); })},
       {"year", "[YYYY]", "the year (default: the present one)", "1900 to 2100",
        Number([](R& r, double v) { r.year = year(v); })},
