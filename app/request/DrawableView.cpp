@@ -9,45 +9,55 @@ namespace {
 constexpr std::string_view yearFields = "y", monthFields = "yMMMM", dayFields = "yMMMMd",
                            momentFields = "yMMMMdjmm";
 
+/// The options of a view that is made for a screen, besides its own: a poster lies on its own paper, holds
+/// its own title and is the same from every device.
+std::vector<std::string_view> onScreen(std::vector<std::string_view> own = {}) {
+  own.insert(own.end(), {"background", "no-title", "tablet"});
+  return own;
+}
+
 }  // namespace
 
 const std::vector<DrawableView>& allViews() {
   static const std::vector<DrawableView> views = {
       {.name = "disc",
        .summary = "the phase of the day",
-       .options = {"theme", "tilt"},
+       .options = onScreen({"theme", "tilt"}),
        .titleFields = dayFields,
        .needsTables = true},
       {.name = "month",
        .summary = "the phases of the month, rings around days with an eclipse",
-       .options = {"theme", "calendar", "week-start", "hide-eclipses"},
+       .options = onScreen({"theme", "calendar", "week-start", "hide-eclipses"}),
        .titleFields = monthFields,
        .needsTables = true},
       {.name = "year",
        .summary = "the full moons of the year, or its new moons: --phase new",
-       .options = {"phase"},
+       .options = onScreen({"phase"}),
        .titleFields = yearFields,
        .needsTables = true},
       {.name = "riseset",
        .summary = "rise and set of Moon and Sun, one row per day",
-       .options = {"theme", "calendar"},
+       .options = onScreen({"theme", "calendar"}),
        .titleFields = monthFields,
        .needsTables = true},
       {.name = "images",
        .summary = "the month in pictures of the Moon, north up everywhere",
+       .options = onScreen(),
        .titleFields = monthFields,
        .freeTop = 90,
        .needsTables = true},
       {.name = "compass",
        .summary = "a compass and the Moon's path, the Moon on it at its height",
-       .options = {"theme", "heading"},
+       .options = onScreen({"theme", "heading"}),
        .titleFields = momentFields},
       {.name = "azel",
        .summary = "the Moon's path and position, the zenith at the top",
-       .options = {"theme"},
+       .options = onScreen({"theme"}),
        .titleFields = momentFields},
-      {.name = "chart", .summary = "a fixed example in English: the Moon's paths on five days"},
-      {.name = "timeline", .summary = "the hours of a day", .titleFields = dayFields},
+      {.name = "chart",
+       .summary = "a fixed example in English: the Moon's paths on five days",
+       .options = onScreen()},
+      {.name = "timeline", .summary = "the hours of a day", .options = onScreen(), .titleFields = dayFields},
       {.name = "poster",
        .summary = "a poster: the Moons of the year, a column a month",
        .options = {"theme", "paper", "landscape", "align", "tilt"}},

@@ -145,15 +145,14 @@ std::vector<Option> drawingOptions() {
 }
 
 const std::vector<std::string_view>& pictureOptions() {
-  static const std::vector<std::string_view> names = {"output",   "size", "scale", "background",
-                                                      "no-title", "rtl",  "tablet"};
+  static const std::vector<std::string_view> names = {"output", "size", "scale", "rtl"};
   return names;
 }
 
 const std::vector<std::string_view>& viewOptions() {
-  static const std::vector<std::string_view> names = {"theme",         "paper", "landscape", "align",
-                                                      "tilt",          "month", "calendar",  "week-start",
-                                                      "hide-eclipses", "phase", "heading"};
+  static const std::vector<std::string_view> names = {
+      "theme",      "paper",         "landscape", "align",   "tilt",       "month",    "calendar",
+      "week-start", "hide-eclipses", "phase",     "heading", "background", "no-title", "tablet"};
   return names;
 }
 

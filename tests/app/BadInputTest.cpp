@@ -185,7 +185,7 @@ INSTANTIATE_TEST_SUITE_P(
         {"Heading", {"draw", "compass", "--heading", "361", "-o", "x.png"}, {"'361'", "-360 to 360"}},
         {"WeekStartOfTheYear",
          {"draw", "year", "--week-start", "monday", "-o", "x.png"},
-         {"draw year does not take week-start", "accepted", "phase, output, size"}},
+         {"draw year does not take week-start", "accepted", "phase, background", "tablet, output, size"}},
         {"MonthAndDate",
          {"draw", "calendar", "--month", "2026-05", "--date", "2026-05-10", "-o", "x.png"},
          {"exclude each other"}},

@@ -38,6 +38,12 @@ bool isPoster(const std::string& view) {
   return std::find(options.begin(), options.end(), "paper") != options.end();
 }
 
+/// As on a tablet, but for a poster, which is the same from every device.
+std::vector<std::string> onATablet(std::vector<std::string> arguments) {
+  if (!isPoster(arguments.front())) arguments.emplace_back("--tablet");
+  return arguments;
+}
+
 TEST_P(EachView, HasAUsualSizeAndLiesOnTheCalendarsBackground) {
   const DrawnPicture drawn = picture({GetParam()});
   EXPECT_GE(drawn.size().width, 240);
@@ -58,15 +64,28 @@ TEST_P(EachView, IsDrawnFromOnePixelOn) {
 TEST_P(EachView, ReadsFromRightToLeftAndInOtherScripts) {
   const ScopedLogRecord log;
   for (const char* locale : {"ar_EG", "he_IL", "ja_JP", "hi_IN", "zh_TW"})
-    EXPECT_GT(picture({GetParam(), "--locale", locale, "--rtl", "--tablet"}).size().width, 0) << locale;
+    EXPECT_GT(picture(onATablet({GetParam(), "--locale", locale, "--rtl"})).size().width, 0) << locale;
   EXPECT_EQ(log.messages(), std::vector<std::string>());
 }
 
 TEST_P(EachView, IsTheSameForEveryRequestWhateverWasDrawnBefore) {
   const std::string first = bytesOf(draw({GetParam()}));
-  draw({GetParam(), "--locale", "ar_EG", "--tablet", "--rtl", "--city", "Sydney", "--24h"}, "other.png");
+  draw(onATablet({GetParam(), "--locale", "ar_EG", "--rtl", "--city", "Sydney", "--24h"}), "other.png");
   draw({"month", "--theme", "default", "--calendar", "hebrew"}, "month.png");
   EXPECT_EQ(bytesOf(draw({GetParam()})), first);
+}
+
+TEST_P(EachView, RefusesTheOptionsOfAScreenOnPaper) {
+  const std::vector<std::vector<std::string>> options = {
+      {"--no-title"}, {"--tablet"}, {"--background", "white"}};
+  for (const auto& option : options) {
+    std::vector<std::string> arguments = {"draw", GetParam(), "-o", path("picture.png")};
+    arguments.insert(arguments.end(), option.begin(), option.end());
+    const Outcome outcome = runProgram(arguments);
+    EXPECT_EQ(outcome.status, isPoster(GetParam()) ? 2 : 0);
+    const std::string refusal = "draw " + GetParam() + " does not take " + option.front().substr(2) + ";";
+    EXPECT_EQ(outcome.err.find(refusal) != std::string::npos, isPoster(GetParam())) << outcome.err;
+  }
 }
 
 using DrawTest = PictureTest;

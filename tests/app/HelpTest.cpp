@@ -16,6 +16,7 @@ std::string valueOf(const Option& option) {
   if (option.name == "phase") return "full";
   if (option.name == "heading") return "90";
   if (option.name == "month") return "2026-05";
+  if (option.name == "background") return "white";
   const std::string accepted(option.accepts);
   return accepted.substr(0, accepted.find_first_of(", "));
 }
