@@ -145,6 +145,15 @@ TEST(AlmanacDay, IsTheSameAloneInAYearAndInAGrid) {
   }
 }
 
+TEST(AlmanacDay, NeedsNoPathsBeyondItsEnds) {
+  for (int number = 0; number < 40; ++number) {
+    const Instant start = sys_days(2024y / June / 1) + number * hours(24) + minutes(30),
+                  end = start + hours(24);
+    const auto paths = ephemeris::Paths::over(start, end);
+    EXPECT_EQ(day(*paths, tromso, start, end), day(tromso, start, end));
+  }
+}
+
 TEST(AlmanacDay, OfAYearHoldsTheEventsOfItsDays) {
   const auto single = days(london, zone("UTC"), 2024y / January / 1, 2024y / December / 31);
   std::vector<Event> events;

@@ -105,7 +105,7 @@ class FindersSky {
   explicit FindersSky(Instant start)
       : _start(start),
         _paths(*ephemeris::Paths::over(start, start + hours(48))),
-        _sky(_paths, Sky::blocksOf(start, start + hours(24))) {}
+        _sky(_paths, ephemeris::blocksOf(start, start + hours(24)), start, start + hours(24)) {}
 
   velmora::testing::PathOverEarth path(Body body) const {
     return [this, body](double seconds) {

@@ -39,9 +39,8 @@ struct Course::Question {
 
 Course::Course(const Sky& sky, ephemeris::Body body, const Observer& observer)
     : _sky(sky), _body(body), _observer(observer), _curvature(curvatureBound(observer.cosLatitude)) {
-  const std::vector<Vector>& samples = sky.samples(body);
-  for (std::size_t i = 0; i < samples.size(); ++i) {
-    const Local local = observer.seen(samples[i]);
+  for (std::size_t i = sky.firstSample(); i <= sky.lastSample(); ++i) {
+    const Local local = observer.seen(sky.at(body, i));
     _inverse[i] = 1 / local.distance();
     _up[i] = local.up * _inverse[i];
     _east[i] = local.east * _inverse[i];

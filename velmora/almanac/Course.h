@@ -45,8 +45,8 @@ class Course {
   void addPassages(const Level& level, std::size_t line, std::size_t firstSample, std::size_t lastSample,
                    std::vector<Passage>& passages) const&& = delete;
 
-  /// Whether the body is above the level at the first sample.
-  bool startsAbove(const Level& level) const { return level.heightOf(sampled(0)) >= 0; }
+  /// Whether the body is above the level at the sky's first sample.
+  bool startsAbove(const Level& level) const { return level.heightOf(sampled(_sky.firstSample())) >= 0; }
 
   /// Takes the passage one step nearer.
   void approach(Passage& passage) const;

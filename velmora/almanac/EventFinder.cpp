@@ -63,13 +63,14 @@ class EventFinder::Listing {
     if (wanted.astronomical) addLine({Body::sun, &fixed.astronomical, astronomicalDawn, astronomicalDusk});
     if (wanted.sunTransit) addLine({Body::sun, &fixed.meridian, transit, transit});
     if (wanted.moonTransit) addLine({Body::moon, &fixed.meridian, transit, transit});
+    _passages.reserve(2 * _lines.size());  // of a day, as a rule
   }
 
   /// A day at a time: its passages are enough to be found side by side, and few to be put into order.
   void run() {
     constexpr std::size_t samplesOfDay = 2 * Sky::samplesPerBlock;
-    const std::size_t end = _sky.sampleCount() - 1;
-    for (std::size_t sample = 0; sample < end; sample += samplesOfDay) {
+    const std::size_t end = _sky.lastSample();
+    for (std::size_t sample = _sky.firstSample(); sample < end; sample += samplesOfDay) {
       addEvents(sample, std::min(sample + samplesOfDay, end));
     }
   }

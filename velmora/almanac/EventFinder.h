@@ -38,7 +38,7 @@ class EventFinder {
 
   EventFinder(const Place& place, const Convention& convention, const Wanted& wanted);
 
-  /// Appends what there is in a sky, from its first block to its last.
+  /// Appends what there is in a sky, from its first sample to its last.
   void add(const Sky& sky, Findings& findings) const;
 
  private:

@@ -64,18 +64,15 @@ EventFinder::Wanted wantedBy(Body body, EventKind kind) {
   };
 }
 
-/// The paths over every block that a covered interval touches.
-Paths pathsOver(Interval interval) {
-  const auto [first, count] = Sky::blocksOf(interval.start, interval.end);
-  return *Paths::over(Sky::startOfBlock(first), Sky::startOfBlock(first + count));
-}
+/// The paths over a covered interval.
+Paths pathsOver(Interval interval) { return *Paths::over(interval.start, interval.end); }
 
 /// Calls `use` with one sky after the other, over all of the interval.
 template <class Use>
 void forEachSky(const Paths& paths, Interval interval, Use use) {
-  auto [first, count] = Sky::blocksOf(interval.start, interval.end);
+  auto [first, count] = ephemeris::blocksOf(interval.start, interval.end);
   for (; count > 0; first += Sky::maximumBlocks, count -= Sky::maximumBlocks) {
-    use(Sky(paths, {first, std::min(count, Sky::maximumBlocks)}));
+    use(Sky(paths, {first, std::min(count, Sky::maximumBlocks)}, interval.start, interval.end));
   }
 }
 
@@ -83,7 +80,9 @@ void forEachSky(const Paths& paths, Interval interval, Use use) {
 std::vector<Day> daysIn(const Paths& paths, Interval all, std::span<const Interval> intervals,
                         const Place& place, const EventChoice& choice, const Convention& convention) {
   const EventFinder finder(place, convention, wantedBy(choice));
+  constexpr std::size_t usualEvents = 16;  // of a day
   Findings findings;
+  findings.events.reserve(usualEvents * intervals.size());
   forEachSky(paths, all, [&](const Sky& sky) { finder.add(sky, findings); });
   DayRecord record(findings, choice);
   std::vector<Day> days;
@@ -139,7 +138,7 @@ bool forEachPlace(std::span<const Place> places, Instant start, Instant end, con
   if (!isValid(convention) || !isCovered(interval)) return false;
   const Paths paths = pathsOver(interval);
   std::vector<Sky> skies;
-  forEachSky(paths, interval, [&](Sky sky) { skies.push_back(std::move(sky)); });
+  forEachSky(paths, interval, [&](const Sky& sky) { skies.push_back(sky); });
   const auto part = [&](std::size_t number) {
     const std::size_t first = number * placesOfPart;
     for (std::size_t k = first; k < std::min(first + placesOfPart, places.size()); ++k) {
@@ -169,7 +168,7 @@ std::vector<Crossing> crossings(const Place& place, Body body, double altitude, 
   forEachSky(pathsOver(interval), interval, [&](const Sky& sky) {
     std::vector<Passage> passages;
     const Course course(sky, body, observer);  // the passages point to it
-    course.addPassages(level, 0, 0, sky.sampleCount() - 1, passages);
+    course.addPassages(level, 0, sky.firstSample(), sky.lastSample(), passages);
     find(passages);
     for (const Passage& passage : passages) {
       const Instant at = sky.timeOf(passage.sample) + Seconds(passage.seconds);

@@ -3,47 +3,42 @@
 #include <algorithm>
 #include <cmath>
 
-#include <velmora/ephemeris/PathData.h>
-
 namespace [[gnu::visibility("hidden")]] velmora {
 namespace almanac {
 
 using ephemeris::Body;
 
-Sky::Blocks Sky::blocksOf(Instant start, Instant end) {
-  auto first = static_cast<std::int64_t>(std::floor(unixSeconds(start) / blockSeconds));
-  auto past = static_cast<std::int64_t>(std::ceil(unixSeconds(end) / blockSeconds));
-  // The quotient of an instant next to a block's start is rounded to that block.
-  if (start < startOfBlock(first)) --first;
-  if (startOfBlock(past) < end) ++past;
-  return {first, past - first};
-}
-
-Sky::Sky(const ephemeris::Paths& paths, Blocks blocks)
-    : _first(blocks.first), _turns(static_cast<std::size_t>(blocks.count) * samplesPerBlock + 1) {
+Sky::Sky(const ephemeris::Paths& paths, ephemeris::Blocks blocks, Instant from, Instant to)
+    : _first(blocks.first),
+      _sampleCount(static_cast<std::size_t>(blocks.count) * samplesPerBlock + 1),
+      _firstSample(sampleFrom(from)),
+      _lastSample(sampleFrom(to)) {
+  if (_firstSample > 0) --_firstSample;
   const Turn step = Turn::ofSmall(turnPerSecond * sampleSeconds);
-  std::vector<double> terrestrial(sampleCount());
-  for (std::size_t first = 0; first < sampleCount(); first += samplesPerBlock) {
+  Values terrestrial;
+  for (std::size_t first = 0; first < _sampleCount; first += samplesPerBlock) {
     const Instant start = timeOf(first);
     const ephemeris::Stretch& stretch = stretchAt(paths.data(), start);  // which ends with a block
     _turns[first] = Turn::of(siderealAt(stretch, start));
-    const std::size_t past = std::min(first + samplesPerBlock, sampleCount());
+    const std::size_t past = std::min(first + samplesPerBlock, _sampleCount);
     for (std::size_t sample = first; sample < past; ++sample) {
       if (sample > first) _turns[sample] = _turns[sample - 1] + step;
       terrestrial[sample] = terrestrialAt(stretch, timeOf(sample));
     }
   }
-  _bodies = {over(paths, Body::sun, terrestrial), over(paths, Body::moon, terrestrial)};
+  for (const Body body : {Body::sun, Body::moon}) follow(paths, body, terrestrial);
 }
 
-Sky::BodyInSky Sky::over(const ephemeris::Paths& paths, Body body,
-                         const std::vector<double>& terrestrial) const {
-  BodyInSky result{std::vector<Piece>(sampleCount() / samplesPerBlock), std::vector<Vector>(sampleCount())};
+void Sky::follow(const ephemeris::Paths& paths, Body body, const Values& terrestrial) {
+  BodyInSky& result = _bodies[static_cast<std::size_t>(body)];
   std::array<Vector, samplesPerBlock + 1> v;  // of a block, in the frame of the stars
-  for (std::size_t sample = 0; sample < sampleCount(); ++sample) {
+  for (std::size_t sample = 0; sample < _sampleCount; ++sample) {
     const std::size_t inBlock = sample % samplesPerBlock;
     const Vector place = vectorAt(paths.data(), body, terrestrial[sample]);
-    result.samples[sample] = _turns[sample].applied(place);
+    const Vector turned = _turns[sample].applied(place);
+    result.x[sample] = turned.x;
+    result.y[sample] = turned.y;
+    result.z[sample] = turned.z;
     if (inBlock == 0 && sample > 0) {
       v[samplesPerBlock] = place;
       result.pieces[sample / samplesPerBlock - 1] = {
@@ -53,7 +48,13 @@ Sky::BodyInSky Sky::over(const ephemeris::Paths& paths, Body body,
     }
     v[inBlock] = place;
   }
-  return result;
+}
+
+std::size_t Sky::sampleFrom(Instant at) const {
+  const double last = static_cast<double>(_sampleCount - 1);
+  const double samples = std::clamp((at - timeOf(0)).count() / sampleSeconds, 0.0, last);
+  const auto sample = static_cast<std::size_t>(samples);
+  return samples < last && timeOf(sample) < at ? sample + 1 : sample;
 }
 
 }  // namespace almanac

@@ -3,11 +3,10 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <vector>
 
 #include <velmora/almanac/Quartic.h>
 #include <velmora/almanac/Vectors.h>
-#include <velmora/ephemeris/Ephemeris.h>
+#include <velmora/ephemeris/PathData.h>
 #include <velmora/ephemeris/Sines.h>
 #include <velmora/platform/time/Instant.h>
 
@@ -23,32 +22,27 @@ inline constexpr double turnPerSecond = 7.29211514670698e-5 + 7.0856e-12;
 /// so that what is found between two samples never depends on the interval that was asked for.
 class Sky {
  public:
-  static constexpr double sampleSeconds = 10800;
   static constexpr std::size_t samplesPerBlock = 4;
-  static constexpr double blockSeconds = sampleSeconds * samplesPerBlock;
+  static constexpr double sampleSeconds = ephemeris::blockSeconds / samplesPerBlock;
   static constexpr std::int64_t maximumBlocks = 64;  ///< of one sky: 32 days
   static constexpr std::size_t maximumSamples = maximumBlocks * samplesPerBlock + 1;
 
-  /// The blocks that a stretch of time touches, numbered from 1970.
-  struct Blocks {
-    std::int64_t first, count;
-  };
-  static Blocks blocksOf(Instant start, Instant end);
-  static Instant startOfBlock(std::int64_t block) {
-    return instantFromUnixSeconds(blockSeconds * static_cast<double>(block));
-  }
+  /// Of `maximumBlocks` at most, which the paths must cover, to be looked at between two instants.
+  Sky(const ephemeris::Paths& paths, ephemeris::Blocks blocks, Instant from, Instant to);
 
-  /// Of `maximumBlocks` at most, which the paths must cover.
-  Sky(const ephemeris::Paths& paths, Blocks blocks);
-
-  /// Those of all blocks, and the first of the block after.
-  std::size_t sampleCount() const { return _turns.size(); }
+  /// From the last sample before the one instant to the first at the other or after, as far as the blocks
+  /// reach.
+  std::size_t firstSample() const { return _firstSample; }
+  std::size_t lastSample() const { return _lastSample; }
   Instant timeOf(std::size_t sample) const {
-    return startOfBlock(_first) + Seconds(sampleSeconds * static_cast<double>(sample));
+    return ephemeris::startOfBlock(_first) + Seconds(sampleSeconds * static_cast<double>(sample));
   }
 
-  /// Where the body is at every sample, kilometres.
-  const std::vector<Vector>& samples(ephemeris::Body body) const { return of(body).samples; }
+  /// Where the body is at a sample, kilometres.
+  Vector at(ephemeris::Body body, std::size_t sample) const {
+    const BodyInSky& places = of(body);
+    return {places.x[sample], places.y[sample], places.z[sample]};
+  }
 
   /// Where the body is, that many seconds after a sample and before the next, and how it moves: km, km/s.
   Motion motion(ephemeris::Body body, std::size_t sample, double seconds) const {
@@ -90,18 +84,23 @@ class Sky {
   struct Piece {
     Quartic x, y, z;
   };
+  using Values = std::array<double, maximumSamples>;
   struct BodyInSky {
-    std::vector<Piece> pieces;  ///< one a block
-    std::vector<Vector> samples;
+    std::array<Piece, maximumBlocks> pieces;
+    Values x, y, z;  ///< at the samples
   };
 
   const BodyInSky& of(ephemeris::Body body) const { return _bodies[static_cast<std::size_t>(body)]; }
-  /// Samples at those seconds of Terrestrial Time.
-  BodyInSky over(const ephemeris::Paths& paths, ephemeris::Body body,
-                 const std::vector<double>& terrestrial) const;
+  /// The first sample at the instant or after; the last of all if none is.
+  std::size_t sampleFrom(Instant at) const;
+  /// Fills in the body's places at those seconds of Terrestrial Time.
+  void follow(const ephemeris::Paths& paths, ephemeris::Body body, const Values& terrestrial);
 
+  // Of the arrays only what is in use is ever set.
   std::int64_t _first;
-  std::vector<Turn> _turns;  ///< at each sample
+  std::size_t _sampleCount;  ///< of all blocks, and the first of the block after
+  std::size_t _firstSample, _lastSample;
+  std::array<Turn, maximumSamples> _turns;  ///< at each sample
   std::array<BodyInSky, 2> _bodies;
 };
 

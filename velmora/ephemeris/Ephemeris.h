@@ -55,8 +55,8 @@ struct PathData;
 /// immutable value, usable from any thread.
 class Paths {
  public:
-  /// Of every instant from `from` to `to`, both included, with a margin of eight hours; none where one of
-  /// them is not covered, but that `to` may be `endInstant()`, or `to` lies before `from`.
+  /// Of every instant from `from` to `to`, both included, and of the half-days of UTC that they lie in; none
+  /// where one of them is not covered, but that `to` may be `endInstant()`, or `to` lies before `from`.
   static std::optional<Paths> over(Instant from, Instant to);
 
   /// The geocentric apparent place of the body as a vector of the true equator, its x axis turned back along

@@ -4,6 +4,7 @@
 #include <array>
 #include <cmath>
 #include <cstddef>
+#include <cstdint>
 #include <iterator>
 #include <vector>
 
@@ -43,6 +44,16 @@ struct PathData {
 
 namespace [[gnu::visibility("hidden")]] velmora {
 namespace ephemeris {
+
+/// The almanac asks for whole blocks of time, which are numbered from 1970: those that an interval touches.
+struct Blocks {
+  std::int64_t first, count;
+};
+inline constexpr double blockSeconds = secondsPerDay / 2;
+inline Instant startOfBlock(std::int64_t block) {
+  return instantFromUnixSeconds(blockSeconds * static_cast<double>(block));
+}
+Blocks blocksOf(Instant start, Instant end);
 
 constexpr double segmentSeconds(Body body) { return (body == Body::moon ? 4 : 16) * secondsPerDay; }
 

@@ -13,8 +13,6 @@ namespace {
 
 using namespace std::chrono;
 
-constexpr auto margin = hours(8);
-
 using Square = std::array<std::array<double, nodesOfSegment>, nodesOfSegment>;
 
 /// Chebyshev's nodes, x from −1 to 1.
@@ -125,13 +123,25 @@ std::vector<Stretch> stretchesOf(Instant from, Instant to) {
 
 }  // namespace
 
+Blocks blocksOf(Instant start, Instant end) {
+  auto first = static_cast<std::int64_t>(std::floor(unixSeconds(start) / blockSeconds));
+  auto past = static_cast<std::int64_t>(std::ceil(unixSeconds(end) / blockSeconds));
+  // The quotient of an instant next to a block's start is rounded to that block.
+  if (start < startOfBlock(first)) --first;
+  if (startOfBlock(past) < end) ++past;
+  return {first, past - first};
+}
+
 std::optional<Paths> Paths::over(Instant from, Instant to) {
   if (!covers(from) || !(covers(to) || to == endInstant()) || to < from) return std::nullopt;
   PathData data;
   data.from = from;
   data.to = to;
-  data.stretches = stretchesOf(from - margin, to + margin);
-  const double begin = terrestrialSeconds(from - margin), end = terrestrialSeconds(to + margin);
+  const auto [firstBlock, blockCount] = blocksOf(from, to);
+  const Instant first = startOfBlock(firstBlock), last = startOfBlock(firstBlock + blockCount);
+  data.stretches = stretchesOf(first, last);
+  constexpr double second = 1;  // more than the rounding of a time
+  const double begin = terrestrialSeconds(first) - second, end = terrestrialSeconds(last) + second;
   data.firstMoonSegment = std::floor(segmentsAt(Body::moon, begin));
   data.firstSunSegment = std::floor(segmentsAt(Body::sun, begin));
   data.moonSegments = segmentsOf(Body::moon, data.firstMoonSegment, std::floor(segmentsAt(Body::moon, end)));
