@@ -37,9 +37,9 @@ std::string choices(const std::vector<City>& cities) {
   return list;
 }
 
-std::string fullNames(const std::vector<City>& cities) {
+std::string neighbours(const std::vector<City>& cities) {
   std::string list;
-  for (const City& city : cities) list += (list.empty() ? "" : "; ") + fullName(city);
+  for (const City& city : cities) list += (list.empty() ? "; nearest: " : "; ") + fullName(city);
   return list;
 }
 
@@ -55,8 +55,8 @@ City cityNamed(const std::string& spelling) {
   if (found.empty()) found = table.named(searchForm(spelling));
   if (found.size() == 1) return found[0];
   if (found.empty())
-    throw BadInput("city " + quote(spelling) + " is not in the table of cities; nearest: " +
-                   fullNames(table.nearest(spelling, mostNeighbours)) + "; any other place: lat and lon");
+    throw BadInput("city " + quote(spelling) + " is not in the table of cities" +
+                   neighbours(table.nearest(spelling, mostNeighbours)) + "; any other place: lat and lon");
   throw BadInput("city " + quote(spelling) + " may be " + choices(found) +
                  "; add the region or country, as here");
 }

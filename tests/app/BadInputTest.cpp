@@ -135,7 +135,7 @@ INSTANTIATE_TEST_SUITE_P(
         {"OptionInPlaceOfAValue", {"--lat", "--lon", "3"}, {"--lat '--lon' is not a number", "-90 to 90"}},
         {"EmptyValueInFrontOfAWord",
          {"riseset", "--city=", "--date", "2024-01-01"},
-         {"city '' is not in the table of cities"}},
+         {"city '' is not in the table of cities; any other place: lat and lon"}},
         {"EmptyValueAtTheEnd", {"riseset", "--date="}, {"--date '' is not a date that exists"}},
         {"SwitchWithAnEmptyValue", {"riseset", "--json="}, {"riseset does not take ''"}},
         {"OptionThatTheCommandLacksInFrontOfAValue",

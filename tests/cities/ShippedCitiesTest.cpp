@@ -174,5 +174,11 @@ TEST(ShippedCities, AMisspeltCityIsNotFoundButItsNeighboursAre) {
   EXPECT_TRUE(table().named(std::string(1'000'000, 'a')).empty());
 }
 
+TEST(ShippedCities, NoCityIsNearToANameOfWhichNoLetterIsLeftInIt) {
+  for (const char* spelling : {"", " ", ",", "x", "Xq"}) {
+    for (const City& city : table().nearest(spelling, 3)) ADD_FAILURE() << spelling << ": " << city.name;
+  }
+}
+
 }  // namespace
 }  // namespace velmora

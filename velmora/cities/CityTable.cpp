@@ -219,8 +219,9 @@ std::vector<std::size_t> CityTable::Contents::nearest(std::string_view spelling,
   std::size_t best = std::string::npos - 1;
   for (CityFile::Keys keys(file, ""); !keys.atEnd(); keys.next()) {
     if (keys->city >= file.cities() || difference(keys->bytes.size(), wanted.size()) > best + 1) continue;
-    const std::size_t distance = editDistance(wanted, keys->bytes) + (keys->isOwnName ? 0 : otherNameFarther);
-    if (distance > best + 1) continue;
+    const std::size_t edits = editDistance(wanted, keys->bytes);
+    const std::size_t distance = edits + (keys->isOwnName ? 0 : otherNameFarther);
+    if (edits >= wanted.size() || distance > best + 1) continue;
     best = std::min(best, distance);
     ranked.emplace(distance, keys->city);
   }

@@ -59,7 +59,7 @@ class CityTable {
 
   /// The cities with the names nearest to a misspelt one, nearest first, then most populous: at most that
   /// many, none more than a letter worse than the first; another name of a city counts as two letters worse
-  /// than its own. Reads the whole table.
+  /// than its own. None where no letter of the spelling would be left. Reads the whole table.
   std::vector<City> nearest(std::string_view spelling, std::size_t limit) const;
 
   /// The identifiers of all time zones with a city, those of old among them, in alphabetical order.
