@@ -1,4 +1,4 @@
-/* Rise, set, transit and twilight of one day, the next eclipse seen from there, and the Moon now, in C. */
+/* Rise, set, transit and twilight of one day in Helsinki, and the Moon as the day begins, in C. */
 #include <stdio.h>
 #include <stdlib.h>
 #include <time.h>

@@ -51,11 +51,11 @@ MonthGrid MonthGrid::inView(Size view, std::int64_t firstDayOfWeek, std::int64_t
 }
 
 std::int64_t MonthGrid::columnOfWeekday(std::int64_t weekday, std::int64_t weekStartDay) {
-  return withoutWholeWeeks(weekday - weekStartDay + columns - 1);
+  return withoutWholeWeeks(weekday - 1 - withoutWholeWeeks(weekStartDay));
 }
 
 std::int64_t MonthGrid::weekdayInColumn(std::int64_t column, std::int64_t weekStartDay) {
-  return withoutWholeWeeks(weekStartDay + column);
+  return withoutWholeWeeks(withoutWholeWeeks(weekStartDay) + column);
 }
 
 std::int64_t MonthGrid::rows() const {
