@@ -19,10 +19,6 @@ const usualEvents = 16; // of a day
 const DAY = 56, EVENT = 32, CROSSING = 24, POSITION = 80, ILLUMINATION = 56, MOMENT = 16, APSIS = 24, ECLIPSE = 40;
 const ECLIPSE_MOMENT = 32;
 
-/** The name by which a day has the first event of its kind: "sunrise", "moonTransit", "civilDawn". */
-const names = bodies.map(body => kinds.map((kind, number) =>
-  number < 2 ? body + kind : kind === 'transit' ? body + 'Transit' : kind));
-
 const event = (core, at) => ({
   at: core.instant(at),
   body: bodies[core.integer(at + 8)],
@@ -33,34 +29,34 @@ const event = (core, at) => ({
 
 /** A day and its events, the first of which lies there. */
 function day(core, at, firstEvent) {
-  const answer = {
+  const events = [], first = Array(12); // of each kind, the Sun's before the Moon's
+  const end = firstEvent + core.integer(at + 48) * EVENT;
+  for (let next = firstEvent; next < end; next += EVENT) {
+    const found = event(core, next);
+    events.push(found);
+    first[core.integer(next + 8) * kinds.length + core.integer(next + 12)] ??= found.at;
+  }
+  return { // all days have the same names, which makes them quick to read
     start: core.instant(at),
     end: core.instant(at + 8),
     sun: allDay[core.integer(at + 16)],
     moon: allDay[core.integer(at + 20)],
     daylight: core.double(at + 24),
     darkness: core.double(at + 32),
-    events: [],
-    sunrise: undefined, // all days have the same names, which makes them quick to fill and to read
-    sunset: undefined,
-    sunTransit: undefined,
-    moonrise: undefined,
-    moonset: undefined,
-    moonTransit: undefined,
-    civilDawn: undefined,
-    civilDusk: undefined,
-    nauticalDawn: undefined,
-    nauticalDusk: undefined,
-    astronomicalDawn: undefined,
-    astronomicalDusk: undefined,
+    events,
+    sunrise: first[0],
+    sunset: first[1],
+    sunTransit: first[2],
+    civilDawn: first[3],
+    civilDusk: first[4],
+    nauticalDawn: first[5],
+    nauticalDusk: first[6],
+    astronomicalDawn: first[7],
+    astronomicalDusk: first[8],
+    moonrise: first[9],
+    moonset: first[10],
+    moonTransit: first[11],
   };
-  const end = firstEvent + core.integer(at + 48) * EVENT;
-  for (let next = firstEvent; next < end; next += EVENT) {
-    const found = event(core, next);
-    answer.events.push(found);
-    answer[names[core.integer(next + 8)][core.integer(next + 12)]] ??= found.at;
-  }
-  return answer;
 }
 
 const crossing = (core, at) => ({
@@ -174,8 +170,9 @@ class Almanac {
   get version() { return this.#core.version; }
 
   day(place, zone, date, options) {
-    const span = this.civilDay(zone, date);
-    return span && this.events(place, span.start, span.end, options);
+    const {answer} = this.#core;
+    if (!this.#isDay(zone, date)) return undefined;
+    return this.#eventsOf(place, this.#core.double(answer), this.#core.double(answer + 8), options);
   }
 
   // Two lists are filled at once: the days, and behind the room for them the events of all.
@@ -195,10 +192,13 @@ class Almanac {
       (_, item) => day(core, item, events() + core.integer(item + 40) * EVENT));
   }
 
-  events(place, from, to, options = {}) {
+  events(place, from, to, options) {
+    return this.#eventsOf(place, seconds(from, 'from'), seconds(to, 'to'), options);
+  }
+
+  #eventsOf(place, start, end, options = {}) {
     const core = this.#core, {answer, count} = core;
-    const at = core.place(place), start = seconds(from, 'from'), end = seconds(to, 'to'), choice = wanted(options),
-      horizon = convention(core, options.convention);
+    const at = core.place(place), choice = wanted(options), horizon = convention(core, options.convention);
     do {
       core.ask(() => this.#c.velmora_events(at, start, end, choice, horizon, answer, core.items,
         Math.floor(core.room / EVENT), count));
@@ -235,10 +235,10 @@ class Almanac {
       this.#c.velmora_illuminations(this.#core.place(place), at, count, answers));
   }
 
-  phases(from, to) { return this.#between(from, to, MOMENT, phase, this.#c.velmora_phases); }
-  seasons(from, to) { return this.#between(from, to, MOMENT, season, this.#c.velmora_seasons); }
-  apsides(from, to) { return this.#between(from, to, APSIS, apsis, this.#c.velmora_apsides); }
-  eclipses(from, to) { return this.#between(from, to, ECLIPSE, eclipse, this.#c.velmora_eclipses); }
+  phases(from, to) { return this.#listed(from, to, MOMENT, phase, this.#c.velmora_phases); }
+  seasons(from, to) { return this.#listed(from, to, MOMENT, season, this.#c.velmora_seasons); }
+  apsides(from, to) { return this.#listed(from, to, APSIS, apsis, this.#c.velmora_apsides); }
+  eclipses(from, to) { return this.#listed(from, to, ECLIPSE, eclipse, this.#c.velmora_eclipses); }
 
   seenFrom(eclipse, place) {
     const core = this.#core;
@@ -256,10 +256,15 @@ class Almanac {
   }
 
   civilDay(zone, date) {
-    const core = this.#core;
+    const core = this.#core, {answer} = core;
+    return this.#isDay(zone, date) ? {start: core.instant(answer), end: core.instant(answer + 8)} : undefined;
+  }
+
+  /** Whether there is that day; where it starts and ends is the answer then. */
+  #isDay(zone, date) {
+    const core = this.#core, {answer} = core;
     const clocks = core.zone(zone), day = core.date(date, 'date');
-    const isDay = core.ask(() => this.#c.velmora_civil_day(clocks, day, core.answer, core.answer + 8));
-    return isDay ? {start: core.instant(core.answer), end: core.instant(core.answer + 8)} : undefined;
+    return core.ask(() => this.#c.velmora_civil_day(clocks, day, answer, answer + 8));
   }
 
   offset(zone, at) {
@@ -268,7 +273,7 @@ class Almanac {
     return core.integer(core.answer);
   }
 
-  #between(from, to, size, read, operation) {
+  #listed(from, to, size, read, operation) {
     const start = seconds(from, 'from'), end = seconds(to, 'to');
     return this.#core.list(size, read, (...list) => operation(start, end, ...list));
   }

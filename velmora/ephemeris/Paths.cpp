@@ -78,24 +78,33 @@ Segment segmentOf(Body body, double number) {
   return segment;
 }
 
-/// As above; a thread keeps some, so that questions about one time do not begin anew.
-const Segment& keptSegment(Body body, double number) {
-  struct Kept {
+/// What was made for some numbers. A thread keeps it, so that questions about one time do not begin anew.
+template <class Made>
+class Kept {
+ public:
+  template <class Make>
+  const Made& at(double number, Make make) {
+    Entry& here = _entries[static_cast<std::size_t>(static_cast<std::int64_t>(number)) % _entries.size()];
+    if (here.number != number) here = {number, make()};
+    return here.made;
+  }
+
+ private:
+  struct Entry {
     double number = std::numeric_limits<double>::quiet_NaN();
-    Segment segment;
+    Made made;
   };
-  constexpr std::int64_t keptOfBody = 8;
-  thread_local std::array<std::array<Kept, keptOfBody>, 2> kept;
-  const auto place = static_cast<std::size_t>(static_cast<std::int64_t>(number) & (keptOfBody - 1));
-  Kept& here = kept[static_cast<std::size_t>(body)][place];
-  if (here.number != number) here = {number, segmentOf(body, number)};
-  return here.segment;
-}
+  std::array<Entry, 8> _entries;
+};
 
 std::vector<Segment> segmentsOf(Body body, double first, double last) {
+  thread_local std::array<Kept<Segment>, 2> kept;
   std::vector<Segment> segments;
   segments.reserve(static_cast<std::size_t>(last - first) + 1);
-  for (double number = first; number <= last; ++number) segments.push_back(keptSegment(body, number));
+  for (double number = first; number <= last; ++number) {
+    segments.push_back(
+        kept[static_cast<std::size_t>(body)].at(number, [=] { return segmentOf(body, number); }));
+  }
   return segments;
 }
 
@@ -108,15 +117,18 @@ Stretch stretchOf(Instant since, Instant until) {
           (siderealTurns(middle) - sidereal) / seconds};
 }
 
+/// The first day of a half-year, which are numbered from the year 0.
+sys_days startOfHalf(int number) { return year(number / 2) / (number % 2 == 0 ? January : July) / 1; }
+
 /// Time scales jump and bend at the beginnings of half-years alone.
 std::vector<Stretch> stretchesOf(Instant from, Instant to) {
+  thread_local Kept<Stretch> kept;
   std::vector<Stretch> stretches;
-  year_month_day date(floor<days>(from));
-  date = date.year() / (date.month() < July ? January : July) / 1;
-  while (sys_days(date) <= to) {
-    const year_month_day next = date + months(6);
-    stretches.push_back(stretchOf(sys_days(date), sys_days(next)));
-    date = next;
+  const year_month_day date(floor<days>(from));
+  for (int number = 2 * int(date.year()) + (date.month() < July ? 0 : 1); startOfHalf(number) <= to;
+       ++number) {
+    stretches.push_back(
+        kept.at(number, [=] { return stretchOf(startOfHalf(number), startOfHalf(number + 1)); }));
   }
   return stretches;
 }

@@ -51,7 +51,7 @@ mergeInto(LibraryManager.library, {
   // Offset from GMT in seconds at whole seconds since 1970, of a year after 100.
   velmora_intl_zone_offset__deps: ['$velmoraZones'],
   velmora_intl_zone_offset: function(zone, seconds) {
-    var read = velmoraZones[zone].format.format(seconds * 1000).match(/\d+/g).map(Number);
+    var read = velmoraZones[zone].format.format(seconds * 1000).match(/\d+/g);
     return Date.UTC(read[2], read[0] - 1, read[1], read[3] % 24, read[4], read[5]) / 1000 - seconds;
   },
 

@@ -1,1 +1,0 @@
-// The module is the library alone.
