@@ -3,6 +3,7 @@
 #include <app/answers/Days.h>
 #include <app/answers/ShippedData.h>
 #include <app/drawing/PosterHosting.h>
+#include <app/drawing/libical/HolidayFile.h>
 #include <app/text/Errors.h>
 #include <velmora/posters/CalendarPoster.h>
 #include <velmora/posters/SkyDisc.h>
@@ -20,13 +21,15 @@ year_month monthOf(const Query& query) {
   return {day.year(), day.month()};
 }
 
-CalendarPosterStyle styleOf(const Query& query) {
+CalendarPosterStyle styleOf(const Query& query, std::chrono::year year) {
   const DrawingRequest& drawing = query.request.drawing;
-  return {.theme = drawing.theme ? paperThemeOf(query) : PaperTheme::light,
-          .isTilted = drawing.isTilted,
-          .firstWeekday =
-              static_cast<unsigned>(drawing.weekStartDay.value_or(Locale::current().firstWeekday() - 1)),
-          .secondCalendar = drawing.calendar};
+  const auto weekStart = drawing.weekStartDay.value_or(Locale::current().firstWeekday() - 1);
+  CalendarPosterStyle style = {.theme = drawing.theme ? paperThemeOf(query) : PaperTheme::light,
+                               .isTilted = drawing.isTilted,
+                               .firstWeekday = static_cast<unsigned>(weekStart),
+                               .secondCalendar = drawing.calendar};
+  if (drawing.holidays) style.notes = holidaysOf(*drawing.holidays, year, query.place.zone);
+  return style;
 }
 
 }  // namespace
@@ -37,13 +40,14 @@ Size calendarSize(const Query& query) { return paperSize(query.request.drawing.p
 
 std::shared_ptr<View> makeCalendar(const Query& query, Size size) {
   const year_month month = monthOf(query);
-  return filling(std::make_shared<CalendarPoster>(posterPlaceOf(query), month, styleOf(query)), size);
+  return filling(std::make_shared<CalendarPoster>(posterPlaceOf(query), month, styleOf(query, month.year())),
+                 size);
 }
 
 std::vector<std::shared_ptr<View>> makeCalendarPages(const Query& query, Size size) {
   if (query.request.month) return {makeCalendar(query, size)};
   const std::chrono::year year = monthOf(query).year();
-  const CalendarPosterStyle style = styleOf(query);
+  const CalendarPosterStyle style = styleOf(query, year);
   std::vector<std::shared_ptr<View>> pages;
   for (unsigned month = 1; month <= 12; ++month)
     pages.push_back(filling(

@@ -69,7 +69,7 @@ const std::vector<DrawableView>& allViews() {
        .options = {"theme", "paper"}},
       {.name = "calendar",
        .summary = "a wall calendar: a month a page, a PDF of the year or of --month",
-       .options = {"theme", "paper", "tilt", "month", "calendar", "week-start"}},
+       .options = {"theme", "paper", "tilt", "month", "calendar", "week-start", "ics"}},
   };
   return views;
 }

@@ -133,6 +133,12 @@ std::vector<Option> drawingOptions() {
       {"calendar", "NAME", "also show the day of this calendar, in brackets",
        "hebrew, islamic, buddhist, japanese, chinese or indian",
        Text([](R& r, S& v) { r.drawing.calendar = calendar(v); })},
+      {.name = "ics",
+       .valueName = "FILE",
+       .help = "name the days of this calendar file, such as holidays",
+       .accepts = "",
+       .read = Text([](R& r, S& v) { r.drawing.holidays = v; }),
+       .onlyOnCommandLine = true},
       {"week-start", "DAY", "first weekday of the month (default: the locale's)",
        "sunday, monday, tuesday, wednesday, thursday, friday or saturday",
        Text([](R& r, S& v) { r.drawing.weekStartDay = weekday(v); })},
@@ -151,7 +157,7 @@ const std::vector<std::string_view>& pictureOptions() {
 
 const std::vector<std::string_view>& viewOptions() {
   static const std::vector<std::string_view> names = {
-      "theme",      "paper",         "landscape", "align",   "tilt",       "month",    "calendar",
+      "theme",      "paper",         "landscape", "align",   "tilt",       "month",    "calendar", "ics",
       "week-start", "hide-eclipses", "phase",     "heading", "background", "no-title", "tablet"};
   return names;
 }

@@ -26,11 +26,12 @@ struct DrawingRequest {
   bool isRightToLeft = false;  ///< whatever the language is
   bool isTablet = false;
 
-  std::optional<ThemeChoice> theme;  ///< the view's own unless given
-  Paper paper = Paper::a4;           ///< of posters
-  bool isLandscape = false;          ///< whether the sheet lies
-  bool alignsWeekdays = false;       ///< whether the months of a poster begin at their weekday
-  bool isTilted = false;             ///< whether discs hang as they do in the sky
+  std::optional<ThemeChoice> theme;     ///< the view's own unless given
+  Paper paper = Paper::a4;              ///< of posters
+  bool isLandscape = false;             ///< whether the sheet lies
+  bool alignsWeekdays = false;          ///< whether the months of a poster begin at their weekday
+  bool isTilted = false;                ///< whether discs hang as they do in the sky
+  std::optional<std::string> holidays;  ///< path of a calendar file that names days
   AlternateCalendarType calendar = kNoAlternateCalendar;
   std::optional<std::int64_t> weekStartDay;  ///< 0 is Sunday; none: the locale's
   bool hidesEclipses = false;

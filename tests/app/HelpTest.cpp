@@ -17,6 +17,7 @@ std::string valueOf(const Option& option) {
   if (option.name == "heading") return "90";
   if (option.name == "month") return "2026-05";
   if (option.name == "background") return "white";
+  if (option.name == "ics") return "holidays.ics";
   const std::string accepted(option.accepts);
   return accepted.substr(0, accepted.find_first_of(", "));
 }

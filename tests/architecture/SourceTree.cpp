@@ -50,8 +50,8 @@ constexpr std::array layers = {"velmora/platform/system",
 constexpr std::array fixedFolders = {"velmora/foundation/", "velmora/astronomy/", "velmora/phases/"};
 constexpr std::array almanacFolders = {"velmora/ephemeris/", "velmora/almanac/"};
 
-const std::set<std::string> adapters = {"browser", "cairo",    "cctz", "icu",
-                                        "intl",    "libplist", "png",  "posix"};
+const std::set<std::string> adapters = {"browser", "cairo",    "cctz", "icu",  "intl",
+                                        "libical", "libplist", "png",  "posix"};
 const std::set<std::string> librariesOfProgram = {"CLI/CLI.hpp", "dlfcn.h", "nlohmann/json.hpp", "unistd.h"};
 
 /// None for what lies in no layer: the version, which stands below them all.
