@@ -32,24 +32,12 @@ TEST_P(EachView, HasTheSizeThatIsAskedForInEveryFormat) {
   EXPECT_EQ(statedSize(draw(arguments, "picture.PDF")), (Size{300, 420}));
 }
 
-/// A poster has a sheet of its own under it.
-bool isPoster(const std::string& view) {
-  const auto& options = findView(view)->options;
-  return std::find(options.begin(), options.end(), "paper") != options.end();
-}
-
-/// As on a tablet, but for a poster, which is the same from every device.
-std::vector<std::string> onATablet(std::vector<std::string> arguments) {
-  if (!isPoster(arguments.front())) arguments.emplace_back("--tablet");
-  return arguments;
-}
-
 TEST_P(EachView, HasAUsualSizeAndLiesOnTheCalendarsBackground) {
   const DrawnPicture drawn = picture({GetParam()});
   EXPECT_GE(drawn.size().width, 240);
   EXPECT_GE(drawn.size().height, 64);
   const Color background = VelmoraTheme::calendarTheme()->backgroundColor;
-  EXPECT_EQ(drawn.has(background, 0, 0), !isPoster(GetParam()));
+  EXPECT_EQ(drawn.has(background, 0, 0), !isOnPaper(*findView(GetParam())));
   EXPECT_LT(drawn.count(background), drawn.whole().width * drawn.whole().height * 0.99);
 }
 
@@ -73,19 +61,6 @@ TEST_P(EachView, IsTheSameForEveryRequestWhateverWasDrawnBefore) {
   draw(onATablet({GetParam(), "--locale", "ar_EG", "--rtl", "--city", "Sydney", "--24h"}), "other.png");
   draw({"month", "--theme", "default", "--calendar", "hebrew"}, "month.png");
   EXPECT_EQ(bytesOf(draw({GetParam()})), first);
-}
-
-TEST_P(EachView, RefusesTheOptionsOfAScreenOnPaper) {
-  const std::vector<std::vector<std::string>> options = {
-      {"--no-title"}, {"--tablet"}, {"--background", "white"}};
-  for (const auto& option : options) {
-    std::vector<std::string> arguments = {"draw", GetParam(), "-o", path("picture.png")};
-    arguments.insert(arguments.end(), option.begin(), option.end());
-    const Outcome outcome = runProgram(arguments);
-    EXPECT_EQ(outcome.status, isPoster(GetParam()) ? 2 : 0);
-    const std::string refusal = "draw " + GetParam() + " does not take " + option.front().substr(2) + ";";
-    EXPECT_EQ(outcome.err.find(refusal) != std::string::npos, isPoster(GetParam())) << outcome.err;
-  }
 }
 
 using DrawTest = PictureTest;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <filesystem>
@@ -11,6 +12,7 @@
 #include <utility>
 #include <vector>
 
+#include <app/request/DrawableView.h>
 #include <velmora/platform/graphics/Color.h>
 #include <velmora/platform/graphics/Geometry.h>
 #include <velmora/platform/resources/Image.h>
@@ -24,6 +26,17 @@ namespace velmora::app {
 inline std::string bytesOf(const std::filesystem::path& file) {
   std::ifstream in(file, std::ios::binary);
   return {std::istreambuf_iterator<char>(in), {}};
+}
+
+/// Whether the view is a poster, which has a sheet of its own under it.
+inline bool isOnPaper(const DrawableView& view) {
+  return std::find(view.options.begin(), view.options.end(), "paper") != view.options.end();
+}
+
+/// As on a tablet, but for a poster, which is the same from every device.
+inline std::vector<std::string> onATablet(std::vector<std::string> arguments) {
+  if (!isOnPaper(*findView(arguments.front()))) arguments.emplace_back("--tablet");
+  return arguments;
 }
 
 /// A PNG that the program wrote.
