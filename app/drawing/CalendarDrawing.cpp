@@ -1,12 +1,10 @@
 #include <app/drawing/CalendarDrawing.h>
 
 #include <app/answers/Days.h>
-#include <app/answers/ShippedData.h>
 #include <app/drawing/PosterHosting.h>
 #include <app/drawing/libical/HolidayFile.h>
 #include <app/text/Errors.h>
 #include <velmora/posters/CalendarPoster.h>
-#include <velmora/posters/SkyDisc.h>
 
 namespace velmora::app {
 namespace {
@@ -33,8 +31,6 @@ CalendarPosterStyle styleOf(const Query& query, std::chrono::year year) {
 }
 
 }  // namespace
-
-void checkFullMoonPicture(const Query&) { checkPictures(Bundle::library(), {fullMoonPicture}); }
 
 Size calendarSize(const Query& query) { return paperSize(query.request.drawing.paper); }
 

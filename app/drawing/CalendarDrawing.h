@@ -9,8 +9,6 @@
 namespace velmora::app {
 
 Size calendarSize(const Query& query);
-/// Throws a Failure where the picture of the full Moon cannot be read.
-void checkFullMoonPicture(const Query&);
 /// The page of the month, or of the day's. Throws BadInput where it is not covered, and for
 /// a file of holidays that cannot be read.
 std::shared_ptr<View> makeCalendar(const Query& query, Size size);

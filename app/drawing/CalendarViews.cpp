@@ -62,11 +62,13 @@ class UncutRows final : public View {
   std::shared_ptr<MoonRiseSetMonthView> _list;
 };
 
-/// With the zenith up.
-std::shared_ptr<View> makeTiltedDisc(const Query& query, Size size) {
+/// From the almanac's sky: as it hangs there, or as a picture, or both.
+std::shared_ptr<View> makeSkyDisc(const Query& query, Size size) {
   const auto theme = themeOf(query);
   auto disc = std::make_shared<SkyDisc>(query.place.observer(), presentOf(query), theme->lightTextColor,
                                         theme->backgroundColor);
+  disc->setIsTilted(query.request.drawing.isTilted);
+  disc->setHasPicture(query.request.drawing.hasPicture);
   disc->setFrame(squareIn(size).inset(discMargin, discMargin));
   auto host = makeHost(size);
   host->addSubview(disc);
@@ -76,7 +78,8 @@ std::shared_ptr<View> makeTiltedDisc(const Query& query, Size size) {
 }  // namespace
 
 std::shared_ptr<View> makeDisc(const Query& query, Size size) {
-  if (query.request.drawing.isTilted) return makeTiltedDisc(query, size);
+  const DrawingRequest& drawing = query.request.drawing;
+  if (drawing.isTilted || drawing.hasPicture) return makeSkyDisc(query, size);
   MoonPhaseData& service = MoonPhaseData::sharedInstance();
   const auto phases = service.currentMonthPhaseDictionary();
   const auto theme = themeOf(query);
@@ -118,6 +121,12 @@ void checkMoonPictures(const Query&) {
   for (const auto& [day, number] : *MoonPhaseData::sharedInstance().currentMonthImageDictionary())
     names.push_back("IMG_" + std::to_string(number));
   checkPictures(Bundle::library(), names);
+}
+
+void checkFullMoonPicture(const Query&) { checkPictures(Bundle::library(), {fullMoonPicture}); }
+
+void checkPictureOfDisc(const Query& query) {
+  if (query.request.drawing.hasPicture) checkFullMoonPicture(query);
 }
 
 void checkIcons(const Query&) { checkPictures(Bundle::main(), {"moonrise", "moonset", "sunrise", "sunset"}); }

@@ -18,6 +18,12 @@ std::shared_ptr<View> makeYear(const Query& query, Size size);
 /// Throws a Failure where a picture of the selected month's Moon cannot be read.
 void checkMoonPictures(const Query&);
 
+/// Throws a Failure where the picture of the full Moon cannot be read.
+void checkFullMoonPicture(const Query&);
+
+/// The same, for a request that wants it.
+void checkPictureOfDisc(const Query& query);
+
 /// Throws a Failure where an icon of rise or set cannot be read.
 void checkIcons(const Query&);
 

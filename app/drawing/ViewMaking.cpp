@@ -51,7 +51,7 @@ std::shared_ptr<View> makeTimeline(const Query&, Size size) {
 
 const ViewMaking& makingOf(const DrawableView& view) {
   static const std::map<std::string_view, ViewMaking> makings = {
-      {"disc", {fixedSize<240, 240>, makeDisc}},
+      {"disc", {.usualSize = fixedSize<240, 240>, .make = makeDisc, .checkResources = checkPictureOfDisc}},
       {"month", {monthSize, makeMonth}},
       {"year", {yearSize, makeYear}},
       {"riseset", {.usualSize = riseSetSize, .make = makeRiseSet, .checkResources = checkIcons}},

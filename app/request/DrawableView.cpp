@@ -22,7 +22,7 @@ const std::vector<DrawableView>& allViews() {
   static const std::vector<DrawableView> views = {
       {.name = "disc",
        .summary = "the phase of the day",
-       .options = onScreen({"theme", "tilt"}),
+       .options = onScreen({"theme", "tilt", "picture"}),
        .titleFields = dayFields,
        .needsTables = true},
       {.name = "month",

@@ -130,6 +130,8 @@ std::vector<Option> drawingOptions() {
        Text([](R& r, S& v) { r.drawing.alignsWeekdays = alignsWeekdays(v); })},
       {"tilt", "", "turn the disc as it is seen in the sky of the place", "",
        Switch([](R& r) { r.drawing.isTilted = true; })},
+      {"picture", "", "draw the disc as the real picture of the Moon", "",
+       Switch([](R& r) { r.drawing.hasPicture = true; })},
       {"calendar", "NAME", "also show the day of this calendar, in brackets",
        "hebrew, islamic, buddhist, japanese, chinese or indian",
        Text([](R& r, S& v) { r.drawing.calendar = calendar(v); })},
@@ -157,8 +159,8 @@ const std::vector<std::string_view>& pictureOptions() {
 
 const std::vector<std::string_view>& viewOptions() {
   static const std::vector<std::string_view> names = {
-      "theme",      "paper",         "landscape", "align",   "tilt",       "month",    "calendar", "ics",
-      "week-start", "hide-eclipses", "phase",     "heading", "background", "no-title", "tablet"};
+      "theme", "paper",      "landscape",     "align", "tilt",    "picture",    "month",    "calendar",
+      "ics",   "week-start", "hide-eclipses", "phase", "heading", "background", "no-title", "tablet"};
   return names;
 }
 

@@ -31,6 +31,7 @@ struct DrawingRequest {
   bool isLandscape = false;             ///< whether the sheet lies
   bool alignsWeekdays = false;          ///< whether the months of a poster begin at their weekday
   bool isTilted = false;                ///< whether discs hang as they do in the sky
+  bool hasPicture = false;              ///< whether a disc is the picture of the Moon
   std::optional<std::string> holidays;  ///< path of a calendar file that names days
   AlternateCalendarType calendar = kNoAlternateCalendar;
   std::optional<std::int64_t> weekStartDay;  ///< 0 is Sunday; none: the locale's

@@ -28,6 +28,32 @@ class DrawSkyTest : public PictureTest {
   static Point placeOf(const DrawnPicture& drawn) { return drawn.middle(moon()) - middle; }
 };
 
+/// How bright the left and the right half of the picture are.
+std::pair<long, long> brightnesses(const DrawnPicture& drawn) {
+  std::pair<long, long> sums;
+  const auto [width, height] = drawn.size();
+  for (std::int64_t y = 0; y < height; ++y)
+    for (std::int64_t x = 0; x < width; ++x)
+      (x < width / 2 ? sums.first : sums.second) += drawn.pixel(x, y)[1];
+  return sums;
+}
+
+// On the day of a first quarter: the right half is lit, and from the southern hemisphere the left one.
+TEST_F(DrawSkyTest, PictureOfTheDiscIsLitWhereTheMoonIs) {
+  const auto moon = [&](const std::string& city, std::vector<std::string> more = {}) {
+    more.insert(more.begin(), {"disc", "--picture", "--no-title", "--background", "black", "--city", city,
+                               "--date", "2024-04-15", "--time", "21:00"});
+    return picture(more);
+  };
+  const auto [left, right] = brightnesses(moon("Helsinki"));
+  EXPECT_GT(right, 4 * left);
+  const auto [leftInSydney, rightInSydney] = brightnesses(moon("Sydney"));
+  EXPECT_GT(leftInSydney, 4 * rightInSydney);
+  const auto [leftTilted, rightTilted] = brightnesses(moon("Helsinki", {"--tilt"}));
+  EXPECT_GT(rightTilted, leftTilted);
+  EXPECT_LT(rightTilted, right) << "its lit side hangs lower in the west";
+}
+
 // The Moon has just risen: it lies at the way's eastern end, in the direction of moonrise.
 TEST_F(DrawSkyTest, CompassShowsTheMoonInTheDirectionOfItsRise) {
   const double azimuth = json({"position", "--city", "Helsinki", "--date", "2024-06-20", "--time", "22:27"})
