@@ -6,7 +6,6 @@
 #include <velmora/platform/resources/Words.h>
 #include <velmora/platform/time/DateFormatter.h>
 #include <velmora/platform/time/NumberFormatter.h>
-#include <velmora/posters/CalendarHead.h>
 #include <velmora/posters/NameLines.h>
 
 namespace [[gnu::visibility("hidden")]] velmora {
@@ -35,19 +34,6 @@ std::string secondDay(std::chrono::year_month_day date, std::int64_t type) {
 }
 
 }  // namespace
-
-CalendarDays::CalendarDays(Sheet& sheet, const CalendarLayout& layout, const CalendarMonth& month,
-                           const PosterPlace& place, const MoonPicture& picture)
-    : _sheet(sheet),
-      _layout(layout),
-      _month(month),
-      _place(place),
-      _picture(picture),
-      _local(place.zone),
-      _plain(TimeZone::fixed(0)),
-      _palette(sheet.palette()),
-      _unit(sheet.unit()),
-      _timeStyle(timeStyle()) {}
 
 void CalendarDays::draw(const CalendarPosterStyle& style) const {
   drawWeekdays();
@@ -112,7 +98,7 @@ void CalendarDays::drawName(const std::string& name, const CalendarLayout::Cell&
 }
 
 void CalendarDays::drawMoon(const CalendarDay& day, const CalendarLayout::Cell& cell, bool isTilted) const {
-  drawDisc(_sheet, _picture, cell.center, cell.radius, _place, day.moon.evening, isTilted);
+  drawDisc(cell.center, cell.radius, day.moon.evening, isTilted);
   if (day.moon.eclipse) drawRing(_sheet, cell.center, cell.radius);
   if (day.moon.phase)
     _sheet.label(_local.time(day.moon.phase->at), cell.phase,

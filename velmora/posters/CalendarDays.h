@@ -1,20 +1,15 @@
 #pragma once
 
-#include <velmora/posters/CalendarLayout.h>
 #include <velmora/posters/CalendarMarks.h>
-#include <velmora/posters/CalendarMonth.h>
+#include <velmora/posters/CalendarPart.h>
 #include <velmora/posters/CalendarPoster.h>
-#include <velmora/posters/MoonPicture.h>
-#include <velmora/posters/PosterTexts.h>
-#include <velmora/posters/Sheet.h>
 
 namespace [[gnu::visibility("hidden")]] velmora {
 
 /// Draws the days of a month and the names of their weekdays.
-class CalendarDays {
+class CalendarDays final : private CalendarPart {
  public:
-  CalendarDays(Sheet& sheet, const CalendarLayout& layout, const CalendarMonth& month,
-               const PosterPlace& place, const MoonPicture& picture);
+  using CalendarPart::CalendarPart;
 
   void draw(const CalendarPosterStyle& style) const;
 
@@ -30,15 +25,7 @@ class CalendarDays {
                  CalendarMarks& marks) const;
   LabelStyle timeStyle() const;
 
-  Sheet& _sheet;
-  const CalendarLayout& _layout;
-  const CalendarMonth& _month;
-  const PosterPlace& _place;
-  const MoonPicture& _picture;
-  const PosterTexts _local, _plain;
-  const Palette& _palette;
-  const double _unit;
-  const LabelStyle _timeStyle;
+  const LabelStyle _timeStyle = timeStyle();
 };
 
 }  // namespace velmora

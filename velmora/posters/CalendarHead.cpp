@@ -23,18 +23,6 @@ constexpr std::array keys = {
 
 }  // namespace
 
-CalendarHead::CalendarHead(Sheet& sheet, const CalendarLayout& layout, const CalendarMonth& month,
-                           const PosterPlace& place, const MoonPicture& picture)
-    : _sheet(sheet),
-      _layout(layout),
-      _month(month),
-      _place(place),
-      _picture(picture),
-      _local(place.zone),
-      _plain(TimeZone::fixed(0)),
-      _palette(sheet.palette()),
-      _unit(sheet.unit()) {}
-
 void CalendarHead::draw(bool isTilted) const {
   drawTitle();
   drawPhases(isTilted);
@@ -57,7 +45,7 @@ void CalendarHead::drawPhases(bool isTilted) const {
     if (!day.moon.phase) continue;
     const CalendarLayout::Phase& room = _layout.phases[next++];
     const auto& [at, phase] = *day.moon.phase;
-    drawDisc(_sheet, _picture, room.center, room.radius, _place, at, isTilted);
+    drawDisc(room.center, room.radius, at, isTilted);
     _sheet.label(phaseName(phase), room.name,
                  {8.5 * _unit, _palette.ink, Side::middle, FontWeight::semibold});
     _sheet.label(_local.date(at, "MMMd"), room.date, {8.5 * _unit, _palette.quiet, Side::middle});
@@ -99,17 +87,6 @@ void CalendarHead::drawNotes() const {
   for (std::size_t i = 0; i < eclipses.size(); ++i)
     _sheet.label(eclipseText(*eclipses[i]->moon.eclipse), _layout.eclipses[i],
                  {.size = 8.5 * _unit, .color = _palette.ink});
-}
-
-void drawDisc(Sheet& sheet, const MoonPicture& picture, Point center, double radius, const PosterPlace& place,
-              Instant at, bool isTilted) {
-  const auto moon = almanac::illumination(place.place, at);
-  if (!moon) return;
-  const bool isSouthern = place.place.latitude < 0;
-  const MoonLight light = isTilted ? tilted(*moon) : upright(*moon, isSouthern);
-  if (picture.isBlank()) return drawMoon(sheet, center, radius, light);
-  const double north = isTilted ? northInSky(place.place, at) : northUpright(isSouthern);
-  picture.draw(sheet.canvas(), sheet.onPaper(center), radius, light, north, sheet.palette().moonDark);
 }
 
 }  // namespace velmora
