@@ -3,8 +3,15 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 namespace velmora {
 namespace {
+
+/// How bright the colour is printed in grey, 0 to 1 (Rec. 709).
+double brightness(const Color& color) {
+  return 0.2126 * color.red + 0.7152 * color.green + 0.0722 * color.blue;
+}
 
 TEST(Paper, IsAsLargeAsItsNameSays) {
   EXPECT_EQ(paperSize(Paper::a4), (Size{595, 842}));

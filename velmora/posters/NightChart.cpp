@@ -92,6 +92,14 @@ void NightChart::drawWay(double SkySample::*height, const Color& color) const {
   _sheet.stroke(way, color, 2 * _sheet.unit());
 }
 
+/// So that no way of Sun or Moon runs through it.
+void NightChart::drawOnPlate(const std::string& text, Rect room, const LabelStyle& style) const {
+  Color plate = _sheet.palette().paper;
+  plate.alpha = 0.85;
+  _sheet.fill(Path::roundedRect(room, 3 * _sheet.unit()), plate);
+  _sheet.label(text, room, style);
+}
+
 /// Of the Sun in the upper rows below the horizon, of the Moon in the lower ones.
 void NightChart::drawRisings() const {
   const double unit = _sheet.unit();
@@ -111,10 +119,7 @@ void NightChart::drawRisings() const {
       _sheet.fill(dot, body == Body::sun ? palette.sun : palette.moonLit);
       _sheet.stroke(dot, palette.night, 0.8 * unit);
       const Rect room = {middle - half, top, 2 * half, height};
-      Color plate = palette.paper;
-      plate.alpha = 0.85;
-      _sheet.fill(Path::roundedRect(room, 3 * unit), plate);
-      _sheet.label(text, room, style);
+      drawOnPlate(text, room, style);
     }
   }
 }
@@ -128,12 +133,10 @@ void NightChart::drawCulminations() const {
     const double radius = 9 * unit;
     drawMoon(_sheet, top, radius, tilted(_night.moon));
     const std::string text = _texts.time(event.at) + "  " + _texts.degrees(event.altitude);
-    const SkySample here = {event.at, _night.sunAt(event.at), 0, event.altitude};
-    const LabelStyle style = {10.5 * unit, palette.readableOn(skyBetween(here, here)), Side::middle,
-                              FontWeight::semibold};
-    const double half = Sheet::widthOf(text, style) * 0.5 + 2 * unit;
+    const LabelStyle style = {10.5 * unit, palette.ink, Side::middle, FontWeight::semibold};
+    const double half = Sheet::widthOf(text, style) * 0.5 + 3 * unit;
     const double middle = std::clamp(top.x, _layout.chart.x + half, _layout.chart.maxX() - half);
-    _sheet.label(text, {middle - half, top.y - radius - 17 * unit, 2 * half, 15 * unit}, style);
+    drawOnPlate(text, {middle - half, top.y - radius - 18 * unit, 2 * half, 15 * unit}, style);
   }
 }
 

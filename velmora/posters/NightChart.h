@@ -25,6 +25,7 @@ class NightChart {
   void drawGrid(const TimeZone& zone, std::chrono::year_month_day date) const;
   void drawGround() const;
   void drawWay(double SkySample::*height, const Color& color) const;
+  void drawOnPlate(const std::string& text, Rect room, const LabelStyle& style) const;
   void drawRisings() const;
   void drawCulminations() const;
 

@@ -11,6 +11,13 @@ constexpr const char* untold = "–";
 constexpr double textSize = 10.5, frameWidth = 0.75, cornerRadius = 2;  // units
 constexpr std::size_t mostLines = 2;
 
+/// From when to when; in words where the Sun does not set.
+std::string stretchText(const DaypartStretch& stretch, const NightSky& night, const PosterTexts& texts) {
+  const bool isWhole = stretch.interval.start <= night.start && stretch.interval.end >= night.end;
+  if (stretch.part == Daypart::daylight && isWhole) return words("up all day");
+  return rangeText(stretch.interval, night, texts);
+}
+
 }  // namespace
 
 std::string rangeText(const almanac::Interval& interval, const NightSky& night, const PosterTexts& texts) {
@@ -27,8 +34,7 @@ NightLegend::NightLegend(const NightSky& night, const PosterTexts& texts, const 
     _keys[i] = {palette.sky(static_cast<Daypart>(i)), words(names[i]), {}};
   _keys.back() = moonKey(night, texts);
   for (const DaypartStretch& stretch : daypartStretches(night))
-    _keys.at(static_cast<std::size_t>(stretch.part))
-        .lines.push_back(rangeText(stretch.interval, night, texts));
+    _keys.at(static_cast<std::size_t>(stretch.part)).lines.push_back(stretchText(stretch, night, texts));
   for (Key& key : _keys) {
     if (key.lines.empty()) key.lines.push_back(untold);
     key.lines.resize(std::min(key.lines.size(), mostLines));

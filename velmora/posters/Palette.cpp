@@ -1,7 +1,6 @@
 #include <velmora/posters/Palette.h>
 
 #include <algorithm>
-#include <cmath>
 
 namespace [[gnu::visibility("hidden")]] velmora {
 namespace {
@@ -67,19 +66,10 @@ const Color& Palette::sky(Daypart part) const {
   return night;
 }
 
-const Color& Palette::readableOn(const Color& color) const {
-  const auto contrast = [&](const Color& other) { return std::abs(brightness(other) - brightness(color)); };
-  return contrast(ink) > contrast(paper) ? ink : paper;
-}
-
 Color mixed(const Color& from, const Color& to, double share) {
   const auto between = [&](double a, double b) { return a + (b - a) * share; };
   return {between(from.red, to.red), between(from.green, to.green), between(from.blue, to.blue),
           between(from.alpha, to.alpha)};
-}
-
-double brightness(const Color& color) {
-  return 0.2126 * color.red + 0.7152 * color.green + 0.0722 * color.blue;
 }
 
 Daypart daypartAt(double sunAltitude) {

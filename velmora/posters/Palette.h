@@ -22,16 +22,10 @@ struct Palette {
   static const Palette& of(PaperTheme theme);
 
   const Color& sky(Daypart part) const;
-
-  /// Of ink and paper the one that stands out more from the colour.
-  const Color& readableOn(const Color& color) const;
 };
 
 /// The colour on the way from one to the other: 0 is the first, 1 the second.
 Color mixed(const Color& from, const Color& to, double share);
-
-/// How bright the colour is printed in grey, 0 to 1 (Rec. 709).
-double brightness(const Color& color);
 
 /// The daypart at a true altitude of the Sun's centre, degrees.
 Daypart daypartAt(double sunAltitude);
