@@ -45,9 +45,9 @@ void drawMoonlight(Sheet& sheet, const DarknessLayout& layout, const DarknessYea
 }
 
 void drawPassages(Sheet& sheet, const DarknessLayout& layout, const DarknessYear& year, bool upward,
-                  const Color& color) {
+                  const Color& color, const std::vector<double>& dash = {}) {
   const auto rows = rowsOf<double>(year, [&](const NightRow& night) { return passages(night.moon, upward); });
-  sheet.stroke(linesOf(rows, layout.carpet, farthestPassage), color, 0.7 * sheet.unit());
+  sheet.stroke(linesOf(rows, layout.carpet, farthestPassage), color, 0.7 * sheet.unit(), dash);
 }
 
 }  // namespace
@@ -56,11 +56,13 @@ void drawCarpet(Sheet& sheet, const DarknessLayout& layout, const DarknessYear& 
   drawDayparts(sheet, layout, year);
   drawMoonlight(sheet, layout, year);
   drawPassages(sheet, layout, year, true, moonriseColor(sheet.palette()));
-  drawPassages(sheet, layout, year, false, moonsetColor(sheet.palette()));
+  drawPassages(sheet, layout, year, false, moonsetColor(sheet.palette()), moonsetDash(sheet.unit()));
 }
 
 Color moonriseColor(const Palette& palette) { return mixed(palette.daylight, palette.sun, 0.75); }
 Color moonsetColor(const Palette& palette) { return mixed(palette.moonlight, palette.nautical, 0.25); }
+
+std::vector<double> moonsetDash(double unit) { return {2.4 * unit, 1.4 * unit}; }
 
 Color brightestMoonlight(const Palette& palette) {
   Color color = palette.night;

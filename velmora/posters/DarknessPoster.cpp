@@ -76,7 +76,7 @@ class DarknessTexts {
                                          {"Night", _palette.night}};
     const std::vector<Entry> moon = {{"Moonlight", brightestMoonlight(_palette)},
                                      {"Moonrise", moonriseColor(_palette), true},
-                                     {"Moonset", moonsetColor(_palette), true}};
+                                     {"Moonset", moonsetColor(_palette), true, moonsetDash(_unit)}};
     drawKeys(dayparts, _layout.dayparts);
     drawKeys(moon, _layout.moonKeys);
     _sheet.label(words("Darkest night: the longest time of the month with the Sun 18° below the horizon and "
@@ -89,6 +89,7 @@ class DarknessTexts {
     const char* name;
     Color color;
     bool isLine = false;
+    std::vector<double> dash = {};
   };
 
   void rule(double y) const {
@@ -135,8 +136,12 @@ class DarknessTexts {
   void drawSwatch(const Entry& entry, Rect swatch) const {
     const Path shape = Path::roundedRect(swatch, 2 * _unit);
     _sheet.fill(shape, entry.isLine ? _palette.night : entry.color);
-    if (entry.isLine)
-      _sheet.line({swatch.x, swatch.maxY()}, {swatch.maxX(), swatch.y}, entry.color, 1.2 * _unit);
+    if (entry.isLine) {
+      Path line;
+      line.moveTo({swatch.x, swatch.maxY()});
+      line.lineTo({swatch.maxX(), swatch.y});
+      _sheet.stroke(line, entry.color, 1.2 * _unit, entry.dash);
+    }
     _sheet.stroke(shape, _palette.line, 0.75 * _unit);
   }
 

@@ -11,8 +11,7 @@ namespace {
 
 constexpr double pictureSide = 256, pictureDisc = 248;  // pixels
 
-constexpr double shadowDepth = 0.92;   // the Earth lights what remains
-constexpr double shadowReach = 1.012;  // so that no bright edge is left around it
+constexpr double shadowDepth = 0.92;  // the Earth lights what remains
 
 }  // namespace
 

@@ -11,6 +11,9 @@ namespace [[gnu::visibility("hidden")]] velmora {
 /// The Moon as one sees it: its picture turned and, over it, the shadow.
 class MoonPicture {
  public:
+  /// How far the shadow lies over the disc, in radii, so that no bright edge is left around it.
+  static constexpr double shadowReach = 1.012;
+
   /// Of the library's picture; blank where that is missing.
   MoonPicture();
 

@@ -16,7 +16,7 @@ void SkyDisc::drawRect(Canvas& canvas, Rect rect) {
   const MoonLight light = _isTilted ? tilted(*moon) : upright(*moon, isSouthern);
   const MoonPicture picture;
   if (_hasPicture && !picture.isBlank())
-    return picture.draw(canvas, rect.center(), radius, light,
+    return picture.draw(canvas, rect.center(), radius / MoonPicture::shadowReach, light,
                         _isTilted ? northInSky(_place, _at) : northUpright(isSouthern), _dark);
   const Rect square = {rect.midX() - radius, rect.midY() - radius, 2 * radius, 2 * radius};
   canvas.setFillColor(_dark);
