@@ -28,4 +28,4 @@ function __velmora_offers
 end
 complete -c velmora -f -a '(__velmora_offers)'
 complete -c velmora -n '__fish_seen_subcommand_from draw' -s o -l output -rF
-complete -c velmora -n '__fish_seen_subcommand_from draw' -l ics -rF
+complete -c velmora -n '__fish_seen_subcommand_from calendar' -l ics -rF
