@@ -82,9 +82,9 @@ export interface Day extends NamedEvents {
 export interface Convention {
   /** The point of the disc that rises: the upper limb if left out. */
   readonly limb?: 'upper' | 'centre' | 'lower';
-  /** 34′ if left out. */
+  /** 0 to 2; 34/60 if left out. */
   readonly horizonRefraction?: number;
-  /** 16′ if left out. */
+  /** 0 to 2; 16/60 if left out. */
   readonly sunSemidiameter?: number;
 }
 

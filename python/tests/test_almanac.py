@@ -142,6 +142,7 @@ def test_bad_input_is_a_value_error(wrong):
     "wrong",
     [
         lambda: velmora.day(HELSINKI, date(1899, 12, 31)),
+        lambda: velmora.day(HELSINKI, date(1900, 1, 1)),  # which begins in the UTC of 1899
         lambda: velmora.position(HELSINKI, Body.SUN, datetime(2101, 1, 2, tzinfo=UTC)),
         lambda: velmora.illumination(HELSINKI, datetime(1800, 1, 1, tzinfo=UTC)),
         lambda: velmora.calendar_month(UTC, 2041, 1),

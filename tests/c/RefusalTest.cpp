@@ -52,9 +52,12 @@ TEST(CInterfaceRefusals, NumbersThatAreNoChoice) {
             VELMORA_BAD_ARGUMENT);
   EXPECT_EQ(velmora_events(&helsinki, in2024, in2024 + day, 4, nullptr, nullptr, nullptr, 0, &count),
             VELMORA_BAD_ARGUMENT);
-  const velmora_convention odd = {3, 0, 0.5, 0.25}, steep = {0, 0, 11, 0.25};
+  const velmora_convention odd = {3, 0, 0.5, 0.25}, steep = {0, 0, 2.1, 0.25};
   EXPECT_EQ(velmora_next(&helsinki, 0, 0, in2024, &odd, &event), VELMORA_BAD_ARGUMENT);
   EXPECT_EQ(velmora_next(&helsinki, 0, 0, in2024, &steep, &event), VELMORA_BAD_ARGUMENT);
+  EXPECT_EQ(message(), "an angle of the convention lies outside 0 to 2 degrees");
+  const velmora_convention steepest = {0, 0, 2, 2};
+  EXPECT_EQ(velmora_next(&helsinki, 0, 0, in2024, &steepest, &event), VELMORA_OK);
 }
 
 TEST(CInterfaceRefusals, NullPointersAreNamed) {
@@ -90,6 +93,20 @@ TEST(CInterfaceRefusals, ZonesAndDaysThatDoNotExist) {
   }
   EXPECT_EQ(velmora_civil_day(utc, {1899, 12, 31}, &start, &end), VELMORA_OUT_OF_YEARS);
   EXPECT_EQ(velmora_civil_day(utc, {2101, 1, 1}, &start, &end), VELMORA_OUT_OF_YEARS);
+}
+
+TEST(CInterfaceRefusals, DaysThatBeginBeforeTheYearsOrEndAfterThem) {
+  const OpenZone helsinkis("Europe/Helsinki"), newYorks("America/New_York"), apias("Pacific/Apia");
+  size_t days = 0, events = 0;
+  const auto asked = [&](const velmora_zone* zone, velmora_date first, velmora_date last) {
+    return velmora_days(&helsinki, zone, first, last, 0, nullptr, nullptr, 0, &days, nullptr, 0, &events);
+  };
+  EXPECT_EQ(asked(helsinkis, {1900, 1, 1}, {1900, 1, 5}), VELMORA_OUT_OF_YEARS);
+  EXPECT_EQ(message(), "a day lies outside the years 1900 to 2100 of UTC");
+  EXPECT_EQ(asked(newYorks, {2100, 12, 1}, {2100, 12, 31}), VELMORA_OUT_OF_YEARS);
+  EXPECT_EQ(asked(newYorks, {1900, 1, 1}, {1900, 1, 1}), VELMORA_MORE);
+  EXPECT_EQ(asked(apias, {2011, 12, 30}, {2011, 12, 30}), VELMORA_OK);
+  EXPECT_EQ(days, 0U);
 }
 
 TEST(CInterfaceRefusals, ListLongerThanItsRoomIsCountedWhole) {

@@ -20,10 +20,10 @@ almanac::EventChoice choiceOfEvents(std::uint32_t choice) {
 
 almanac::Convention conventionOf(const velmora_convention* convention) {
   if (!convention) return {};
-  constexpr double most = 10.0;
+  constexpr double most = 2.0;
   const auto isAngle = [](double degrees) { return degrees >= 0.0 && degrees <= most; };
   if (!isAngle(convention->horizon_refraction) || !isAngle(convention->sun_semidiameter)) {
-    endWith(VELMORA_BAD_ARGUMENT, {"an angle of the convention lies outside 0 to 10 degrees"});
+    endWith(VELMORA_BAD_ARGUMENT, {"an angle of the convention lies outside 0 to 2 degrees"});
   }
   return {.limb = static_cast<almanac::Convention::Limb>(choiceOf(convention->limb, 3, "limb")),
           .horizonRefraction = convention->horizon_refraction,
@@ -92,6 +92,9 @@ velmora_status velmora_days(const velmora_place* place, const velmora_zone* zone
     if (to < from) endWith(VELMORA_BAD_ARGUMENT, {"last lies before first"});
     const auto answers = almanac::days(placeOf(place), zoneOf(zone), from, to, choiceOfEvents(choice),
                                        conventionOf(convention));
+    if (answers.empty() && almanac::civilDay(zoneOf(zone), from)) {
+      endWith(VELMORA_OUT_OF_YEARS, {"a day lies outside the years 1900 to 2100 of UTC"});
+    }
     std::vector<velmora_day> made;
     std::vector<velmora_event> happening;
     made.reserve(answers.size());

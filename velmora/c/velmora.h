@@ -1,9 +1,10 @@
 /**
  * Velmora in C: the one interface that every other language uses.
  *
- * Every operation may be called from any thread; no result depends on earlier calls. What it fills
- * belongs to the caller; only a zone is an object of the library's own, opened and closed. Structs are plain
- * and only grow by new operations, never by new fields.
+ * Every operation may be called from any thread; no result depends on earlier calls, but for the folder that
+ * velmora_set_resources() has set. What an operation fills belongs to the caller; only a zone is an object of
+ * the library's own, opened and closed. Structs are plain and only grow by new operations, never by new
+ * fields.
  *
  * An operation returns VELMORA_OK or says by its status what was wrong, and then by velmora_message() in
  * words; what it would have filled is then left as it was. A number that does not exist is NaN, an instant
@@ -151,11 +152,11 @@ typedef struct velmora_day {
 typedef struct velmora_convention {
   int32_t limb;              /**< 0 upper, 1 centre, 2 lower */
   int32_t reserved;          /**< 0 */
-  double horizon_refraction; /**< degrees at the horizon; usually 34/60 */
-  double sun_semidiameter;   /**< degrees; usually 16/60 */
+  double horizon_refraction; /**< degrees at the horizon, 0..2; usually 34/60 */
+  double sun_semidiameter;   /**< degrees, 0..2; usually 16/60 */
 } velmora_convention;
 
-/** The events of [start, end), of any length. `day` may be null. */
+/** The events of [start, end), of any length but 0. `day` may be null. */
 VELMORA_API velmora_status velmora_events(const velmora_place* place, double start, double end,
                                           uint32_t choice, const velmora_convention* convention,
                                           velmora_day* day, velmora_event* events, size_t capacity,
@@ -163,6 +164,7 @@ VELMORA_API velmora_status velmora_events(const velmora_place* place, double sta
 
 /**
  * The civil days from `first` to `last`, both included; those that the zone's clocks skipped are left out.
+ * VELMORA_OUT_OF_YEARS where a part of one lies in the UTC of 1899 or 2101.
  * Two lists: a day's events stand in `events` from its `first_event` on.
  */
 VELMORA_API velmora_status velmora_days(const velmora_place* place, const velmora_zone* zone,
@@ -191,7 +193,9 @@ VELMORA_API velmora_status velmora_at_places(const velmora_place* places, size_t
                                              double end, const velmora_convention* convention,
                                              uint32_t threads, velmora_place_day* days);
 
-/** The first such event after the instant within a year; VELMORA_NONE if there is none. */
+/** The first such event after the instant, within 366 days and the years covered; VELMORA_NONE if there is
+ * none.
+ */
 VELMORA_API velmora_status velmora_next(const velmora_place* place, int32_t body, int32_t kind, double after,
                                         const velmora_convention* convention, velmora_event* event);
 

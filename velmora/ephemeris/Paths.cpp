@@ -69,9 +69,9 @@ Segment segmentOf(Body body, double number) {
   }
   const auto places = placesAt(body, doublesOf(centuries));
   Segment segment{};
-  for (std::size_t power = 0; power < nodesOfSegment; ++power) {
-    for (std::size_t i = 0; i < laneCount; ++i) {
-      const Vector place = {lane(places.x, i), lane(places.y, i), lane(places.z, i)};
+  for (std::size_t i = 0; i < laneCount; ++i) {
+    const Vector place = {lane(places.x, i), lane(places.y, i), lane(places.z, i)};
+    for (std::size_t power = 0; power < nodesOfSegment; ++power) {
       segment.coefficients[power] = segment.coefficients[power] + place * shares[power][i];
     }
   }
