@@ -46,6 +46,14 @@ bool anotherPlaceKeepsTheDay() {
   return isSame && moon.currentDay() == 18 && moon.currentMonthData().at(2)->day == 18;
 }
 
+bool anotherLanguageReachesTheEvents() {
+  const auto time = [] { return MoonPhaseData::sharedInstance().currentMonthData().front()->time; };
+  speak("ja_JP");
+  const std::string japanese = time();
+  speak("de_DE");
+  return time() != japanese;
+}
+
 bool theLastDayEndsTheList() {
   MoonPhaseData::sharedInstance().changeSelectedDay(30, 9, 2024);
   RowsWindow rows(size);
@@ -82,6 +90,7 @@ int main() {
     bool (*holds)();
   } claims[] = {{"a context gets the same pixels", aContextGetsTheSamePixels},
                 {"another place keeps the day", anotherPlaceKeepsTheDay},
+                {"another language reaches the events", anotherLanguageReachesTheEvents},
                 {"the last day ends the list", theLastDayEndsTheList},
                 {"other colours look as from the start", otherColoursLookAsFromTheStart}};
   int failures = 0;
