@@ -257,8 +257,8 @@ std::string unfolded(const std::string& text) {
   return whole;
 }
 
-/// Whether each BEGIN has its END, few within each other. Of an END that has no BEGIN libical tells people
-/// itself, and for each BEGIN within another it calls itself.
+/// Whether each BEGIN says of what and has its END, few within each other. Of an END that has no BEGIN
+/// libical tells people itself, and for each BEGIN within another it calls itself.
 bool isBalanced(const std::string& text) {
   constexpr int deepest = 8;  // an alarm of an event of a calendar is at 3
   int depth = 0;
@@ -267,9 +267,10 @@ bool isBalanced(const std::string& text) {
     std::string name = line.substr(0, line.find_first_of(":;"));
     std::transform(name.begin(), name.end(), name.begin(),
                    [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
-    if (name == "BEGIN") ++depth;
-    if (name == "END") --depth;
-    if (depth < 0 || depth > deepest) return false;
+    if (name != "BEGIN" && name != "END") continue;
+    depth += name == "BEGIN" ? 1 : -1;
+    const bool saysOfWhat = line.find(':') < line.size() - 1;
+    if (!saysOfWhat || depth < 0 || depth > deepest) return false;
   }
   return depth == 0;
 }
