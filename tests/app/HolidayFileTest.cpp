@@ -160,6 +160,13 @@ TEST(HolidayFile, FollowsRecurrencesNoFurtherThanIsWorth) {
             "ics 'days.ics' has events that recur too often to be followed" + accepted);
 }
 
+TEST(HolidayFile, WithALineOfPartsWithoutEndIsRefused) {
+  std::string parts = "X-A";
+  for (int i = 0; i < 1001; ++i) parts += ";B=c";
+  EXPECT_EQ(faultOf(calendarOf(event("a", start + line(parts + ":d")))),
+            "ics 'days.ics' has a line of more than 1000 parts" + accepted);
+}
+
 TEST(HolidayFile, OfALongEventNamesAYear) {
   EXPECT_EQ(datesOf(event("a", line("DTSTART;VALUE=DATE:20251230") + line("DURATION:P2000000000D"))).size(),
             364U);

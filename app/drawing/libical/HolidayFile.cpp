@@ -24,7 +24,7 @@ using std::chrono::year_month_day;
 
 // libical takes half a second for a line of this length, and four times as long for each doubling.
 constexpr std::size_t largestFile = std::size_t{1} << 20;  // bytes
-constexpr int mostDays = 10'000'000;                       // looked at in a file
+constexpr int mostDays = 2'000'000;                        // looked at in a file
 constexpr days longestEvent{366};
 
 using Component = std::unique_ptr<icalcomponent, decltype(&icalcomponent_free)>;
@@ -257,22 +257,27 @@ std::string unfolded(const std::string& text) {
   return whole;
 }
 
-/// Whether each BEGIN says of what and has its END, few within each other. Of an END that has no BEGIN
-/// libical tells people itself, and for each BEGIN within another it calls itself.
-bool isBalanced(const std::string& text) {
+const BadInput noWholeCalendar("is no calendar, or not a whole one");
+
+/// Throws for what libical should not be given: of an END without a BEGIN it tells people itself, for each
+/// BEGIN within another it calls itself, and its time grows with the square of the parts of a line.
+void checkLines(const std::string& text) {
   constexpr int deepest = 8;  // an alarm of an event of a calendar is at 3
+  constexpr std::ptrdiff_t mostParts = 1000;
   int depth = 0;
   std::istringstream lines(unfolded(text));
   for (std::string line; std::getline(lines, line);) {
+    if (std::count(line.begin(), line.end(), ';') > mostParts)
+      throw BadInput("has a line of more than 1000 parts");
     std::string name = line.substr(0, line.find_first_of(":;"));
     std::transform(name.begin(), name.end(), name.begin(),
                    [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
     if (name != "BEGIN" && name != "END") continue;
     depth += name == "BEGIN" ? 1 : -1;
     const bool saysOfWhat = line.find(':') < line.size() - 1;
-    if (!saysOfWhat || depth < 0 || depth > deepest) return false;
+    if (!saysOfWhat || depth < 0 || depth > deepest) throw noWholeCalendar;
   }
-  return depth == 0;
+  if (depth > 0) throw noWholeCalendar;
 }
 
 bool isCalendar(icalcomponent* component) {
@@ -285,9 +290,10 @@ bool isCalendar(icalcomponent* component) {
 /// Throws where it is no calendar, or a part of it could not be read.
 Component parsed(const std::string& text) {
   if (!isUtf8(text)) throw BadInput("is not text");
+  checkLines(text);
   icalerror_set_errors_are_fatal(0);  // else it may end the process
-  Component calendar(isBalanced(text) ? icalparser_parse_string(text.c_str()) : nullptr, icalcomponent_free);
-  if (!calendar || !isCalendar(calendar.get())) throw BadInput("is no calendar, or not a whole one");
+  Component calendar(icalparser_parse_string(text.c_str()), icalcomponent_free);
+  if (!calendar || !isCalendar(calendar.get())) throw noWholeCalendar;
   const std::string fault = faultIn(calendar.get());
   if (!fault.empty()) throw BadInput("is damaged: " + quote(fault));
   return calendar;

@@ -13,7 +13,7 @@ namespace velmora::app {
 /// days, and of events at a time of day those that they lie on where they are, at the zone where they have
 /// universal time. Recurrences, exceptions, moved and cancelled events are followed; of a longer event the
 /// first 366 days. `source` names the file in messages. Throws BadInput where the text is damaged or has
-/// events that recur within a day, by another calendar or beyond what is followed: ten million days to look
+/// events that recur within a day, by another calendar or beyond what is followed: two million days to look
 /// at in all.
 std::vector<CalendarNote> holidaysIn(const std::string& text, const std::string& source,
                                      std::chrono::year year, const TimeZone& zone);
