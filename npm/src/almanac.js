@@ -1,5 +1,5 @@
 import functions from 'velmora-almanac-imports';
-import {choice, integer, number, open, seconds} from './core.js';
+import {choice, integer, number, object, open, seconds} from './core.js';
 
 const bodies = ['sun', 'moon'];
 const kinds = ['rise', 'set', 'transit', 'civilDawn', 'civilDusk', 'nauticalDawn', 'nauticalDusk',
@@ -136,9 +136,10 @@ function localEclipse(core, at) {
   };
 }
 
-function convention(core, given) {
+function convention(core, options) {
+  const given = object(options, 'options').convention;
   if (given === undefined) return 0;
-  const {limb = 'upper', horizonRefraction = 34 / 60, sunSemidiameter = 16 / 60} = given;
+  const {limb = 'upper', horizonRefraction = 34 / 60, sunSemidiameter = 16 / 60} = object(given, 'convention');
   const at = core.convention;
   core.setInteger(at, choice(limbs, limb, 'limb'));
   core.setInteger(at + 4, 0);
@@ -179,7 +180,7 @@ class Almanac {
   days(place, zone, first, last, options = {}) {
     const core = this.#core;
     const at = core.place(place), clocks = core.zone(zone), from = core.date(first, 'first'),
-      to = core.lastDate(last, 'last'), choice = wanted(options), horizon = convention(core, options.convention);
+      to = core.lastDate(last, 'last'), horizon = convention(core, options), choice = wanted(options);
     const dayRoom = dayCount(first, last), {count, eventCount} = core;
     core.grown(dayRoom * (DAY + usualEvents * EVENT));
     const events = () => core.items + dayRoom * DAY;
@@ -198,7 +199,7 @@ class Almanac {
 
   #eventsOf(place, start, end, options = {}) {
     const core = this.#core, {answer, count} = core;
-    const at = core.place(place), choice = wanted(options), horizon = convention(core, options.convention);
+    const at = core.place(place), horizon = convention(core, options), choice = wanted(options);
     do {
       core.ask(() => this.#c.velmora_events(at, start, end, choice, horizon, answer, core.items,
         Math.floor(core.room / EVENT), count));
@@ -209,7 +210,7 @@ class Almanac {
   next(place, body, kind, after, options = {}) {
     const core = this.#core;
     const isFound = core.ask(() => this.#c.velmora_next(core.place(place), choice(bodies, body, 'body'),
-      choice(kinds, kind, 'kind'), seconds(after, 'after'), convention(core, options.convention), core.answer));
+      choice(kinds, kind, 'kind'), seconds(after, 'after'), convention(core, options), core.answer));
     return isFound ? event(core, core.answer) : undefined;
   }
 
@@ -242,7 +243,7 @@ class Almanac {
 
   seenFrom(eclipse, place) {
     const core = this.#core;
-    const {maximum, magnitude, gamma, body, kind, saros} = eclipse;
+    const {maximum, magnitude, gamma, body, kind, saros} = object(eclipse, 'eclipse');
     core.grown(ECLIPSE);
     const at = core.items;
     core.setDouble(at, seconds(maximum, 'maximum'));

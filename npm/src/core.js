@@ -152,8 +152,7 @@ export class Core {
   }
 
   place(place) {
-    if (typeof place !== 'object' || place === null) throw new TypeError('place is no object');
-    const {latitude, longitude, height = 0} = place;
+    const {latitude, longitude, height = 0} = object(place, 'place');
     const at = this.scratch + PLACE;
     this.setDouble(at, number(latitude, 'latitude'));
     this.setDouble(at + 8, number(longitude, 'longitude'));
@@ -171,6 +170,11 @@ export class Core {
     this.setInteger(at + 8, integer(date.day, name));
     return at;
   }
+}
+
+export function object(value, name) {
+  if (typeof value !== 'object' || value === null) throw new TypeError(`${name} is no object`);
+  return value;
 }
 
 export function number(value, name) {

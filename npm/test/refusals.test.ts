@@ -60,6 +60,11 @@ range(() => almanac.next(helsinki, 'sun', 'rise', now, {convention: {horizonRefr
 range(() => almanac.next(helsinki, 'sun', 'rise', now, {convention: {limb: 'left' as any}}),
   'limb is one of upper, centre, lower');
 
+type(() => almanac.day(helsinki, 'UTC', day, null as any), 'options is no object');
+type(() => almanac.next(helsinki, 'sun', 'rise', now, 'soon' as any), 'options is no object');
+type(() => almanac.days(helsinki, 'UTC', day, day, {convention: null as any}), 'convention is no object');
+type(() => almanac.seenFrom(null as any, helsinki), 'eclipse is no object');
+
 range(() => calendar.month('UTC', 1999, 1), 'the phase calendar covers the years 2000 to 2040');
 range(() => calendar.month('UTC', 2024, 13), 'month lies outside 1 to 12');
 range(() => calendar.riseSet(helsinki, 'UTC', day, 'dim' as any),
