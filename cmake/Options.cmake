@@ -12,6 +12,7 @@ endif()
 
 option(VELMORA_BUILD_APP "Build the host program" ${PROJECT_IS_TOP_LEVEL})
 option(VELMORA_BUILD_TESTS "Build the tests" ${PROJECT_IS_TOP_LEVEL})
+option(VELMORA_OPTIMISE_APP "Optimise the host program as the type of build says; tests are built sooner without" ON)
 option(VELMORA_BUILD_EXAMPLES "Build the examples; with the tests they are run" ${VELMORA_BUILD_TESTS})
 option(VELMORA_BUILD_BENCHMARKS "Build the benchmarks" OFF)
 option(VELMORA_BUILD_FUZZERS "Build the fuzz targets with libFuzzer (clang only)" OFF)

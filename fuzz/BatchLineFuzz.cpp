@@ -22,10 +22,10 @@ static bool asksForPicture(std::string_view line) {
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  using velmora::app::Json;
+  using namespace velmora::app;
   if (asksForPicture({reinterpret_cast<const char*>(data), size})) return 0;
   const std::string answer = velmora::app::batchAnswer({reinterpret_cast<const char*>(data), size});
-  const Json read = Json::parse(answer, nullptr, false);
+  const Json read = jsonFromText(answer);
   if (!read.is_object() || answer.find('\n') != std::string::npos) std::abort();
   if (!read.contains("id") || read.contains("result") == read.contains("error")) std::abort();
   return 0;

@@ -21,7 +21,7 @@ SkyDay skyOfDay(const Query& query) { return skyDaysOf(query, {}).at(0); }
 Json riseSetJson(const Query& query) {
   JsonText json;
   writeSkyDay(json, skyOfDay(query), query);
-  return Json::parse(json.text());
+  return jsonFromText(json.text());
 }
 
 Json json(const Query& query) {

@@ -50,7 +50,7 @@ std::optional<std::string> text(const Json& object, const char* name) {
 
 /// What `keepOwnPlace` has written; none of anything else.
 std::optional<PlaceChoice> placeFrom(const std::string& content) {
-  const Json object = Json::parse(content, nullptr, false);
+  const Json object = jsonFromText(content);
   if (!object.is_object()) return std::nullopt;
   const auto zone = TimeZone::named(text(object, "tz").value_or(""));
   const PlaceChoice place{.latitude = number(object, "lat", -90, 90),

@@ -135,7 +135,7 @@ std::string_view memberText(std::string_view line, std::string_view name) {
     const std::string_view key = scanner.value();
     scanner.pass(":");
     const std::string_view value = scanner.value();
-    if (Json::parse(key) == Json(name)) return value;
+    if (jsonFromText(key) == Json(name)) return value;
     scanner.pass(",");
   }
   return "null";

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include <nlohmann/json.hpp>
 
@@ -11,6 +12,10 @@ namespace velmora::app {
 
 /// A JSON value whose objects keep the order in which their members were written.
 using Json = nlohmann::ordered_json;
+
+/// The value that a text holds, discarded where it is not JSON. Compiled once, as reading a text with each
+/// source that does takes the compiler longer than the rest of it.
+Json jsonFromText(std::string_view text);
 
 /// The value on one line. Numbers read back unchanged, what is no number is null, bytes that are no UTF-8 are
 /// replaced.

@@ -2,7 +2,9 @@
 
 #include <sstream>
 
-template class nlohmann::basic_json<nlohmann::ordered_map>;
+void nlohmann::PrintTo(const ordered_json& value, std::ostream* out) {
+  *out << velmora::app::jsonLine(value);
+}
 
 namespace velmora::app {
 
@@ -35,7 +37,7 @@ std::string AppTest::answer(const std::vector<std::string>& arguments) {
 
 Json AppTest::json(std::vector<std::string> arguments) {
   arguments.emplace_back("--json");
-  return Json::parse(answer(arguments));
+  return jsonFromText(answer(arguments));
 }
 
 }  // namespace velmora::app

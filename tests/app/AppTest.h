@@ -14,8 +14,10 @@
 #include <velmora/platform/time/Locale.h>
 #include <velmora/platform/time/TimeZone.h>
 
-/// Compiled once for all tests, in AppTest.cpp.
-extern template class nlohmann::basic_json<nlohmann::ordered_map>;
+namespace nlohmann {
+/// How a value is shown where a test fails: as a line, not as a container.
+void PrintTo(const ordered_json& value, std::ostream* out);
+}  // namespace nlohmann
 
 namespace velmora::app {
 

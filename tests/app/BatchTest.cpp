@@ -13,7 +13,7 @@ class BatchTest : public AppTest {
     const Outcome outcome = runProgram(options, lines);
     EXPECT_EQ(outcome.status, 0) << outcome.err;
     std::vector<Json> list;
-    for (const std::string& line : linesOf(outcome.out)) list.push_back(Json::parse(line));
+    for (const std::string& line : linesOf(outcome.out)) list.push_back(jsonFromText(line));
     return list;
   }
 
@@ -80,7 +80,7 @@ TEST_F(BatchTest, AnswersKeepTheOrderAndTheIds) {
   EXPECT_TRUE(list[1].contains("error"));
   EXPECT_FALSE(list[1].contains("result"));
   EXPECT_EQ(list[2]["id"], nullptr);
-  EXPECT_EQ(list[3]["id"], Json::parse(R"([1, {"a": 0.1}])"));
+  EXPECT_EQ(list[3]["id"], jsonFromText(R"([1, {"a": 0.1}])"));
 }
 
 TEST_F(BatchTest, AnIdComesBackByteForByte) {

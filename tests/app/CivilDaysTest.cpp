@@ -76,7 +76,7 @@ class CivilDaysTest : public AppTest {
     for (const CivilDay& day : days) requests += day.request + "\n";
     std::vector<Json> answers;
     for (const std::string& line : linesOf(runProgram({"batch"}, requests).out))
-      answers.push_back(Json::parse(line)["result"][0]);
+      answers.push_back(jsonFromText(line)["result"][0]);
     return answers;
   }
 
@@ -91,7 +91,7 @@ class CivilDaysTest : public AppTest {
   }
 
   static Instant startOf(const CivilDay& day) {
-    const Json request = Json::parse(day.request);
+    const Json request = jsonFromText(day.request);
     const TimeZone zone = *TimeZone::named(request["tz"].get<std::string>());
     return zone.lookup(LocalTime(std::chrono::local_days(*dateFromText(request["date"].get<std::string>()))))
         .change;

@@ -66,7 +66,7 @@ TEST_F(ElevationCommandTest, NegativeElevationsAreTakenAsTheyStand) {
   EXPECT_NEAR(altitude({"-.25"}), -0.25, 1e-4);
   const std::string answered =
       answer({"elevation", "--json", "--body", "sun", "--city", "Guayaquil", "--", "-0.25"});
-  EXPECT_NEAR(Json::parse(answered)[0]["apparentAltitude"].get<double>(), -0.25, 1e-4);
+  EXPECT_NEAR(jsonFromText(answered)[0]["apparentAltitude"].get<double>(), -0.25, 1e-4);
 }
 
 TEST_F(ElevationCommandTest, EachCrossingIsAPositionOfItsInstant) {

@@ -54,7 +54,7 @@ class JsonPageTest : public PictureTest {
   std::set<Names> objects() const {
     std::set<Names> objects;
     for (const std::string& answer : answersTo(requests(), {"--pictures", folder().path().string()}))
-      collect(Json::parse(answer), objects);
+      collect(jsonFromText(answer), objects);
     collect(json({"place"}), objects);
     collect(json({"place", "--forget"}), objects);
     return objects;
@@ -109,7 +109,7 @@ class JsonPageTest : public PictureTest {
 
 TEST_F(JsonPageTest, EveryCommandThatAnswersInJsonHasAHeadingAndIsAskedHere) {
   std::set<std::string> asked;
-  for (const std::string& request : requests()) asked.insert(Json::parse(request)["op"]);
+  for (const std::string& request : requests()) asked.insert(jsonFromText(request)["op"]);
   for (const Command& command : allCommands()) {
     if (!command.isForBatch) continue;
     const std::string name(command.name);

@@ -86,7 +86,7 @@ TEST_F(MonthCommandTest, FieldsStandInTheAgreedOrder) {
 
 TEST_F(MonthCommandTest, EventsCarryTheClockTimeOfTheirTrueInstant) {
   EXPECT_EQ(eventTimes(json({"month", "2024-03", "--24h"})),
-            Json::parse(R"([[3, "Last Quarter", "07:23", "2024-03-03T15:23:00Z"],
+            jsonFromText(R"([[3, "Last Quarter", "07:23", "2024-03-03T15:23:00Z"],
                             [10, "New Moon", "01:00", "2024-03-10T09:00:00Z"],
                             [16, "First Quarter", "21:11", "2024-03-17T04:11:00Z"],
                             [25, "Full Moon", "00:00", "2024-03-25T07:00:00Z"]])"));

@@ -146,7 +146,7 @@ TEST_F(OwnPlaceTest, ABatchDoesNotHeedIt) {
   const ScopedDefaultTimeZone zone("Asia/Tokyo");
   answer({"place", "--city", "Helsinki"});
   const Outcome outcome = runProgram({"batch"}, "{\"op\": \"today\"}\n");
-  EXPECT_EQ(Json::parse(outcome.out)["result"]["place"]["name"], "San Francisco, CA");
+  EXPECT_EQ(jsonFromText(outcome.out)["result"]["place"]["name"], "San Francisco, CA");
 }
 
 }  // namespace

@@ -29,9 +29,9 @@ TEST_F(PhasesCommandTest, GoesAcrossTheEndOfTheYear) {
   EXPECT_NEAR(secondsBetween(quarter["localDate"], "2025-01-06T23:56:18Z"), 0, 2);
   newMoon.erase("localDate");
   quarter.erase("localDate");
-  EXPECT_EQ(newMoon, Json::parse(R"({"day": 31, "month": 12, "year": 2024, "phase": 3,
+  EXPECT_EQ(newMoon, jsonFromText(R"({"day": 31, "month": 12, "year": 2024, "phase": 3,
                                      "phaseName": "New Moon", "time": "07:27"})"));
-  EXPECT_EQ(quarter, Json::parse(R"({"day": 7, "month": 1, "year": 2025, "phase": 1,
+  EXPECT_EQ(quarter, jsonFromText(R"({"day": 7, "month": 1, "year": 2025, "phase": 1,
                                      "phaseName": "First Quarter", "time": "08:56"})"));
 }
 

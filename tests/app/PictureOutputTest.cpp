@@ -21,7 +21,7 @@ TEST_F(PictureOutputTest, BatchWritesTheSamePictures) {
   const Outcome outcome =
       runProgram({"batch", "--pictures", folder().path().string()}, jsonLine(request) + "\n" + plain + "\n");
   ASSERT_EQ(linesOf(outcome.out).size(), 2U);
-  EXPECT_EQ(Json::parse(linesOf(outcome.out).front())["result"]["output"], path("batch.png"));
+  EXPECT_EQ(jsonFromText(linesOf(outcome.out).front())["result"]["output"], path("batch.png"));
   EXPECT_EQ(bytesOf(path("batch.png")),
             bytesOf(draw({"month", "--size", "768x900", "--rtl", "--tablet", "--locale", "ar_EG",
                           "--calendar", "hebrew", "--week-start", "monday", "--city", "Helsinki"})));
@@ -35,7 +35,7 @@ TEST_F(PictureOutputTest, BatchWritesBelowItsFolderAlone) {
   std::filesystem::create_symlink(path("unborn.png"), path("pictures/dangling.png"));
   const auto answerTo = [&](const std::string& output) {
     const std::string line = jsonLine({{"op", "draw"}, {"view", "disc"}, {"output", output}}) + "\n";
-    return Json::parse(runProgram({"batch", "--pictures", path("pictures")}, line).out);
+    return jsonFromText(runProgram({"batch", "--pictures", path("pictures")}, line).out);
   };
   for (const std::string& output :
        {std::string("a.png"), std::string("inner/../inner/b.svg"), path("pictures/c.pdf")})

@@ -7,7 +7,6 @@
 #include <fstream>
 #include <iterator>
 #include <memory>
-#include <regex>
 #include <string>
 #include <utility>
 #include <vector>
@@ -96,15 +95,7 @@ class DrawnPicture {
 };
 
 /// Width and height that an SVG or a PDF states, in points.
-inline Size statedSize(const std::filesystem::path& file) {
-  const std::string text = bytesOf(file);
-  const std::regex svg(R"(<svg[^>]* width="([0-9.]+)(?:px)?" height="([0-9.]+)(?:px)?")");
-  const std::regex pdf(R"(/MediaBox \[ 0 0 ([0-9.]+) ([0-9.]+) \])");
-  std::smatch match;
-  const bool isFound = std::regex_search(text, match, file.extension() == ".svg" ? svg : pdf);
-  EXPECT_TRUE(isFound) << file << " states no size";
-  return isFound ? Size{testing::leadingNumber(match[1]), testing::leadingNumber(match[2])} : Size();
-}
+Size statedSize(const std::filesystem::path& file);
 
 /// Draws into a folder of its own.
 class PictureTest : public AppTest {

@@ -15,7 +15,7 @@ Json placeOfToday(const std::vector<std::string>& options) {
   arguments.insert(arguments.end(), options.begin(), options.end());
   const Outcome outcome = runProgram(arguments);
   EXPECT_EQ(outcome.status, 0) << outcome.err;
-  return Json::parse(outcome.out)["place"];
+  return jsonFromText(outcome.out)["place"];
 }
 
 TEST_F(PlaceTest, WithoutOptionsItIsTheDefaultPlace) {

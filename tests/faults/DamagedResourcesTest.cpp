@@ -190,7 +190,7 @@ TEST_F(DamagedResources, ADamagedTableOfCitiesIsAFailureThatNamesItWhereACityIsA
 TEST_F(DamagedResources, ADamagedStringTableLeavesEnglish) {
   const auto english = json({"today", "--locale", "en_US"});
   const std::vector<std::string> inGerman = {"today", "--locale", "de_DE", "--12h", "--json"};
-  EXPECT_NE(Json::parse(runProgram(inGerman).out)["phaseName"], english["phaseName"]);
+  EXPECT_NE(jsonFromText(runProgram(inGerman).out)["phaseName"], english["phaseName"]);
   const fs::path ofLibrary = library("de.lproj/Localizable.strings");
   const fs::path ofMain = main("de.lproj/Localizable.strings");
   for (const Damage& damage : damagesOfListFiles()) {
@@ -200,7 +200,7 @@ TEST_F(DamagedResources, ADamagedStringTableLeavesEnglish) {
     const Outcome outcome = runAsAnyUser(inGerman);
     EXPECT_EQ(outcome.status, 0) << damage.name << outcome.err;
     EXPECT_EQ(outcome.err, "") << damage.name;
-    EXPECT_EQ(Json::parse(outcome.out)["phaseName"], english["phaseName"]) << damage.name;
+    EXPECT_EQ(jsonFromText(outcome.out)["phaseName"], english["phaseName"]) << damage.name;
     restore(ofLibrary);
     restore(ofMain);
   }

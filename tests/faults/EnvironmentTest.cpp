@@ -29,7 +29,7 @@ std::vector<std::string> at(std::vector<std::string> question) {
 Json jsonOf(const End& end) {
   EXPECT_EQ(end.status, 0) << end.err;
   EXPECT_EQ(end.err, "");
-  return Json::parse(end.out, nullptr, false);
+  return jsonFromText(end.out);
 }
 
 TEST(WithoutZoneDatabase, WhatNeedsAZoneSaysThatItIsMissing) {

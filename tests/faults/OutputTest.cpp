@@ -103,7 +103,7 @@ TEST(Input, IsNotNeededByOtherCommands) {
 void expectWholeAnswers(const std::string& output) {
   EXPECT_TRUE(output.empty() || output.back() == '\n') << output.substr(output.size() - 80);
   for (const std::string& line : linesOf(output))
-    ASSERT_TRUE(Json::parse(line, nullptr, false).contains("result")) << line;
+    ASSERT_TRUE(jsonFromText(line).contains("result")) << line;
 }
 
 class BatchSignal : public ::testing::TestWithParam<int> {};
