@@ -58,7 +58,7 @@ TEST_F(CalendarCommandTest, OfABatchReadsNoFile) {
   const std::string line =
       jsonLine({{"op", "draw"}, {"view", "calendar"}, {"output", "a.png"}, {"ics", "/etc/passwd"}}) + "\n";
   const Outcome outcome = runProgram({"batch", "--pictures", folder().path().string()}, line);
-  EXPECT_TRUE(Json::parse(outcome.out).contains("error"));
+  EXPECT_TRUE(jsonFromText(outcome.out).contains("error"));
 }
 
 }  // namespace

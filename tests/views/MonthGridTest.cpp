@@ -84,12 +84,12 @@ TEST(MonthGridTest, TheColumnsWeekdayIsTheOneThatFallsIntoIt) {
 }
 
 TEST(MonthGridTest, WholeWeeksDoNotCountHoweverMany) {
-  constexpr std::int64_t sunday = std::numeric_limits<std::int64_t>::max();    // a multiple of 7
-  constexpr std::int64_t saturday = std::numeric_limits<std::int64_t>::min();  // one less than another
-  EXPECT_EQ(MonthGrid::columnOfWeekday(1, sunday), 0);
-  EXPECT_EQ(MonthGrid::columnOfWeekday(1, saturday), 1);
-  EXPECT_EQ(MonthGrid::weekdayInColumn(6, sunday), 6);
-  EXPECT_EQ(MonthGrid::weekdayInColumn(6, saturday), 5);
+  constexpr std::int64_t asSunday = std::numeric_limits<std::int64_t>::max();    // a multiple of 7
+  constexpr std::int64_t asSaturday = std::numeric_limits<std::int64_t>::min();  // one less than another
+  EXPECT_EQ(MonthGrid::columnOfWeekday(1, asSunday), 0);
+  EXPECT_EQ(MonthGrid::columnOfWeekday(1, asSaturday), 1);
+  EXPECT_EQ(MonthGrid::weekdayInColumn(6, asSunday), 6);
+  EXPECT_EQ(MonthGrid::weekdayInColumn(6, asSaturday), 5);
 }
 
 TEST(MonthGridTest, APointInADaysCellIsThatDay) {
