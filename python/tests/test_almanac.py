@@ -119,6 +119,12 @@ def test_instants_come_back_in_the_places_zone():
     assert velmora.day(behind, date(2024, 6, 21)).start.utcoffset() == -timedelta(hours=3, minutes=30)
 
 
+@pytest.mark.parametrize("ahead", [timedelta(hours=1, minutes=39, seconds=49), -timedelta(hours=4, seconds=2)])
+def test_days_of_an_offset_with_seconds_begin_at_midnight(ahead):
+    place = Place(60.17, 24.94, timezone(ahead))
+    assert velmora.day(place, date(2024, 6, 21)).start == datetime(2024, 6, 21, tzinfo=place.zone)
+
+
 @pytest.mark.parametrize(
     "wrong",
     [
@@ -182,6 +188,9 @@ def test_arrays_hold_nan_where_nothing_is_answered():
 def test_arrays_keep_their_shape():
     grid = np.arange(12.0).reshape(3, 4) * 86400
     assert arrays.positions(HELSINKI, Body.SUN, grid).shape == (3, 4)
+    columns = arrays.positions(HELSINKI, Body.SUN, grid.T)["altitude"]
+    assert (columns.T == arrays.positions(HELSINKI, Body.SUN, grid)["altitude"]).all()
+    assert arrays.positions(HELSINKI, Body.SUN, np.datetime64("2024-06-21")).shape == ()
 
 
 def test_cities_of_a_name_come_most_populous_first():

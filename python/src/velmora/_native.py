@@ -83,9 +83,10 @@ def zone_of(zone: tzinfo) -> Any:
     offset = zone.utcoffset(None)
     if offset is None:
         raise ValueError(f"{zone!r} is neither a ZoneInfo with a key nor a fixed offset")
-    sign, seconds = ("-" if offset < timedelta(0) else "+"), round(abs(offset).total_seconds())
-    hours, minutes = divmod(seconds // 60, 60)
-    return _opened(f"GMT{sign}{hours:02}:{minutes:02}")
+    sign, size = ("-" if offset < timedelta(0) else "+"), round(abs(offset).total_seconds())
+    minutes, seconds = divmod(size, 60)
+    name = f"GMT{sign}{minutes // 60:02}:{minutes % 60:02}"
+    return _opened(f"{name}:{seconds:02}" if seconds else name)
 
 
 @functools.cache

@@ -71,7 +71,7 @@ def at_places(latitudes: ArrayLike, longitudes: ArrayLike, start: datetime, end:
 
 
 def _of_instants(function: Any, struct: str, at: ArrayLike, *arguments: Any) -> NDArray[Any]:
-    seconds = np.ascontiguousarray(_as_seconds(at))
+    seconds = np.asarray(_as_seconds(at), order="C")  # which keeps a single instant one
     found = np.zeros(seconds.shape, dtype_of(struct))
     call(function, *arguments, pointer_to(seconds, "const double"), seconds.size, pointer_to(found, struct))
     return found
