@@ -212,13 +212,13 @@ export interface Almanac {
   /** "major.minor.patch". */
   readonly version: string;
 
-  /** The civil day at a place whose clocks show that time zone; none where they skipped it whole. */
+  /** The civil day at a place whose clocks keep that time zone; undefined where they skipped it whole. */
   day(place: Place, zone: string, date: CivilDate, options?: DayOptions): Day | undefined;
   /** The civil days from `first` to `last`, both included, without those that the clocks skipped. */
   days(place: Place, zone: string, first: CivilDate, last: CivilDate, options?: DayOptions): Day[];
   /** What happens in [from, to). */
   events(place: Place, from: Instant, to: Instant, options?: DayOptions): Day;
-  /** The first such event after the instant, within a year. */
+  /** The first such event after the instant, within 366 days; undefined if there is none. */
   next(place: Place, body: Body, kind: EventKind, after: Instant, options?: EventOptions): SkyEvent | undefined;
   /** Every passage of the apparent altitude by the body's centre in [from, to). */
   crossings(place: Place, body: Body, altitude: number, from: Instant, to: Instant): Crossing[];
@@ -237,10 +237,10 @@ export interface Almanac {
   apsides(from: Instant, to: Instant): Apsis[];
   /** Eclipses whose maximum lies in [from, to). */
   eclipses(from: Instant, to: Instant): Eclipse[];
-  /** The eclipse from the place; none where the Moon's penumbra never touches it. */
+  /** The eclipse from the place; undefined where the Moon's penumbra never touches it. */
   seenFrom(eclipse: Eclipse, place: Place): LocalEclipse | undefined;
 
-  /** The first instant of a civil day and of the next; none where the clocks skipped it whole. */
+  /** The first instant of a civil day and of the next; undefined where the clocks skipped it whole. */
   civilDay(zone: string, date: CivilDate): {readonly start: Date; readonly end: Date} | undefined;
   /** Seconds by which the zone's clocks are ahead of UTC. */
   offset(zone: string, at: Instant): number;

@@ -69,13 +69,13 @@ velmora_place_day placeDayOf(const almanac::Day& day) {
 
 extern "C" {
 
-velmora_status velmora_events(const velmora_place* place, double start, double end, uint32_t choice,
+velmora_status velmora_events(const velmora_place* place, double from, double to, uint32_t choice,
                               const velmora_convention* convention, velmora_day* day, velmora_event* events,
                               size_t capacity, size_t* count) {
   return answering([&] {
-    const auto [from, to] = coveredInterval(start, end);
+    const auto [start, end] = coveredInterval(from, to);
     const auto answer =
-        almanac::day(placeOf(place), from, to, choiceOfEvents(choice), conventionOf(convention));
+        almanac::day(placeOf(place), start, end, choiceOfEvents(choice), conventionOf(convention));
     if (!answer) endWith(VELMORA_BAD_ARGUMENT, {"the interval is empty"});
     const velmora_status status = fill(answer->events, events, capacity, count, "events", eventOf);
     if (day) *day = dayOf(*answer, 0);
@@ -111,11 +111,11 @@ velmora_status velmora_days(const velmora_place* place, const velmora_zone* zone
   });
 }
 
-velmora_status velmora_at_places(const velmora_place* places, size_t count, double start, double end,
+velmora_status velmora_at_places(const velmora_place* places, size_t count, double from, double to,
                                  const velmora_convention* convention, uint32_t threads,
                                  velmora_place_day* days) {
   return answering([&] {
-    const auto [from, to] = coveredInterval(start, end);
+    const auto [start, end] = coveredInterval(from, to);
     checkRoom(places, count, "places");
     checkRoom(days, count, "days");
     checkRange(threads, 1, mostThreads, "threads");
@@ -124,7 +124,7 @@ velmora_status velmora_at_places(const velmora_place* places, size_t count, doub
     for (std::size_t i = 0; i < count; ++i) taken.push_back(placeOf(places + i));
     const auto keep = [&](std::size_t place, const almanac::Day& day) { days[place] = placeDayOf(day); };
     const almanac::EventChoice riseAndSet = {.twilight = false, .transits = false};
-    if (!almanac::forEachPlace(taken, from, to, keep, almanac::onThreads(threads), riseAndSet,
+    if (!almanac::forEachPlace(taken, start, end, keep, almanac::onThreads(threads), riseAndSet,
                                conventionOf(convention))) {
       endWith(VELMORA_BAD_ARGUMENT, {"the interval is empty"});
     }

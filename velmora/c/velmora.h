@@ -97,6 +97,7 @@ typedef struct velmora_city {
 
 /**
  * The cities of that name, freely spelled, the most populous first: "Portland", "Portland, Maine", "Kiev".
+ * An empty list where there is none.
  */
 VELMORA_API velmora_status velmora_cities(const char* name, velmora_city* cities, size_t capacity,
                                           size_t* count);
@@ -147,8 +148,7 @@ typedef struct velmora_day {
   uint64_t event_count; /**< how many events it has */
 } velmora_day;
 
-/** Where a body counts as risen; null wherever a convention is taken stands for what national offices print.
- */
+/** When a body counts as risen. An operation that is given null takes what national almanac offices print. */
 typedef struct velmora_convention {
   int32_t limb;              /**< 0 upper, 1 centre, 2 lower */
   int32_t reserved;          /**< 0 */
@@ -156,11 +156,10 @@ typedef struct velmora_convention {
   double sun_semidiameter;   /**< degrees, 0..2; usually 16/60 */
 } velmora_convention;
 
-/** The events of [start, end), of any length but 0. `day` may be null. */
-VELMORA_API velmora_status velmora_events(const velmora_place* place, double start, double end,
-                                          uint32_t choice, const velmora_convention* convention,
-                                          velmora_day* day, velmora_event* events, size_t capacity,
-                                          size_t* count);
+/** The events of [from, to), of any length but 0. `day` may be null. */
+VELMORA_API velmora_status velmora_events(const velmora_place* place, double from, double to, uint32_t choice,
+                                          const velmora_convention* convention, velmora_day* day,
+                                          velmora_event* events, size_t capacity, size_t* count);
 
 /**
  * The civil days from `first` to `last`, both included; those that the zone's clocks skipped are left out.
@@ -186,11 +185,11 @@ typedef struct velmora_place_day {
 } velmora_place_day;
 
 /**
- * What happens in [start, end) at each of `count` places, a map of the world for instance, shared among that
+ * What happens in [from, to) at each of `count` places, a map of the world for instance, shared among that
  * many threads of the operation's own, 1 to 1024 (1: the caller's alone).
  */
-VELMORA_API velmora_status velmora_at_places(const velmora_place* places, size_t count, double start,
-                                             double end, const velmora_convention* convention,
+VELMORA_API velmora_status velmora_at_places(const velmora_place* places, size_t count, double from,
+                                             double to, const velmora_convention* convention,
                                              uint32_t threads, velmora_place_day* days);
 
 /** The first such event after the instant, within 366 days and the years covered; VELMORA_NONE if there is
