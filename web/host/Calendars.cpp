@@ -78,12 +78,38 @@ class RiseSet : public HostedView {
 
  private:
   void fill(View& screen) override {
-    _list = std::make_shared<MoonRiseSetMonthView>();
-    _list->setAlternateCalendarType(Session::shared().settings().secondCalendar);
-    _list->setFrame({0, 0, screen.bounds().width, 0});
-    _list->installDayViews();
+    const Date day = Session::shared().day();
+    _month = day.year() / day.month();
+    _list = makeList(screen.bounds().width);
     _list->setFrame({0, 0, screen.bounds().width, _list->intrinsicContentSize().height});
     screen.addSubview(_list);
+  }
+
+  static std::shared_ptr<MoonRiseSetMonthView> makeList(double width) {
+    auto list = std::make_shared<MoonRiseSetMonthView>();
+    list->setAlternateCalendarType(Session::shared().settings().secondCalendar);
+    list->setFrame({0, 0, width, 0});
+    list->installDayViews();
+    return list;
+  }
+
+  static std::vector<std::shared_ptr<MoonRiseSetDayView>> rowsOf(const MoonRiseSetMonthView& list) {
+    std::vector<std::shared_ptr<MoonRiseSetDayView>> rows;
+    for (const auto& row : list.subviews())
+      rows.push_back(std::dynamic_pointer_cast<MoonRiseSetDayView>(row));
+    return rows;
+  }
+
+  /// Within the month the rows stay, so that only those are drawn again that look otherwise.
+  void followDay() override {
+    const Date day = Session::shared().day();
+    if (day.year() / day.month() != _month) return HostedView::followDay();
+    const auto fresh = rowsOf(*makeList(_list->bounds().width)), shown = rowsOf(*_list);
+    for (std::size_t row = 0; row < shown.size(); ++row) {
+      if (shown[row]->isSelected() == fresh[row]->isSelected()) continue;
+      shown[row]->setIsSelected(fresh[row]->isSelected());
+      shown[row]->setLabelText(fresh[row]->labelText());
+    }
   }
   std::optional<double> ownHeight() const override { return _list->frame().height; }
   std::vector<std::shared_ptr<View>> parts() const override { return _list->subviews(); }
@@ -91,6 +117,7 @@ class RiseSet : public HostedView {
   bool selectsByTap() const override { return true; }
 
   std::shared_ptr<MoonRiseSetMonthView> _list;
+  std::chrono::year_month _month;
 };
 
 /// It follows day and place itself.

@@ -81,13 +81,13 @@ std::unique_ptr<Canvas2dCanvas>& lastCanvas() {
   return canvas;
 }
 
-/// What is drawn on a canvas of that size, until the next drawing.
-const double* recorded(Size size, double scale, std::size_t* count,
+/// What of a drawing on a canvas of that size shows within the rectangle, until the next drawing.
+const double* recorded(Size size, double scale, const Rect& within, std::size_t* count,
                        const std::function<void(Canvas&)>& draw) {
   auto& canvas = lastCanvas();
   canvas = std::make_unique<Canvas2dCanvas>(size, scale);
   canvas->save();
-  canvas->clip(Path::rect({0, 0, size.width, size.height}));
+  canvas->clip(Path::rect(within));
   draw(*canvas);
   canvas->restore();
   const std::vector<double>& operations = canvas->operations();
@@ -229,7 +229,17 @@ EMSCRIPTEN_KEEPALIVE const char* velmora_web_pictures(int number) {
 /// `count`.
 EMSCRIPTEN_KEEPALIVE const double* velmora_web_draw(int number, double scale, std::size_t* count) {
   HostedView& drawn = view(number);
-  return recorded(drawn.size(), scale, count, [&](Canvas& canvas) { drawn.render(canvas); });
+  const Size size = drawn.size();
+  return recorded(size, scale, {0, 0, size.width, size.height}, count,
+                  [&](Canvas& canvas) { drawn.render(canvas); });
+}
+
+/// The same of what shows within a rectangle, in points.
+EMSCRIPTEN_KEEPALIVE const double* velmora_web_draw_within(int number, double scale, double x, double y,
+                                                           double width, double height, std::size_t* count) {
+  HostedView& drawn = view(number);
+  return recorded(drawn.size(), scale, {x, y, width, height}, count,
+                  [&](Canvas& canvas) { drawn.render(canvas); });
 }
 
 /// What the last drawing shows in each of its squares: see `Canvas2dCanvas::squares`.
@@ -244,13 +254,17 @@ EMSCRIPTEN_KEEPALIVE int velmora_web_part_count(int number) {
   return static_cast<int>(view(number).partCount());
 }
 
+EMSCRIPTEN_KEEPALIVE int velmora_web_part_needs_display(int number, int part) {
+  return view(number).partNeedsDisplay(static_cast<std::size_t>(part));
+}
+
 /// The same of a part alone.
 EMSCRIPTEN_KEEPALIVE const double* velmora_web_draw_part(int number, int part, double scale,
                                                          std::size_t* count) {
   HostedView& drawn = view(number);
   const Size whole = drawn.size();
   const Size size = {whole.width, whole.height / static_cast<double>(drawn.partCount())};
-  return recorded(size, scale, count,
+  return recorded(size, scale, {0, 0, size.width, size.height}, count,
                   [&](Canvas& canvas) { drawn.renderPart(canvas, static_cast<std::size_t>(part)); });
 }
 

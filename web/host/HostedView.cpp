@@ -93,6 +93,12 @@ std::size_t HostedView::partCount() {
   return std::max<std::size_t>(parts().size(), 1);
 }
 
+bool HostedView::partNeedsDisplay(std::size_t number) const {
+  if (!_screen || _generation != Session::shared().generation()) return true;
+  const auto rows = parts();
+  return rows.empty() ? _screen->needsDisplay() : rows.at(number)->needsDisplay();
+}
+
 void HostedView::renderPart(Canvas& canvas, std::size_t number) {
   View& whole = screen();
   const auto rows = parts();

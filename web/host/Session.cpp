@@ -1,5 +1,6 @@
 #include <web/host/Session.h>
 
+#include <map>
 #include <utility>
 
 #include <velmora/foundation/SettingsModel.h>
@@ -16,6 +17,24 @@ namespace velmora::web {
 namespace {
 
 MoonPhaseData& service() { return MoonPhaseData::sharedInstance(); }
+
+/// The source with a memory for some months: views ask for each of their days in every drawing.
+EclipseSource remembering(EclipseSource source, const Session& session) {
+  struct Memory {
+    std::int64_t generation = -1;
+    std::map<std::pair<Instant, std::string>, std::shared_ptr<const EclipseInfo>> answers;
+  };
+  constexpr std::size_t most = 200;
+  return [source = std::move(source), &session, memory = Memory()](Instant date, const TimeZone& zone,
+                                                                   const GeoLocationData& location) mutable {
+    if (memory.generation != session.generation() || memory.answers.size() > most) {
+      memory = {.generation = session.generation(), .answers = {}};
+    }
+    const auto [answer, isNew] = memory.answers.try_emplace({date, zone.name()});
+    if (isNew) answer->second = source(date, zone, location);
+    return answer->second;
+  };
+}
 
 std::int64_t number(std::chrono::month month) { return static_cast<unsigned>(month); }
 std::int64_t number(std::chrono::day day) { return static_cast<unsigned>(day); }
@@ -35,11 +54,12 @@ Session& Session::shared() {
 Session::Session() {
   Bundle::setMain("/share/velmora/app");
   service().setRiseSetSource(AlmanacRecords::riseSetSource());
-  service().setEclipseSource(AlmanacRecords::eclipseSource());
+  service().setEclipseSource(remembering(AlmanacRecords::eclipseSource(), *this));
   Announcements::setSink([this](const std::string& sentence) { _announcements.push_back(sentence); });
 }
 
 void Session::configure(const Settings& settings) {
+  ++_generation;
   _settings = settings;
   const auto cycle = settings.uses24Hours ? Locale::HourCycle::h24 : Locale::HourCycle::h12;
   Locale::setCurrent(Locale(settings.locale).withHourCycle(cycle));
@@ -50,7 +70,6 @@ void Session::configure(const Settings& settings) {
   ProcessValues::resetAll();
   service().loadEventsFromFile();
   if (service().currentDate()) service().SetSelectedLocation(_location);
-  ++_generation;
 }
 
 bool Session::select(double latitude, double longitude, const std::string& name, const std::string& zone,
@@ -58,6 +77,7 @@ bool Session::select(double latitude, double longitude, const std::string& name,
   auto location = std::make_shared<GeoLocationData>();
   location->SetLocation(latitude, longitude, name, zone, 0, false);
   if (!almanac::isValid({latitude, longitude, 0}) || !location->timezone || !isInTables(day)) return false;
+  ++_generation;
   _location = std::move(location);
   _placeName = name;
   TimeZone::setDefault(_location->timezone);
@@ -66,7 +86,6 @@ bool Session::select(double latitude, double longitude, const std::string& name,
       Calendar(*_location->timezone)
           .date({.year = number(day.year()), .month = number(day.month()), .day = number(day.day())});
   service().SetSelectedLocation(_location, start);
-  ++_generation;
   return true;
 }
 

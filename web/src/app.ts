@@ -91,6 +91,9 @@ export class App {
     this.makeFormat();
     this.takeMoment(link);
     moon.onDayChange(() => this.dayMoved());
+    addEventListener("pagehide", () => {
+      if (this.remembering !== undefined) this.remember();
+    });
   }
 
   /** One of the files that lie with the module. */
@@ -139,7 +142,7 @@ export class App {
       const { minutes } = clockAt(this.at, this.place.zone);
       this.chosenMoment = this.isToday ? undefined : instantOf(this.day, minutes, this.place.zone);
     }
-    this.remember();
+    this.rememberSoon();
     this.tell("day");
   }
 
@@ -282,19 +285,26 @@ export class App {
     });
   }
 
-  /** Browsers take an address only so often: while time is pulled along, the last one is enough. */
+  /** Browsers take an address only so often, and are busy with it: of days and times that follow one another
+   *  the last is enough. */
   private rememberSoon(): void {
-    clearTimeout(this.remembering);
+    this.forgetToRemember();
     this.remembering = setTimeout(() => this.remember(), 200);
   }
 
-  private remember(): void {
+  private forgetToRemember(): void {
     clearTimeout(this.remembering);
+    this.remembering = undefined;
+  }
+
+  private remember(): void {
+    this.forgetToRemember();
     history.replaceState(null, "", this.address());
   }
 
   /** The address was changed: by "back", or by hand. */
   followAddress(): void {
+    this.forgetToRemember();
     this.linkFault = undefined;
     const link = this.linkOfAddress();
     this.view = link.view ?? "today";

@@ -7,6 +7,7 @@ const utcNoon = (day: Day): number => Date.UTC(day.year, day.month - 1, day.day,
 /** Days, clocks and numbers as the language writes them, by the clocks of the place. */
 export class Format {
   private readonly made = new Map<string, Intl.DateTimeFormat>();
+  private readonly madeForNumbers = new Map<string, Intl.NumberFormat>();
 
   constructor(
     readonly locale: string,
@@ -78,13 +79,22 @@ export class Format {
     return this.dates("UTC", { weekday: width }).format(Date.UTC(2023, 0, 1 + number, 12));
   }
 
+  private numbers(options: Intl.NumberFormatOptions): Intl.NumberFormat {
+    const name = JSON.stringify(options);
+    let format = this.madeForNumbers.get(name);
+    if (!format) {
+      format = new Intl.NumberFormat(this.locale, options);
+      this.madeForNumbers.set(name, format);
+    }
+    return format;
+  }
+
   number(value: number, digits = 0): string {
-    const places = { minimumFractionDigits: digits, maximumFractionDigits: digits };
-    return new Intl.NumberFormat(this.locale, places).format(value);
+    return this.numbers({ minimumFractionDigits: digits, maximumFractionDigits: digits }).format(value);
   }
 
   percent(share: number): string {
-    return new Intl.NumberFormat(this.locale, { style: "percent", maximumFractionDigits: 0 }).format(share);
+    return this.numbers({ style: "percent", maximumFractionDigits: 0 }).format(share);
   }
 
   degrees(value: number, digits = 0): string {
@@ -93,8 +103,7 @@ export class Format {
   }
 
   kilometres(value: number): string {
-    const unit = { style: "unit", unit: "kilometer", maximumFractionDigits: 0 } as const;
-    return new Intl.NumberFormat(this.locale, unit).format(value);
+    return this.numbers({ style: "unit", unit: "kilometer", maximumFractionDigits: 0 }).format(value);
   }
 
   /** "14h 5m" */

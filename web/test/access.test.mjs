@@ -2,7 +2,7 @@
 import assert from "node:assert/strict";
 import { after, before, describe, test } from "node:test";
 import { smallTargets, violations } from "./rules.mjs";
-import { at, desktop, drawn, focusedDay, hash, phone, press, Site, settled, text, views } from "./pages.mjs";
+import { addressed, at, desktop, drawn, focusedDay, phone, press, Site, settled, text, views } from "./pages.mjs";
 
 describe("Access", () => {
   let site;
@@ -65,7 +65,7 @@ describe("Access", () => {
     }
     await press(page, "ArrowRight");
     await press(page, "Enter");
-    assert.match(await hash(page), /day=2025-09-02/);
+    await addressed(page, /day=2025-09-02/);
     assert.equal(await page.$eval("[aria-selected='true']", (cell) => cell.dataset.day), "2025-09-02");
     assert.equal(await focusedDay(page), "2025-09-02");
     await press(page, "t");

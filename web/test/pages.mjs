@@ -89,8 +89,9 @@ export function at(view, rest = "day=2025-09-07&time=21:30") {
   return `#/${view}?${rest}&${helsinki}`;
 }
 
-export async function hash(page) {
-  return page.evaluate(() => decodeURIComponent(location.hash));
+/** Until the address is such: the page writes it a little after what it shows. */
+export async function addressed(page, { source }) {
+  await page.waitForFunction((wanted) => new RegExp(wanted).test(decodeURIComponent(location.hash)), {}, source);
 }
 
 export async function focusedDay(page) {

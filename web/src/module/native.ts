@@ -1,5 +1,6 @@
 import makeModule, { type EmscriptenModule } from "../../../build/wasm/web/velmora.mjs";
 
+import type { Frame } from "../velmora";
 import type { Pictures } from "./pictures";
 import type { Texts } from "./texts";
 
@@ -57,6 +58,11 @@ export class Native {
   operations(view: number, scale: number, part?: number): Float64Array {
     return part === undefined ? this.#numbers("velmora_web_draw", view, scale)
       : this.#numbers("velmora_web_draw_part", view, part, scale);
+  }
+
+  /** Of the same drawing those that show within the frame, in points. */
+  operationsWithin(view: number, scale: number, { x, y, width, height }: Frame): Float64Array {
+    return this.#numbers("velmora_web_draw_within", view, scale, x, y, width, height);
   }
 
   /** A number for each square of that drawing; where two drawings have the same, they show the same. */

@@ -41,8 +41,9 @@ function hanFamily(locale: Intl.Locale): string {
   return locale.maximize().script === "Hant" ? '"Noto Sans CJK TC"' : '"Noto Sans CJK SC"';
 }
 
-/** The context as texts are drawn on it. */
+/** The context as texts are drawn on it; to set that is slow. */
 export function useTextStyle(context: CanvasRenderingContext2D | OffscreenCanvasRenderingContext2D): void {
+  if (context.textRendering === "geometricPrecision") return;
   context.textBaseline = "alphabetic";
   context.textAlign = "left";
   context.fontKerning = "normal";

@@ -2,6 +2,7 @@ import type { CivilDate, End, Frame, HostedView, Size, ViewElement, ViewKind, Vi
 import type { Module } from "./module";
 import { replay } from "./replay";
 import { svgOf } from "./svg";
+import { useTextStyle } from "./texts";
 
 /** How wide and high a square of a drawing is, in pixels. */
 const square = 64;
@@ -25,6 +26,7 @@ function paint({ texts, pictures }: Module, canvas: HTMLCanvasElement, operation
                { background, within }: { background?: string; within?: Frame } = {}): void {
   const context = canvas.getContext("2d");
   if (!context) return;
+  useTextStyle(context);  // to stay
   context.save();
   context.setTransform(1, 0, 0, 1, 0, 0);
   if (within) {
@@ -52,14 +54,12 @@ function fit(canvas: HTMLCanvasElement, size: Size, scale: number): void {
   canvas.style.height = `${size.height}px`;
 }
 
-function isSame(one: Float64Array, other: Float64Array): boolean {
-  return one.length === other.length && one.every((number, index) => number === other[index]);
-}
-
-/** The canvas of a part, and what was drawn on it. */
-interface Part {
-  readonly canvas: HTMLCanvasElement;
-  drawn: Float64Array;
+/** Shows on a canvas what is drawn on another. Browsers without a graphics processor hand every canvas that is drawn
+ *  on to the screen anew with each frame, as large as it is, but not one that shows a bitmap. */
+function show(drawing: HTMLCanvasElement, canvas: HTMLCanvasElement): void {
+  const bitmap = new OffscreenCanvas(drawing.width, drawing.height);
+  bitmap.getContext("2d")!.drawImage(drawing, 0, 0);
+  canvas.getContext("bitmaprenderer")!.transferFromImageBitmap(bitmap.transferToImageBitmap());
 }
 
 /** A view of the module on a canvas of the page, or with a canvas for each of its parts. */
@@ -71,7 +71,9 @@ export class CanvasView implements HostedView {
   #isStale = true;
   #isTold = false;
   #isClosed = false;
-  readonly #parts: Part[] = [];
+  readonly #parts: HTMLCanvasElement[] = [];
+  /** On which a part is drawn. */
+  readonly #sheet = document.createElement("canvas");
   /** Of the last drawing on the canvas. */
   #squares: Float64Array | undefined;
 
@@ -99,7 +101,7 @@ export class CanvasView implements HostedView {
   setOptions({ phase = "full", at = NaN, heading = 0, isTilted = false, hidesEclipses = false }: ViewOptions): void {
     this.#module.native.run("velmora_web_set_options", this.#number, phase === "new" ? 1 : 0, at, heading,
                             isTilted ? 1 : 0, hidesEclipses ? 1 : 0);
-    this.stale();
+    this.tell();
   }
 
   get needsDisplay(): boolean {
@@ -215,27 +217,32 @@ export class CanvasView implements HostedView {
     const operations = native.operations(this.#number, this.#scale);
     const before = this.#squares;
     this.#squares = native.squares().slice();
-    const within = before && differing(this.#squares, before, canvas.width);
-    if (before && !within) return;
-    paint(this.#module, canvas, operations, this.#scale, within && { within });
+    if (!before) return paint(this.#module, canvas, operations, this.#scale);
+    const within = differing(this.#squares, before, canvas.width);
+    if (within) paint(this.#module, canvas, this.#operationsWithin(within), this.#scale, { within });
   }
 
-  /** Those of which something has changed; all where more than the library's view may have. */
+  /** A pixel more on each side than the frame, which is in pixels: on its edge nothing is half drawn. */
+  #operationsWithin({ x, y, width, height }: Frame): Float64Array {
+    const scale = this.#scale;
+    return this.#module.native.operationsWithin(this.#number, scale,
+      { x: (x - 1) / scale, y: (y - 1) / scale, width: (width + 2) / scale, height: (height + 2) / scale });
+  }
+
+  /** Those that need it; all where more than the library's view may have changed. */
   #paintParts(holder: HTMLElement, all: boolean): void {
     const { native } = this.#module;
     const count = native.number("velmora_web_part_count", this.#number);
-    while (this.#parts.length > count) this.#parts.pop()!.canvas.remove();
-    while (this.#parts.length < count) {
-      this.#parts.push({ canvas: document.createElement("canvas"), drawn: new Float64Array() });
-      holder.append(this.#parts.at(-1)!.canvas);
-    }
+    while (this.#parts.length > count) this.#parts.pop()!.remove();
+    while (this.#parts.length < count) holder.append(this.#parts[this.#parts.length] = document.createElement("canvas"));
     const { width, height } = this.size;
-    this.#parts.forEach((part, index) => {
-      const operations = native.operations(this.#number, this.#scale, index);
-      if (!all && isSame(operations, part.drawn)) return;
-      part.drawn = operations.slice();
-      fit(part.canvas, { width, height: height / count }, this.#scale);
-      paint(this.#module, part.canvas, part.drawn, this.#scale);
+    const size = { width, height: height / count };
+    this.#parts.forEach((canvas, index) => {
+      if (!all && native.number("velmora_web_part_needs_display", this.#number, index) === 0) return;
+      fit(canvas, size, this.#scale);
+      fit(this.#sheet, size, this.#scale);
+      paint(this.#module, this.#sheet, native.operations(this.#number, this.#scale, index), this.#scale);
+      show(this.#sheet, canvas);
     });
   }
 

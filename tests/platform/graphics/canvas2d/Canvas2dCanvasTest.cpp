@@ -219,7 +219,7 @@ TEST_F(Canvas2dCanvasTest, AFrameWithoutAreaShowsNothingUntilItIsPutBack) {
   canvas.fillRect(square);
   canvas.restore();
   canvas.fillRect(square);
-  EXPECT_EQ(operations(), (std::vector{Operation::save, Operation::restore, Operation::fillRect}));
+  EXPECT_EQ(operations(), std::vector{Operation::fillRect});
 }
 
 TEST_F(Canvas2dCanvasTest, ALineWithoutWidthIsNotDrawn) {
@@ -242,9 +242,31 @@ TEST_F(Canvas2dCanvasTest, ARestoreOrAnEndWithoutABeginningDoesNothing) {
   canvas.restore();
   canvas.endGroup();
   canvas.beginGroup(1);
+  canvas.fillRect(square);
   canvas.restore();
   canvas.endGroup();
-  EXPECT_EQ(operations(), (std::vector{Operation::beginGroup, Operation::endGroup}));
+  EXPECT_EQ(operations(), (std::vector{Operation::beginGroup, Operation::fillRect, Operation::endGroup}));
+}
+
+TEST_F(Canvas2dCanvasTest, NothingIsToldOfAStateInWhichNothingIsPainted) {
+  canvas.save();
+  canvas.clip(Path::rect({0, 0, 5, 5}));
+  canvas.translate(1, 1);
+  canvas.beginGroup(0.5);
+  canvas.fillRect(square);
+  canvas.endGroup();
+  canvas.restore();
+  EXPECT_TRUE(operations().empty());
+}
+
+TEST_F(Canvas2dCanvasTest, AHoleIsToldThoughNothingIsPaintedAfterIt) {
+  canvas.fillRect(square);
+  canvas.save();
+  canvas.translate(1, 1);
+  canvas.clearRect({20, 30, 5, 5});
+  canvas.restore();
+  EXPECT_EQ(operations(), (std::vector{Operation::fillRect, Operation::save, Operation::transform,
+                                       Operation::clearRect, Operation::restore}));
 }
 
 TEST_F(Canvas2dCanvasTest, AnOutlineIsToldStepByStep) {

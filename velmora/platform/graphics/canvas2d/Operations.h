@@ -48,6 +48,9 @@ class OperationList {
   void add(Operation operation, const Color& color);
   void append(const std::vector<double>& numbers);
 
+  /// Takes back all numbers behind the first ones.
+  void cut(std::size_t size) { _numbers.resize(size); }
+
   /// Overwrites a number that was added before.
   void set(std::size_t at, double number) { _numbers[at] = number; }
 

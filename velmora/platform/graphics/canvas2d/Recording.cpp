@@ -38,25 +38,37 @@ Canvas2dCanvas::Recording::Recording(Size size, double scale)
 }
 
 void Canvas2dCanvas::Recording::save() {
+  push(State::Kind::save);
   operations.add(Operation::save);
+}
+
+void Canvas2dCanvas::Recording::push(State::Kind kind) {
   _states.push_back(state());
-  state().kind = State::Kind::save;
+  state().kind = kind;
+  state().beginsAt = operations.size();
+  state().paintingsBefore = _paintings;
 }
 
 void Canvas2dCanvas::Recording::restore() {
   if (state().kind == State::Kind::save) pop();
 }
 
+/// A state in which nothing was painted leaves no trace.
 void Canvas2dCanvas::Recording::pop() {
   finishPendingClear();
-  const bool isGroup = state().kind == State::Kind::group;
+  const State ended = std::move(state());
   _states.pop_back();
+  const bool isGroup = ended.kind == State::Kind::group;
   operations.add(isGroup ? Operation::endGroup : Operation::restore);
-  if (!isGroup) return;
+  if (isGroup) endLayer(ended);
+  if (ended.paintingsBefore == _paintings) operations.cut(ended.beginsAt);
+}
+
+void Canvas2dCanvas::Recording::endLayer(const State& begun) {
   const Group ended = std::move(_groups.back());
   _groups.pop_back();
   const bool needsLayer = ended.alpha < 1 || (ended.isOverPaint && ended.reachesBelow);
-  operations.set(ended.beginsAt + 1, needsLayer ? 1 : 0);
+  operations.set(begun.beginsAt + 1, needsLayer ? 1 : 0);
   Group& around = _groups.back();
   around.painted.insert(around.painted.end(), ended.painted.begin(), ended.painted.end());
 }
@@ -64,13 +76,10 @@ void Canvas2dCanvas::Recording::pop() {
 void Canvas2dCanvas::Recording::beginGroup(double alpha) {
   finishPendingClear();
   const Rect shown = state().clip;
-  _groups.push_back({.beginsAt = operations.size(),
-                     .alpha = std::clamp(alpha, 0.0, 1.0),
-                     .isOverPaint = isOverPaint(shown)});
+  _groups.push_back({.alpha = std::clamp(alpha, 0.0, 1.0), .isOverPaint = isOverPaint(shown)});
+  push(State::Kind::group);
   operations.add(Operation::beginGroup,
                  {0, _groups.back().alpha, shown.x, shown.y, shown.width, shown.height});
-  _states.push_back(state());
-  state().kind = State::Kind::group;
   state().shape.add(_groups.back().alpha);
   state().style.alpha = 1;
   state().style.blendMode = BlendMode::normal;
@@ -184,6 +193,7 @@ void Canvas2dCanvas::Recording::beginPainting(const Rect& pixels) {
     fingerprint.add(number);
   }
   _painting = {pixels, operations.size(), fingerprint};
+  ++_paintings;
 }
 
 void Canvas2dCanvas::Recording::finishPainting() {

@@ -21,8 +21,10 @@ class Canvas2dCanvas::Recording {
   struct State {
     enum class Kind { base, save, group };
     Kind kind = Kind::base;
-    Style style;  ///< as it was set
-    Style told;   ///< as the page knows it
+    std::size_t beginsAt = 0;         ///< in the operations, its first number
+    std::size_t paintingsBefore = 0;  ///< how often was painted until then
+    Style style;                      ///< as it was set
+    Style told;                       ///< as the page knows it
     AffineTransform frame;
     Rect clip;                 ///< holds all that may show, in pixels
     Fingerprint shape;         ///< of clips, dashes and fading groups around
@@ -59,7 +61,6 @@ class Canvas2dCanvas::Recording {
  private:
   /// What is drawn between the beginning and the end of a group, or outside of all.
   struct Group {
-    std::size_t beginsAt = 0;  ///< in the operations, its first number
     double alpha = 1;
     bool isOverPaint = false;   ///< something below it may show through
     bool reachesBelow = false;  ///< something in it clears or overlays
@@ -73,7 +74,9 @@ class Canvas2dCanvas::Recording {
     Fingerprint fingerprint;
   };
 
+  void push(State::Kind kind);
   void pop();
+  void endLayer(const State& begun);
   void beginPainting(const Rect& pixels);
   void finishPainting();
   void tellCompositing();
@@ -84,6 +87,7 @@ class Canvas2dCanvas::Recording {
   std::vector<State> _states;
   std::vector<Group> _groups{Group()};
   std::optional<Painting> _painting;
+  std::size_t _paintings = 0;
   std::optional<Path> _pendingClear;  ///< waits to see whether the same path covers it at once
 };
 
