@@ -40,7 +40,8 @@ std::string textOf(const char* text) {
   return line;
 }
 
-/// Calls the function with each property of the kind.
+/// Calls the function with each property of the kind. A component keeps one place among its properties: the
+/// function must ask it for nothing, or the walk begins again, without end.
 template <class Use>
 void forEachProperty(icalcomponent* event, icalproperty_kind kind, const Use& use) {
   for (icalproperty* property = icalcomponent_get_first_property(event, kind); property != nullptr;
