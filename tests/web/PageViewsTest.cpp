@@ -4,6 +4,7 @@
 #include <memory>
 #include <ostream>
 #include <string>
+#include <vector>
 
 #include <velmora/platform/graphics/cairo/CairoCanvas.h>
 #include <velmora/platform/resources/Bundle.h>
@@ -64,6 +65,9 @@ const Scene scenes[] = {
      {},
      {.locale = "ar_EG", .secondCalendar = kIslamicUmmAlQuraCalendar}},
     {"page-riseset-japanese", "riseset", {390, 560}, tokyo, 2024y / 6 / 20, {}, {.locale = "ja_JP"}},
+    // The colours of the light page.
+    {"page-riseset-light", "riseset", {390, 560}, helsinki, 2025y / 9 / 7, {}, {.isLight = true}},
+    {"page-month-light", "month", {390, 470}, helsinki, 2025y / 9 / 7, {}, {.isLight = true}},
     {"page-timeline", "timeline", {390, 76}, helsinki, 2025y / 9 / 7, {}, {}},
     {"page-timeline-arabic", "timeline", {390, 76}, cairo, 2025y / 9 / 7, {}, {.locale = "ar_EG"}},
     // The Moon above the horizon and below it, the way of the north and the mirrored one of the south.
@@ -134,6 +138,27 @@ TEST_F(PageRiseSetTest, NothingIsSaidOfAMoonsetThatADayDoesNotHave) {
 TEST_F(PageRiseSetTest, AMoonThatStaysUpOrDownIsSaidTo) {
   EXPECT_EQ(saidOf(2026y / 6 / 14, longyearbyen), "Jun 14, 2026: Moon up all day, Sun up all day");
   EXPECT_EQ(saidOf(2026y / 12 / 9, longyearbyen), "Dec 9, 2026: Moon down all day, Sun down all day");
+}
+
+TEST_F(PageRiseSetTest, AnotherDayOfTheMonthAsksForTheTwoRowsConcernedAlone) {
+  _session.configure({});
+  ASSERT_TRUE(
+      _session.select(helsinki.latitude, helsinki.longitude, helsinki.name, helsinki.zone, 2025y / 9 / 7));
+  const auto list = HostedView::named("riseset");
+  list->resize({390, 560}, 1);
+  CairoCanvas canvas(PictureFormat::png, list->size(), 1, list->background());
+  list->render(canvas);
+  ASSERT_TRUE(_session.selectDay(2025y / 9 / 9));
+  list->dayChanged();
+  std::vector<std::size_t> asking;
+  for (std::size_t row = 0; row < list->partCount(); ++row) {
+    if (list->partNeedsDisplay(row)) asking.push_back(row + 1);
+  }
+  EXPECT_EQ(asking, (std::vector<std::size_t>{7, 9}));
+  ASSERT_TRUE(_session.selectDay(2025y / 10 / 9));
+  list->dayChanged();
+  EXPECT_EQ(list->partCount(), 31U);
+  EXPECT_TRUE(list->partNeedsDisplay(0));
 }
 
 INSTANTIATE_TEST_SUITE_P(Scenes, PageViewsTest, ::testing::ValuesIn(scenes), [](const auto& scene) {

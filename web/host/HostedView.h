@@ -48,6 +48,7 @@ class HostedView {
   void render(Canvas& canvas);
   /// Into how many parts of the same height, one below the other, the view falls.
   std::size_t partCount();
+  /// Whether the part looks otherwise than when it was drawn last.
   bool partNeedsDisplay(std::size_t number) const;
   /// Draws a part alone, its top left at the canvas's.
   void renderPart(Canvas& canvas, std::size_t number);

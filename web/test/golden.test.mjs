@@ -54,6 +54,8 @@ const scenes = [
     settings: { ...english, locale: "ar-EG", secondCalendar: "islamic" } },
   { name: "page-riseset-japanese", kind: "riseset", size: [390, 560], day: date(2024, 6, 20), place: tokyo,
     settings: { ...english, locale: "ja-JP" } },
+  { name: "page-month-light", kind: "month", size: [390, 470], day: date(2025, 9, 7), place: helsinki,
+    settings: { ...english, theme: "light" } },
   { name: "page-timeline", kind: "timeline", size: [390, 76], day: date(2025, 9, 7), place: helsinki },
   { name: "page-timeline-arabic", kind: "timeline", size: [390, 76], day: date(2025, 9, 7), place: cairo,
     settings: { ...english, locale: "ar-EG" } },

@@ -21,7 +21,9 @@ export async function moduleFolder() {
 
 export const isReal = process.env.VELMORA_MODULE !== undefined;
 export const helsinki = "lat=60.1699&lon=24.9384&zone=Europe/Helsinki&name=Helsinki";
-export const views = ["today", "month", "year", "riseset", "sky", "eclipses", "pictures", "place", "settings"];
+export const views = [
+  "today", "month", "year", "riseset", "sky", "eclipses", "pictures", "posters", "place", "settings",
+];
 export const phone = { width: 390, height: 844, deviceScaleFactor: 2, isMobile: true, hasTouch: true };
 export const desktop = { width: 1440, height: 900, deviceScaleFactor: 1 };
 

@@ -17,7 +17,7 @@ describe("Widths", () => {
   for (const [name, size] of Object.entries(sizes)) {
     test(`${name}KeepsTheRulesAndShowsAllOfItsWidth`, async () => {
       const page = await site.visitor({ size });
-      for (const view of new Set([...views, "posters"])) {
+      for (const view of views) {
         await site.show(page, at(view));
         assert.deepEqual(await violations(page), [], view);
         assert.deepEqual(await smallTargets(page), [], view);
