@@ -147,6 +147,26 @@ def test_bad_input_is_a_value_error(wrong):
 @pytest.mark.parametrize(
     "wrong",
     [
+        lambda: velmora.day(HELSINKI, "2024-01-01"),
+        lambda: velmora.day("Helsinki", date(2024, 1, 1)),
+        lambda: velmora.day(Place(60.17, 24.94, "Europe/Helsinki"), date(2024, 1, 1)),
+        lambda: velmora.day(Place("60.17", 24.94), date(2024, 1, 1)),
+        lambda: velmora.position(HELSINKI, "sun", datetime(2024, 1, 1, tzinfo=UTC)),
+        lambda: velmora.position(HELSINKI, Body.SUN, date(2024, 1, 1)),
+        lambda: velmora.next_event(HELSINKI, Body.SUN, "rise", datetime(2024, 1, 1, tzinfo=UTC)),
+        lambda: velmora.seen_from("TSE", HELSINKI),
+        lambda: arrays.positions(HELSINKI, 0, np.array(["2024-01-01"], "datetime64[s]")),
+    ],
+)
+def test_a_value_of_another_type_is_a_type_error(wrong):
+    with pytest.raises(TypeError) as error:
+        wrong()
+    assert str(error.value)
+
+
+@pytest.mark.parametrize(
+    "wrong",
+    [
         lambda: velmora.day(HELSINKI, date(1899, 12, 31)),
         lambda: velmora.day(HELSINKI, date(1900, 1, 1)),  # which begins in the UTC of 1899
         lambda: velmora.position(HELSINKI, Body.SUN, datetime(2101, 1, 2, tzinfo=UTC)),

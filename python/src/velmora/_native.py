@@ -50,9 +50,17 @@ def checked(status: int) -> bool:
     raise OSError(message) if status == _NO_DATA else RuntimeError(message)
 
 
+def given(kind: type[Any], value: T) -> T:
+    """The value; raises TypeError for one of another type than it is declared with."""
+    is_one = isinstance(value, kind)
+    if not is_one:
+        raise TypeError(f"{value!r} is no {kind.__name__}")
+    return value
+
+
 def seconds_of(instant: datetime) -> float:
     """Seconds since 1970 of an aware datetime; a naive one names no instant."""
-    if instant.tzinfo is None:
+    if given(datetime, instant).tzinfo is None:
         raise ValueError(f"{instant} has no time zone; give it a tzinfo")
     return instant.timestamp()
 
@@ -66,7 +74,7 @@ def instant_of(seconds: float, zone: tzinfo) -> datetime:
 
 
 def date_of(day: date) -> Any:
-    return ffi.new("velmora_date*", (day.year, day.month, day.day))[0]
+    return ffi.new("velmora_date*", (given(date, day).year, day.month, day.day))[0]
 
 
 @functools.lru_cache(maxsize=64)
@@ -80,7 +88,7 @@ def zone_of(zone: tzinfo) -> Any:
     """The library's zone of a ZoneInfo or of a fixed offset."""
     if isinstance(zone, ZoneInfo) and zone.key:
         return _opened(zone.key)
-    offset = zone.utcoffset(None)
+    offset = given(tzinfo, zone).utcoffset(None)
     if offset is None:
         raise ValueError(f"{zone!r} is neither a ZoneInfo with a key nor a fixed offset")
     sign, size = ("-" if offset < timedelta(0) else "+"), round(abs(offset).total_seconds())

@@ -13,6 +13,7 @@ from velmora._native import (
     checked,
     date_of,
     ffi,
+    given,
     instant_of,
     lib,
     listed,
@@ -85,7 +86,8 @@ def events(place: Place, start: datetime, end: datetime, *, twilight: bool = Tru
 def next_event(place: Place, body: Body, kind: EventKind, after: datetime) -> Event | None:
     """The first such event after the instant within a year; None if there is none."""
     event = ffi.new("velmora_event*")
-    if not call(lib.velmora_next, _place(place), body.value, kind.value, seconds_of(after), ffi.NULL, event):
+    wanted = given(Body, body).value, given(EventKind, kind).value
+    if not call(lib.velmora_next, _place(place), *wanted, seconds_of(after), ffi.NULL, event):
         return None
     return _event(event[0], place.zone)
 
@@ -93,14 +95,14 @@ def next_event(place: Place, body: Body, kind: EventKind, after: datetime) -> Ev
 def crossings(place: Place, body: Body, altitude: float, start: datetime, end: datetime) -> list[Crossing]:
     """Every passage of the apparent altitude (degrees) by the body's centre."""
     return listed(lambda c: Crossing(instant_of(c.at, place.zone), c.azimuth, bool(c.is_rising)),
-                  lib.velmora_crossings, "velmora_crossing", _place(place), body.value, altitude,
+                  lib.velmora_crossings, "velmora_crossing", _place(place), given(Body, body).value, altitude,
                   seconds_of(start), seconds_of(end))
 
 
 def position(place: Place, body: Body, at: datetime) -> Position:
     """Where the body stands at the instant."""
     seconds, found = ffi.new("double*", seconds_of(at)), ffi.new("velmora_position*")
-    call(lib.velmora_positions, _place(place), body.value, seconds, 1, found)
+    call(lib.velmora_positions, _place(place), given(Body, body).value, seconds, 1, found)
     _answered(found.altitude, at)
     return Position(*(getattr(found, name) for name in Position.__dataclass_fields__))
 
@@ -142,7 +144,7 @@ def eclipses(start: datetime, end: datetime) -> list[Eclipse]:
 def seen_from(eclipse: Eclipse, place: Place) -> LocalEclipse | None:
     """The eclipse as it is from the place; None where the Moon's penumbra never touches it."""
     whole = ffi.new("velmora_eclipse*", {
-        "maximum": seconds_of(eclipse.maximum), "magnitude": eclipse.magnitude, "gamma": eclipse.gamma,
+        "maximum": seconds_of(given(Eclipse, eclipse).maximum), "magnitude": eclipse.magnitude, "gamma": eclipse.gamma,
         "body": eclipse.body.value, "kind": eclipse.kind.value, "saros": eclipse.saros})
     local = ffi.new("velmora_local_eclipse*")
     if not call(lib.velmora_seen_from, whole, _place(place), local):
@@ -174,7 +176,7 @@ def _local(seconds: float, like: datetime) -> datetime:
 
 
 def _place(place: Place) -> Any:
-    return ffi.new("velmora_place*", (place.latitude, place.longitude, place.height))
+    return ffi.new("velmora_place*", (given(Place, place).latitude, place.longitude, place.height))
 
 
 def _choice(twilight: bool, transits: bool) -> int:

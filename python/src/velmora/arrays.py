@@ -12,7 +12,7 @@ from typing import Any
 import numpy as np
 from numpy.typing import ArrayLike, NDArray
 
-from velmora._native import call, checked, date_of, dtype_of, ffi, lib, pointer_to, seconds_of, zone_of
+from velmora._native import call, checked, date_of, dtype_of, ffi, given, lib, pointer_to, seconds_of, zone_of
 from velmora.almanac import _choice, _place
 from velmora.records import Body, Place
 
@@ -29,7 +29,7 @@ def positions(place: Place, body: Body, at: ArrayLike) -> NDArray[Any]:
 
     Its fields are those of `records.Position`; NaN where an instant is not answered.
     """
-    return _of_instants(lib.velmora_positions, "velmora_position", at, _place(place), body.value)
+    return _of_instants(lib.velmora_positions, "velmora_position", at, _place(place), given(Body, body).value)
 
 
 def illuminations(place: Place, at: ArrayLike) -> NDArray[Any]:
