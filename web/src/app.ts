@@ -72,21 +72,29 @@ export class App {
     });
     this.choices = kept.choices;
     const link = this.linkOfAddress();
-    this.places = kept.places.length > 0 || link.place ? [...kept.places] : [await this.firstPlace()];
+    const hasNoPlace = kept.places.length === 0 && !link.place;
+    this.places = hasNoPlace ? [greenwich] : [...kept.places];
     if (link.place) this.putFirst(link.place);
     if (link.view) this.view = link.view;
+    const day = (): Day => link.day ?? nearestKnown(clockAt(Date.now(), this.place.zone).day);
 
-    const [moon] = await Promise.all([
+    // The module opens while the first place is looked for.
+    const [moon, firstPlace] = await Promise.all([
       this.surroundings.load({
         base: this.surroundings.base,
         ...(this.surroundings.file && { file: this.surroundings.file }),
         settings: this.settings(),
         place: this.place,
-        day: link.day ?? nearestKnown(clockAt(Date.now(), this.place.zone).day),
+        day: day(),
         fontFamily: getComputedStyle(document.body).fontFamily,
       }),
+      hasNoPlace ? this.firstPlace() : undefined,
       this.loadTexts(),
     ]);
+    if (firstPlace) {
+      this.places = [firstPlace];
+      moon.select(firstPlace, day());
+    }
     this.moon = moon;
     this.makeFormat();
     this.takeMoment(link);
