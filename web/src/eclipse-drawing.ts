@@ -9,7 +9,7 @@ export function eclipseDrawing({ body, discs }: SeenEclipse, label: string): SVG
   const circle = (name: string, radius: number): SVGCircleElement =>
     s("circle", { class: name, cx: discs.x, cy: discs.y, r: radius, "clip-path": `url(#${clip})` });
   return s("svg", { class: `eclipse eclipse-${body}`, viewBox: "-1.25 -1.25 2.5 2.5", role: "img", "aria-label": label },
-    s("clipPath", { id: clip }, s("circle", { cx: 0, cy: 0, r: body === "sun" ? 1.25 : 1 })),
+    s("clipPath", { id: clip }, s("circle", { cx: 0, cy: 0, r: 1 })),
     s("circle", { class: "disc", cx: 0, cy: 0, r: 1 }),
     discs.penumbra ? circle("penumbra", discs.penumbra) : undefined,
     circle(body === "sun" ? "moon" : "umbra", discs.radius),

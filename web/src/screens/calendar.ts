@@ -65,13 +65,13 @@ const months = { months: 1, previous: "Previous month", next: "Next month" } as 
 
 export function monthScreen(app: App): Screen {
   return calendarScreen(app, {
-    ...months, kind: "month", title: "Month", pulls: true, heightOf: (width) => Math.min(width * 1.2, 680),
+    ...months, kind: "month", title: "Month", pulls: true, heightOf: (width) => Math.min(Math.max(width * 1.2, 320), 680),
   });
 }
 
 export function picturesScreen(app: App): Screen {
   return calendarScreen(app, {
-    ...months, kind: "pictures", title: "Pictures", pulls: true, heightOf: (width) => Math.min(width * 1.32, 760),
+    ...months, kind: "pictures", title: "Pictures", pulls: true, heightOf: (width) => Math.max(width * 1.32, 330),
   });
 }
 
@@ -82,7 +82,7 @@ export function yearScreen(app: App): Screen {
   const tools = h("div", { class: "segments", role: "group", "aria-label": w("Phase") }, ...buttons);
   const screen = calendarScreen(app, {
     kind: "year", title: "Year", months: 12, previous: "Previous year", next: "Next year", pulls: true,
-    heightOf: (width) => Math.min(width * 1.25, 760), options: { phase: "full" }, tools: [tools],
+    heightOf: (width) => Math.max(width * 1.25, 400), options: { phase: "full" }, tools: [tools],
   });
   for (const button of buttons) {
     button.addEventListener("click", () => {

@@ -29,9 +29,9 @@ export function todayScreen(app: App): Screen {
   const lit = h("p", { class: "lit" });
   const now = h("button", { type: "button", class: "plain", click: () => app.showNow() }, t("Now"));
   const glow = h("div", { class: "glow", "aria-hidden": "true" });
-  const cards = h("div", { class: "cards" });
+  const ofDay = h("div", { class: "part" });
   let bodies: BodyCard[] = [];
-  const later = h("div", { class: "cards" });
+  const later = h("div", { class: "part" });
 
   const step = (days: number, label: string, name: "back" | "forward"): HTMLElement =>
     h("button", { type: "button", class: "round step", "aria-label": label,
@@ -42,7 +42,7 @@ export function todayScreen(app: App): Screen {
     h("div", { class: "hero-texts" }, phase, lit));
   const time = h("section", { class: "time", "aria-label": t("Time of the day") },
     h("div", { class: "time-line" }, clock, now), ruler.root);
-  const root = h("div", { class: "today" }, hero, time, cards, later);
+  const root = h("div", { class: "today" }, hero, time, h("div", { class: "cards" }, ofDay, later));
 
   const showMoment = (): void => {
     const moment = app.moon.moment(app.at);
@@ -61,7 +61,7 @@ export function todayScreen(app: App): Screen {
     date.textContent = app.format.fullDay(app.day);
     const sky = app.moon.skyOfDay(app.day);
     bodies = sky ? [bodyCard(app, sky, "moon"), bodyCard(app, sky, "sun")] : [];
-    cards.replaceChildren(...bodies.map(({ root }) => root), ...(sky ? [twilightCard(app, sky)] : []));
+    ofDay.replaceChildren(...bodies.map(({ root }) => root), ...(sky ? [twilightCard(app, sky)] : []));
     ruler.showDay();
     showMoment();
     const eclipse = app.moon.nextEclipses(app.at, 1)[0];
