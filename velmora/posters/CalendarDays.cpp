@@ -98,7 +98,7 @@ void CalendarDays::drawName(const std::string& name, const CalendarLayout::Cell&
 }
 
 void CalendarDays::drawMoon(const CalendarDay& day, const CalendarLayout::Cell& cell, bool isTilted) const {
-  drawDisc(cell.center, cell.radius, day.moon.evening, isTilted);
+  drawDisc(cell.center, cell.radius, day.moon.evening, day.moon.moon, isTilted);
   if (day.moon.eclipse) drawRing(_sheet, cell.center, cell.radius);
   if (day.moon.phase)
     _sheet.label(_local.time(day.moon.phase->at), cell.phase,
@@ -123,16 +123,21 @@ void CalendarDays::drawTimes(const CalendarDay& day, Body body, const CalendarLa
   draw(EventKind::set, rooms.set, rooms.setTime);
 }
 
-/// One size for the times of all days, in steps, so that the months of a year share one.
+/// One size for the times of all days, in steps, so that the months of a year share one: the first at which
+/// they all fit, as most are then shaped at the size that they are drawn at alone.
 LabelStyle CalendarDays::timeStyle() const {
-  constexpr double step = 0.1;
+  constexpr int steps = 10;
   std::vector<std::string> times;
   for (const CalendarDay& day : _month.days)
     for (const almanac::Event& event : day.sky.events) times.push_back(_local.time(event.at));
-  const LabelStyle wanted = {.size = 6.2 * _unit, .color = _palette.ink};
-  LabelStyle style = Sheet::fitting(wanted, times, _layout.cell(0, 0).sun.riseTime.width);
-  const double steps = std::floor(style.size / wanted.size / step);
-  style.size = wanted.size * std::max(Sheet::leastShare, steps * step);
+  const double wanted = 6.2 * _unit, room = _layout.cell(0, 0).sun.riseTime.width;
+  LabelStyle style = {.size = wanted, .color = _palette.ink};
+  const auto isTooWide = [&](const std::string& time) { return Sheet::widthOf(time, style) > room; };
+  for (int step = steps - 1; std::any_of(times.begin(), times.end(), isTooWide); --step) {
+    const double share = static_cast<double>(step) / steps;
+    style.size = wanted * std::max(Sheet::leastShare, share);
+    if (share <= Sheet::leastShare) break;
+  }
   return style;
 }
 

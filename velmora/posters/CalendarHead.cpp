@@ -45,7 +45,8 @@ void CalendarHead::drawPhases(bool isTilted) const {
     if (!day.moon.phase) continue;
     const CalendarLayout::Phase& room = _layout.phases[next++];
     const auto& [at, phase] = *day.moon.phase;
-    drawDisc(room.center, room.radius, at, isTilted);
+    if (const auto moon = almanac::illumination(_place.place, at))
+      drawDisc(room.center, room.radius, at, *moon, isTilted);
     _sheet.label(phaseName(phase), room.name,
                  {8.5 * _unit, _palette.ink, Side::middle, FontWeight::semibold});
     _sheet.label(_local.date(at, "MMMd"), room.date, {8.5 * _unit, _palette.quiet, Side::middle});

@@ -14,11 +14,10 @@ CalendarPart::CalendarPart(Sheet& sheet, const CalendarLayout& layout, const Cal
       _palette(sheet.palette()),
       _unit(sheet.unit()) {}
 
-void CalendarPart::drawDisc(Point center, double radius, Instant at, bool isTilted) const {
-  const auto moon = almanac::illumination(_place.place, at);
-  if (!moon) return;
+void CalendarPart::drawDisc(Point center, double radius, Instant at, const almanac::Illumination& moon,
+                            bool isTilted) const {
   const bool isSouthern = _place.place.latitude < 0;
-  const MoonLight light = isTilted ? tilted(*moon) : upright(*moon, isSouthern);
+  const MoonLight light = isTilted ? tilted(moon) : upright(moon, isSouthern);
   if (_picture.isBlank()) return drawMoon(_sheet, center, radius, light);
   const double north = isTilted ? northInSky(_place.place, at) : northUpright(isSouthern);
   _picture.draw(_sheet.canvas(), _sheet.onPaper(center), radius, light, north, _palette.moonDark);

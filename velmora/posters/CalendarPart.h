@@ -16,7 +16,8 @@ class CalendarPart {
 
  protected:
   /// The disc as it is lit and lies at the moment: its picture, or its shape where that is missing.
-  void drawDisc(Point center, double radius, Instant at, bool isTilted) const;
+  void drawDisc(Point center, double radius, Instant at, const almanac::Illumination& moon,
+                bool isTilted) const;
 
   Sheet& _sheet;
   const CalendarLayout& _layout;

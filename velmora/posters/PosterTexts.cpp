@@ -1,5 +1,6 @@
 #include <velmora/posters/PosterTexts.h>
 
+#include <array>
 #include <cmath>
 #include <map>
 #include <tuple>
@@ -29,6 +30,15 @@ std::string written(Instant instant, std::string_view fields, const Locale& loca
   return formatter.stringFromDate(instant);
 }
 
+using MinutesOfDay = std::array<std::string, 24 * 60>;
+
+/// The texts of the day's minutes, each written when it is first asked for: a calendar has few that no other
+/// of its days has.
+MinutesOfDay& minutesOfDay(const Locale& locale) {
+  thread_local std::map<std::pair<std::string, bool>, MinutesOfDay> texts;
+  return texts[{locale.identifier(), locale.uses24HourClock()}];
+}
+
 /// That of the words, with the clock of the user's own.
 Locale localeOfTexts() {
   const bool isWhole = Locale::current().uses24HourClock();
@@ -41,7 +51,12 @@ PosterTexts::PosterTexts(TimeZone zone) : _zone(std::move(zone)), _locale(locale
 
 std::string PosterTexts::time(Instant instant) const {
   const double minutes = std::floor(unixSeconds(instant) / minute + 0.5);
-  return written(instantFromUnixSeconds(minutes * minute), "jmm", _locale, _zone);
+  const auto clock = _zone.localTime(instantFromUnixSeconds(minutes * minute)).time_since_epoch();
+  const auto ofDay =
+      std::chrono::floor<std::chrono::minutes>(clock - std::chrono::floor<std::chrono::days>(clock));
+  std::string& text = minutesOfDay(_locale).at(static_cast<std::size_t>(ofDay.count()));
+  if (text.empty()) text = written(Instant(ofDay), "jmm", _locale, TimeZone::fixed(0));
+  return text;
 }
 
 std::string PosterTexts::date(Instant instant, std::string_view fields) const {
