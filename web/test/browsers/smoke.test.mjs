@@ -17,12 +17,34 @@ const pictures = fileURLToPath(new URL("../../../build/screens", import.meta.url
  * How many colours a section's canvases have at least once all is drawn, pictures of the Moon too. Sections without
  * a canvas tell by their text alone that they stand.
  */
-const leastColours = { today: 200, month: 40, year: 40, riseset: 40, sky: 40, pictures: 200 };
+const leastColours = { today: 200, month: 40, year: 40, riseset: 40, sky: 40, pictures: 200, posters: 40 };
 
-const hasColours = (least) => [...document.querySelectorAll("main canvas")].every((canvas) => {
-  const { data } = canvas.getContext("2d").getImageData(0, 0, canvas.width, canvas.height);
-  return new Set(new Uint32Array(data.buffer)).size >= least;
-});
+/** Of the canvases on the screen together: a row of rise and set has few of its own. */
+const hasColours = (least) => {
+  const colours = new Set();
+  for (const canvas of document.querySelectorAll("main canvas")) {
+    if (canvas.width === 0) return false;
+    const copy = new OffscreenCanvas(canvas.width, canvas.height).getContext("2d");
+    copy.drawImage(canvas, 0, 0);
+    for (const colour of new Uint32Array(copy.getImageData(0, 0, canvas.width, canvas.height).data.buffer)) colours.add(colour);
+  }
+  return colours.size >= least;
+};
+
+/** How many blue pixels the picture of the screen shows in a day's disc and name: in the light those of the chosen day
+ *  are blue. They stand before its hours. */
+const bluePixels = async (picture, day) => {
+  const bytes = Uint8Array.from(atob(picture), (letter) => letter.charCodeAt(0));
+  const screen = await createImageBitmap(new Blob([bytes], { type: "image/png" }));
+  const row = document.querySelector(`[data-day="${day}"]`).getBoundingClientRect();
+  const width = 48;
+  const copy = new OffscreenCanvas(width, row.height).getContext("2d");
+  copy.drawImage(screen, -row.x, -row.y);
+  const { data } = copy.getImageData(0, 0, width, row.height);
+  let count = 0;
+  for (let at = 0; at < data.length; at += 4) if (data[at + 2] - data[at] > 40) ++count;
+  return count;
+};
 
 for (const [name, engine] of Object.entries({ Firefox: firefox, WebKitGTK: webkit })) {
   describe(`Page in ${name}`, () => {
@@ -71,6 +93,28 @@ for (const [name, engine] of Object.entries({ Firefox: firefox, WebKitGTK: webki
       await browser.click(x, y);
       await browser.until(() => location.hash.includes("day=2025-09-18"));
       assert.match(await text(".panel h2"), /September 18, 2025/);
+    });
+
+    test("AClickDrawsTheChosenRowOfRiseAndSetAndTheOneBefore", async () => {
+      await show(at("settings"));
+      await browser.evaluate(() => localStorage.setItem("velmora", JSON.stringify({ choices: { theme: "light" } })));
+      await show(at("riseset"));
+      await browser.until(hasColours, leastColours.riseset);
+      const blue = async () => {
+        const picture = Buffer.from(await browser.screenshot()).toString("base64");
+        const of = (day) => browser.evaluate(bluePixels, picture, day);
+        return [await of("2025-09-07"), await of("2025-09-09")];
+      };
+      const [chosen, other] = await blue();
+      assert.ok(chosen > 100 && other === 0, `${chosen} and ${other} blue pixels`);
+      const { x, y } = await browser.evaluate(() => {
+        const box = document.querySelector("[data-day='2025-09-09']").getBoundingClientRect();
+        return { x: box.x + 24, y: box.y + box.height / 2 };
+      });
+      await browser.click(x, y);
+      await browser.until(() => location.hash.includes("day=2025-09-09"));
+      const [left, taken] = await blue();
+      assert.ok(left === 0 && taken > 100, `${left} and ${taken} blue pixels`);
     });
 
     test("KeysChooseADay", async () => {
