@@ -161,6 +161,60 @@ TEST_F(PageRiseSetTest, AnotherDayOfTheMonthAsksForTheTwoRowsConcernedAlone) {
   EXPECT_TRUE(list->partNeedsDisplay(0));
 }
 
+std::vector<std::string> labelsOf(HostedView& view) {
+  std::vector<std::string> labels;
+  for (const HostedElement& hosted : view.elements()) labels.push_back(hosted.element.label);
+  return labels;
+}
+
+std::unique_ptr<HostedView> viewOf(const char* kind) {
+  auto view = HostedView::named(kind);
+  view->resize({390, 470}, 1);
+  return view;
+}
+
+class PageElementsTest : public PageSession, public ::testing::TestWithParam<const char*> {
+ protected:
+  void select(const City& city, Date day) {
+    ASSERT_TRUE(_session.select(city.latitude, city.longitude, city.name, city.zone, day));
+  }
+};
+
+TEST_P(PageElementsTest, StayWithinAMonth) {
+  _session.configure({});
+  select(helsinki, 2025y / 9 / 7);
+  const auto view = viewOf(GetParam());
+  const std::int64_t before = view->editionOfElements();
+  ASSERT_TRUE(_session.selectDay(2025y / 9 / 30));
+  view->dayChanged();
+  EXPECT_EQ(view->editionOfElements(), before);
+  EXPECT_EQ(labelsOf(*view), labelsOf(*viewOf(GetParam())));
+}
+
+TEST_P(PageElementsTest, FollowMonthYearPlaceAndLanguage) {
+  _session.configure({});
+  select(helsinki, 2025y / 9 / 7);
+  const auto view = viewOf(GetParam());
+  std::vector<std::string> before = labelsOf(*view);
+  const auto expectOthers = [&] {
+    view->dayChanged();
+    const std::vector<std::string> now = labelsOf(*view);
+    EXPECT_NE(now, before);
+    EXPECT_EQ(now, labelsOf(*viewOf(GetParam())));
+    before = now;
+  };
+  ASSERT_TRUE(_session.selectDay(2026y / 10 / 7));
+  expectOthers();
+  select(tokyo, 2027y / 2 / 7);
+  expectOthers();
+  _session.configure({.locale = "de_DE"});
+  expectOthers();
+}
+
+INSTANTIATE_TEST_SUITE_P(Calendars, PageElementsTest,
+                         ::testing::Values("month", "riseset", "year", "pictures"),
+                         [](const auto& kind) { return std::string(kind.param); });
+
 INSTANTIATE_TEST_SUITE_P(Scenes, PageViewsTest, ::testing::ValuesIn(scenes), [](const auto& scene) {
   std::string name = scene.param.name;
   std::erase(name, '-');

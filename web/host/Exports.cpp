@@ -54,7 +54,7 @@ std::string jsonOf(Date date) {
       .text();
 }
 
-std::string jsonOf(const HostedElement& hosted, Date selected) {
+std::string jsonOf(const HostedElement& hosted) {
   const AccessibilityElement& element = hosted.element;
   std::vector<std::string> actions;
   for (const auto& action : element.customActions) actions.push_back(json(std::string_view(action->name())));
@@ -70,8 +70,7 @@ std::string jsonOf(const HostedElement& hosted, Date selected) {
       .with("value", std::string_view(element.value))
       .with("hint", std::string_view(element.hint))
       .with("isButton", element.traits == AccessibilityTraits::button)
-      .add("actions", jsonArray(actions))
-      .with("isSelected", hosted.day == selected);
+      .add("actions", jsonArray(actions));
   if (hosted.day) object.add("day", jsonOf(*hosted.day));
   return object.text();
 }
@@ -283,10 +282,12 @@ EMSCRIPTEN_KEEPALIVE void velmora_web_touch_ended(int number, double x, double y
 EMSCRIPTEN_KEEPALIVE void velmora_web_touch_cancelled(int number) { view(number).touchCancelled(); }
 
 EMSCRIPTEN_KEEPALIVE const char* velmora_web_elements(int number) {
-  const Date selected = Session::shared().day();
   std::vector<std::string> values;
-  for (const HostedElement& element : view(number).elements()) values.push_back(jsonOf(element, selected));
+  for (const HostedElement& element : view(number).elements()) values.push_back(jsonOf(element));
   return answered(jsonArray(values));
+}
+EMSCRIPTEN_KEEPALIVE double velmora_web_edition_of_elements(int number) {
+  return static_cast<double>(view(number).editionOfElements());
 }
 EMSCRIPTEN_KEEPALIVE void velmora_web_perform(int number, int element, int action) {
   const DayWatch watch;

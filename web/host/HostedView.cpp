@@ -64,6 +64,7 @@ View& HostedView::screen() {
   if (_screen && _generation == generation) return *_screen;
   useScreen(_given.width, _scale);
   _generation = generation;
+  _monthOfElements.reset();
   _screen = std::make_shared<View>();
   _screen->setFrame({0, 0, _given.width, _given.height});
   fill(*_screen);
@@ -152,13 +153,23 @@ std::optional<Date> HostedView::dayAt(Point point) {
 
 const std::vector<HostedElement>& HostedView::elements() {
   View& view = screen();
+  const Date day = Session::shared().day();
+  const auto month = day.year() / day.month();
+  if (_monthOfElements == month) return _elements;
+  _monthOfElements = month;
+  ++_editionOfElements;
   view.layoutSubviews();
   _elements.clear();
   for (AccessibilityElement& element : elementsOf(view)) {
-    const auto day = dayOfElement(_elements.size());
-    _elements.push_back({std::move(element), day});
+    const auto itsDay = dayOfElement(_elements.size());
+    _elements.push_back({std::move(element), itsDay});
   }
   return _elements;
+}
+
+std::int64_t HostedView::editionOfElements() {
+  elements();
+  return _editionOfElements;
 }
 
 void HostedView::perform(std::size_t element, std::size_t action) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -64,8 +65,10 @@ class HostedView {
   void touchEnded(Point point);
   void touchCancelled();
 
-  /// In reading order, with frames on the canvas.
+  /// In reading order, with frames on the canvas; the same of all days of a month.
   const std::vector<HostedElement>& elements();
+  /// How often the elements have been made anew: as long as it stays, they do.
+  std::int64_t editionOfElements();
   /// Does an action of an element last answered.
   void perform(std::size_t element, std::size_t action);
 
@@ -107,6 +110,8 @@ class HostedView {
   std::weak_ptr<View> _touched;
   std::optional<Date> _tapped;
   std::vector<HostedElement> _elements;
+  std::optional<std::chrono::year_month> _monthOfElements;  ///< none where they are to be made anew
+  std::int64_t _editionOfElements = 0;
 };
 
 }  // namespace velmora::web

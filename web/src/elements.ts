@@ -11,8 +11,8 @@ export class ElementLayer {
   readonly root = h("div", { class: "elements" });
   private readonly cells = new Map<string, HTMLElement>();
   private nodes: HTMLElement[] = [];
-  private written: string[] = [];
-  private days = "";
+  private shown: readonly ViewElement[] = [];
+  private tabStop: HTMLElement | undefined;
   /** The day that gets the focus once the view shows it. */
   private wanted: Day | undefined;
 
@@ -27,17 +27,15 @@ export class ElementLayer {
   /** Where the days are those of before, changes only what is said of them. */
   refresh(): void {
     const elements = this.view.elements();
-    const written = elements.map((element) => JSON.stringify(element));
-    if (written.length === this.written.length && written.every((text, index) => text === this.written[index])) return;
+    const before = this.shown;
+    const hasOtherDays = !isEqual(elements.map(({ day }) => day), before.map(({ day }) => day));
+    const changed = [...elements.keys()].filter((index) => hasOtherDays || !isEqual(elements[index], before[index]));
+    this.shown = elements;
+    if (!hasOtherDays && changed.length === 0) return;
     const hadFocus = this.root.contains(document.activeElement);
-    const days = JSON.stringify(elements.map(({ day }) => day ?? null));
-    if (days !== this.days) this.build(elements);
+    if (hasOtherDays) this.build(elements);
     const today = this.app.moon.today();
-    elements.forEach((element, index) => {
-      if (days !== this.days || written[index] !== this.written[index]) describe(this.nodes[index]!, element, today);
-    });
-    this.days = days;
-    this.written = written;
+    for (const index of changed) describe(this.nodes[index]!, elements[index]!, today);
     this.putTabStop([...this.cells.values()].find((cell) => cell.ariaSelected === "true"));
     if (hadFocus || this.wanted) this.focusSelected();
   }
@@ -78,7 +76,7 @@ export class ElementLayer {
 
   private cell(day: Day, index: number): HTMLElement {
     const cell = h("div", {
-      role: this.isGrid ? "gridcell" : "option", class: "day", "data-day": dayText(day),
+      role: this.isGrid ? "gridcell" : "option", class: "day", "data-day": dayText(day), tabindex: -1,
       // A screen reader's tap comes here, a finger's goes to the canvas below.
       click: () => this.view.perform(index, 0),
     });
@@ -88,9 +86,9 @@ export class ElementLayer {
 
   /** On the cell; on the first where there is none. */
   private putTabStop(cell: HTMLElement | undefined): void {
-    for (const other of this.cells.values()) other.tabIndex = -1;
-    const stop = cell ?? this.cells.values().next().value;
-    if (stop) stop.tabIndex = 0;
+    if (this.tabStop) this.tabStop.tabIndex = -1;
+    this.tabStop = cell ?? this.cells.values().next().value;
+    if (this.tabStop) this.tabStop.tabIndex = 0;
   }
 
   focusSelected(): void {
@@ -178,6 +176,11 @@ export class ElementLayer {
 function dayOf(text: string): Day {
   const [year, month, day] = text.split("-").map(Number);
   return { year: year!, month: month!, day: day! };
+}
+
+/** Of values as JSON has them. */
+function isEqual(one: unknown, other: unknown): boolean {
+  return one === other || JSON.stringify(one) === JSON.stringify(other);
 }
 
 /** What the node says of the element, and where it lies. */

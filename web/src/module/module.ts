@@ -22,7 +22,7 @@ function parts({ year, month, day }: CivilDate): [number, number, number] {
   return [year, month, day];
 }
 
-function isSame(one: CivilDate, other: CivilDate): boolean {
+export function isSame(one: CivilDate, other: CivilDate): boolean {
   return one.year === other.year && one.month === other.month && one.day === other.day;
 }
 

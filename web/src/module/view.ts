@@ -1,5 +1,5 @@
 import type { CivilDate, End, Frame, HostedView, Size, ViewElement, ViewKind, ViewOptions } from "../velmora";
-import type { Module } from "./module";
+import { isSame, type Module } from "./module";
 import { replay } from "./replay";
 import { svgOf } from "./svg";
 import { useTextStyle } from "./texts";
@@ -76,6 +76,9 @@ export class CanvasView implements HostedView {
   readonly #sheet = document.createElement("canvas");
   /** Of the last drawing on the canvas. */
   #squares: Float64Array | undefined;
+  /** As last answered; those of which nothing has changed are answered again. */
+  #elements: readonly ViewElement[] = [];
+  #edition = 0;
 
   constructor(module: Module, readonly kind: ViewKind, readonly canvas: HTMLElement, options: ViewOptions) {
     this.#module = module;
@@ -153,7 +156,17 @@ export class CanvasView implements HostedView {
   }
 
   elements(): readonly ViewElement[] {
-    return this.#module.native.answer<ViewElement[]>("velmora_web_elements", this.#number) ?? [];
+    const { native, day } = this.#module;
+    const edition = native.number("velmora_web_edition_of_elements", this.#number);
+    if (edition !== this.#edition) {
+      this.#edition = edition;
+      this.#elements = native.answer<ViewElement[]>("velmora_web_elements", this.#number)!;
+    }
+    this.#elements = this.#elements.map((element) => {
+      const isSelected = element.day !== undefined && isSame(element.day, day);
+      return element.isSelected === isSelected ? element : { ...element, isSelected };
+    });
+    return this.#elements;
   }
 
   perform(element: number, action: number): void {
