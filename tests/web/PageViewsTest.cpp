@@ -89,6 +89,9 @@ const Scene scenes[] = {
      {.at = utc(2025y / 9 / 3, 18h), .isTilted = true},
      {}},
     {"page-disc-south", "disc", {240, 240}, capeTown, 2025y / 9 / 18, {.at = utc(2025y / 9 / 18, 3h)}, {}},
+    // Posters, as they stand on a screen.
+    {"page-night", "night", {640, 453}, helsinki, 2025y / 9 / 12, {}, {}},
+    {"page-darkness-light", "darkness", {452, 640}, capeTown, 2025y / 9 / 12, {}, {.isLight = true}},
 };
 
 /// What the session sets for all that is drawn is set back.

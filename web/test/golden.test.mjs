@@ -1,4 +1,5 @@
-// The views in Chromium beside the pictures that the library draws natively. VELMORA_MODULE is the module's folder.
+// The views in Chromium beside the pictures that the library draws natively, and a section beside what it looked like.
+// VELMORA_MODULE is the module's folder. VELMORA_UPDATE_GOLDEN=1 writes the section's picture over the old one.
 import assert from "node:assert/strict";
 import { mkdir, readFile, writeFile } from "node:fs/promises";
 import { join } from "node:path";
@@ -6,6 +7,7 @@ import { after, before, describe, test } from "node:test";
 import { fileURLToPath } from "node:url";
 import { serve } from "../static.mjs";
 import { launch } from "./browser.mjs";
+import { at, drawn, isReal, Site } from "./pages.mjs";
 
 const project = fileURLToPath(new URL("../..", import.meta.url));
 const differing = join(project, "build/golden-web");
@@ -71,10 +73,13 @@ const scenes = [
     options: { at: Date.UTC(2025, 8, 3, 18), isTilted: true } },
   { name: "page-disc-south", kind: "disc", size: [240, 240], day: date(2025, 9, 18), place: capeTown,
     options: { at: Date.UTC(2025, 8, 18, 3) } },
+  { name: "page-night", kind: "night", size: [640, 453], day: date(2025, 9, 12), place: helsinki },
+  { name: "page-darkness-light", kind: "darkness", size: [452, 640], day: date(2025, 9, 12), place: capeTown,
+    settings: { ...english, theme: "light" } },
 ];
 
-/** Draws the scene in the page and compares it with the golden picture there. */
-async function compare({ base, scene, golden, tolerance: most }) {
+/** Draws the scene in the page: the picture, and how far down in it what the golden one shows begins. */
+async function drawScene({ base, scene }) {
   const { year, month, day } = scene.day;
   Date.now = () => scene.now ? Date.parse(scene.now) : Date.UTC(year, month - 1, day, 12);
   const { loadVelmora } = await import(`${base}load.js`);
@@ -83,24 +88,28 @@ async function compare({ base, scene, golden, tolerance: most }) {
   });
   const view = velmora.createView(scene.kind, document.createElement("canvas"), scene.options);
   view.resize(...scene.size, 1);
-  /** A list is longer than the picture: what is seen of it from the top on. */
-  const pixelsOf = async (blob, top = 0, height) => {
-    const bitmap = await createImageBitmap(blob);
-    const context = new OffscreenCanvas(bitmap.width, height ?? bitmap.height).getContext("2d");
-    context.drawImage(bitmap, 0, -top);
-    return context.getImageData(0, 0, context.canvas.width, context.canvas.height);
-  };
   const blob = await view.png(1);
-  const isList = scene.kind === "riseset";
-  const expected = await pixelsOf(await (await fetch(golden)).blob());
-  const actual = isList ? await pixelsOf(blob, view.scrollOffset, expected.height) : await pixelsOf(blob);
-  const { width, height } = expected;
   const picture = await new Promise((done) => {
     const reader = new FileReader();
     reader.onload = () => done(reader.result.split(",")[1]);
     reader.readAsDataURL(blob);
   });
-  if (actual.width !== width || actual.height !== height) return { share: 1, picture };
+  return { picture, top: scene.kind === "riseset" ? view.scrollOffset : 0 };
+}
+
+/** Which share of the golden picture's pixels differ. A list is longer than the picture of it. */
+async function compare({ picture, top, golden, without, tolerance: most }) {
+  const bitmapOf = (base64) => createImageBitmap(
+    new Blob([Uint8Array.from(atob(base64), (letter) => letter.charCodeAt(0))], { type: "image/png" }));
+  const [drawing, wanted] = await Promise.all([picture, golden].map(bitmapOf));
+  const { width, height } = wanted;
+  if (drawing.width !== width || drawing.height < top + height || (top === 0 && drawing.height !== height)) return 1;
+  const pixelsOf = (bitmap, offset) => {
+    const context = new OffscreenCanvas(width, height).getContext("2d");
+    context.drawImage(bitmap, 0, -offset);
+    return context.getImageData(0, 0, width, height);
+  };
+  const actual = pixelsOf(drawing, top), expected = pixelsOf(wanted, 0);
   const isDiffering = (x, y) => {
     for (let colour = 0; colour < 3; ++colour) {
       let sum = 0;
@@ -114,41 +123,75 @@ async function compare({ base, scene, golden, tolerance: most }) {
     }
     return false;
   };
-  const isLeftOut = (x, y) => (scene.without ?? []).some(([left, top, across, down]) =>
+  const isLeftOut = (x, y) => without.some(([left, top, across, down]) =>
     x >= left && x < left + across && y >= top && y < top + down);
   let count = 0;
   for (let y = 1; y < height - 1; ++y) {
     for (let x = 1; x < width - 1; ++x) if (!isLeftOut(x, y) && isDiffering(x, y)) ++count;
   }
-  return { share: count / (width * height), picture };
+  return count / (width * height);
 }
 
-describe("Views in Chromium", { skip: process.env.VELMORA_MODULE === undefined && "VELMORA_MODULE names no module" }, () => {
-  let module, goldens, browser;
+/** A page of that server on which scripts of the test may run. */
+async function blankPage(browser, { address }) {
+  const page = await browser.newPage();
+  await page.goto(`${address}icons/sunrise.png`);
+  return page;
+}
+
+/** The picture beside its golden one; it is left in build/golden-web. */
+async function assertGolden(page, golden, name, { picture, top = 0, without = [] }) {
+  await mkdir(differing, { recursive: true });
+  await writeFile(join(differing, `${name}.png`), Buffer.from(picture, "base64"));
+  const share = await page.evaluate(compare, { picture, top, golden: await readFile(golden, "base64"), without, tolerance });
+  console.log(`${name}: ${(share * 100).toFixed(3)} %`);
+  assert.ok(share <= mostDiffering, `${(share * 100).toFixed(2)} % of the pixels differ; see build/golden-web`);
+}
+
+describe("Views in Chromium", { skip: !isReal && "VELMORA_MODULE names no module" }, () => {
+  let module, browser;
   before(async () => {
     module = await serve(process.env.VELMORA_MODULE);
-    goldens = await serve(join(project, "tests/golden"));
     browser = await launch(["--disable-web-security"]);
   });
   after(async () => {
     await browser.close();
     module.close();
-    goldens.close();
   });
 
   for (const scene of scenes) {
     test(`${scene.name} LooksAsDrawnNatively`, async () => {
-      const page = await browser.newPage();
-      await page.goto(`${module.address}icons/sunrise.png`);
-      const { share, picture } = await page.evaluate(compare, {
-        base: module.address, golden: `${goldens.address}${scene.name}.png`, tolerance,
-        scene: { settings: english, place: greenwich, ...scene },
+      const page = await blankPage(browser, module);
+      const { picture, top } = await page.evaluate(drawScene, {
+        base: module.address, scene: { settings: english, place: greenwich, ...scene },
       });
+      await assertGolden(page, join(project, "tests/golden", `${scene.name}.png`), scene.name,
+        { picture, top, without: scene.without });
       await page.close();
-      await mkdir(differing, { recursive: true });
-      await writeFile(join(differing, `${scene.name}.png`), Buffer.from(picture, "base64"));
-      console.log(`${scene.name}: ${(share * 100).toFixed(3)} %`);
-      assert.ok(share <= mostDiffering, `${(share * 100).toFixed(2)} % of the pixels differ; see build/golden-web`);
     });
   }
+});
+
+describe("Sections in Chromium", { skip: !isReal && "VELMORA_MODULE names no module" }, () => {
+  let site;
+  before(async () => { site = await Site.open(); });
+  after(() => site.close());
+
+  test("TodayInTheLightLooksAsItShould", async () => {
+    const size = { width: 390, height: 1740, deviceScaleFactor: 1 };
+    const visitor = await site.visitor({ size, scheme: "light" });
+    await site.show(visitor, at("today", "day=2025-09-12&time=21:30"));
+    await visitor.waitForSelector(".moon .drawn[hidden]");  // then its pictures are drawn
+    await drawn(visitor);
+    const picture = await visitor.screenshot({ encoding: "base64" });
+    const golden = join(project, "web/test/golden/today-light.png");
+    if (process.env.VELMORA_UPDATE_GOLDEN) {
+      await writeFile(golden, Buffer.from(picture, "base64"));
+      assert.fail("the golden picture is written: look at it");
+    }
+    const page = await blankPage(site.browser, { address: `${site.address}velmora/` });
+    await assertGolden(page, golden, "today-light", { picture });
+    await visitor.context.close();
+    await page.close();
+  });
 });
