@@ -72,4 +72,30 @@ describe("Paper", { skip: !isReal && "VELMORA_MODULE names no module" }, () => {
     assert.equal(await page.$(".printed"), null);
     await site.close();
   });
+
+  test("TheRisesAndSetsOfAMonthTakeOneSheetWithTheirIcons", async () => {
+    const site = await Site.open();
+    const page = await site.visitor();
+    await site.show(page, at("riseset"));
+    await page.evaluate(() => dispatchEvent(new Event("beforeprint")));
+    const blended = await page.$$eval(".printed [data-style]", (all) => all.map((one) => getComputedStyle(one).mixBlendMode));
+    assert.ok(blended.length > 31);
+    assert.deepEqual([...new Set(blended)], ["overlay"]);
+    const missing = await page.$$eval(".printed use", (all) => all.filter((one) => !document.querySelector(one.getAttribute("href"))).length);
+    assert.equal(missing, 0);
+    await page.evaluate(() => dispatchEvent(new Event("afterprint")));
+    const sheets = Buffer.from(await page.pdf({ format: "A4" })).toString("latin1").match(/\/Type \/Page\b/g);
+    assert.equal(sheets.length, 1);
+    assert.deepEqual(page.faults, []);
+    await site.close();
+  });
+
+  test("AViewIsPrintedOnce", async () => {
+    const site = await Site.open();
+    const page = await site.visitor();
+    await site.show(page, at("month"));
+    for (let time = 0; time < 2; ++time) await page.evaluate(() => dispatchEvent(new Event("beforeprint")));
+    assert.equal(await page.$$eval(".printed", (all) => all.length), 1);
+    await site.close();
+  });
 });
