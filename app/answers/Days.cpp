@@ -8,7 +8,6 @@
 namespace velmora::app {
 namespace {
 
-using std::chrono::days;
 using std::chrono::local_days;
 using std::chrono::years;
 
@@ -40,7 +39,7 @@ std::vector<CivilDate> daysOf(const Query& query) {
   checkRange(*from, *to);
 
   std::vector<CivilDate> list;
-  for (local_days day(*from); day <= local_days(*to); day += days(1)) {
+  for (local_days day(*from); day <= local_days(*to); day += std::chrono::days(1)) {
     if (exists(CivilDate(day), query.place.zone)) list.emplace_back(day);
   }
   return list;

@@ -13,10 +13,9 @@ namespace velmora::app {
 namespace {
 
 using almanac::PrincipalPhase;
-using std::chrono::days;
 using std::chrono::local_days;
 
-constexpr days longestLunation{30};
+constexpr std::chrono::days longestLunation{30};
 
 unsigned dayOfMonth(CivilDate date) { return static_cast<unsigned>(date.day()); }
 

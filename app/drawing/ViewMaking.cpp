@@ -20,7 +20,7 @@ namespace {
 // Wide enough for Korean hours.
 constexpr double phoneTimelineWidth = 540;
 constexpr double timelineHeight = 76, timelineMargin = 6;
-constexpr double margin = 10;
+constexpr double viewMargin = 10;
 
 /// A view that needs nothing but its frame.
 template <class ViewClass>
@@ -41,7 +41,7 @@ Size timelineSize(const Query& query) {
 
 std::shared_ptr<View> makeTimeline(const Query&, Size size) {
   auto timeline = std::make_shared<TimelineDayView>();
-  timeline->setFrame(Rect{0, 0, size.width, size.height}.inset(margin, timelineMargin));
+  timeline->setFrame(Rect{0, 0, size.width, size.height}.inset(viewMargin, timelineMargin));
   auto host = makeHost(size);
   host->addSubview(timeline);
   return host;

@@ -8,8 +8,6 @@
 namespace velmora::app {
 namespace {
 
-using std::chrono::days;
-
 constexpr int minutesPerHour = 60;
 constexpr int hoursPerHalf = 12;
 
@@ -48,7 +46,8 @@ using LocalMinute = std::chrono::local_time<std::chrono::minutes>;
 
 LocalMinute minuteOf(LocalTime local) {
   const auto nearest = std::chrono::round<std::chrono::minutes>(local);
-  const bool isNextDay = std::chrono::floor<days>(nearest) != std::chrono::floor<days>(local);
+  const bool isNextDay =
+      std::chrono::floor<std::chrono::days>(nearest) != std::chrono::floor<std::chrono::days>(local);
   return isNextDay ? std::chrono::floor<std::chrono::minutes>(local) : nearest;
 }
 
@@ -61,7 +60,7 @@ Instant nearestMinute(Instant instant, const TimeZone& zone) {
 
 Reading readingAt(Instant instant, const TimeZone& zone) {
   const LocalMinute minute = minuteOf(zone.localTime(instant));
-  const auto day = std::chrono::floor<days>(minute);
+  const auto day = std::chrono::floor<std::chrono::days>(minute);
   return {CivilDate(day), static_cast<int>((minute - day).count())};
 }
 
@@ -71,7 +70,7 @@ std::string clockText(int minutes, bool use24HourClock) {
 
 std::string clockTextToTheSecond(Instant instant, const TimeZone& zone, bool use24HourClock) {
   const auto second = std::chrono::round<std::chrono::seconds>(zone.localTime(instant));
-  const std::chrono::hh_mm_ss time(second - std::chrono::floor<days>(second));
+  const std::chrono::hh_mm_ss time(second - std::chrono::floor<std::chrono::days>(second));
   return clock(static_cast<int>(time.hours().count()),
                ":" + twoDigits(time.minutes().count()) + ":" + twoDigits(time.seconds().count()),
                use24HourClock);

@@ -9,7 +9,6 @@
 namespace velmora::app {
 namespace {
 
-using std::chrono::days;
 using std::chrono::hours;
 using std::chrono::minutes;
 using std::chrono::seconds;
@@ -145,7 +144,7 @@ std::string dateText(CivilDate date) {
 
 std::string instantText(Instant instant) {
   const auto second = std::chrono::round<seconds>(instant);
-  const auto day = std::chrono::floor<days>(second);
+  const auto day = std::chrono::floor<std::chrono::days>(second);
   const std::int64_t ofDay = (second - day).count();
   return dateText(CivilDate(day)) + "T" + twoDigits(ofDay / 3600) + ":" + twoDigits(ofDay / 60 % 60) + ":" +
          twoDigits(ofDay % 60) + "Z";

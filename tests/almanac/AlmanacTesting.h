@@ -4,9 +4,19 @@
 #include <sstream>
 #include <string>
 
+#include <velmora/almanac/Place.h>
+#include <velmora/ephemeris/Ephemeris.h>
 #include <velmora/platform/time/Instant.h>
+#include <velmora/platform/time/TimeZone.h>
 
 namespace velmora::testing {
+
+inline constexpr almanac::Place london{51.508333, -0.125278};
+
+/// What the ephemeris serves: from the first instant until before the end.
+inline const Instant firstServed = ephemeris::firstInstant(), endServed = ephemeris::endInstant();
+
+inline TimeZone zoneNamed(const char* name) { return *TimeZone::named(name); }
 
 /// "2024-03-20T08:15", of a table.
 inline Instant instantOf(const std::string& text) {

@@ -7,6 +7,7 @@
 
 #include <tests/almanac/EclipseFaults.h>
 #include <tests/almanac/EclipseTesting.h>
+#include <tests/support/NotFinite.h>
 #include <velmora/almanac/Events.h>
 
 namespace velmora::almanac {
@@ -120,7 +121,6 @@ TEST(EclipseProperties, AMountainSeesTheEclipsedSunEarlier) {
 
 TEST(EclipseProperties, NothingIsSeenFromWhatIsNoPlaceOrAtNoInstant) {
   const Eclipse eclipse = eclipseOn(2024, 4, 8, Body::sun);
-  const double nan = std::nan(""), infinity = std::numeric_limits<double>::infinity();
   for (const Place& place : {Place{nan, 0}, Place{0, nan}, Place{0, 0, nan}, Place{infinity, 0},
                              Place{90.1, 0}, Place{0, -180.1}, Place{0, 0, -1}, Place{0, 0, infinity}}) {
     EXPECT_FALSE(seenFrom(eclipse, place));

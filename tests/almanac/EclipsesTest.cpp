@@ -11,8 +11,10 @@
 #include <string>
 #include <vector>
 
+#include <tests/almanac/AlmanacTesting.h>
 #include <tests/almanac/EclipseTesting.h>
 #include <tests/support/ErrorSummary.h>
+#include <tests/support/NotFinite.h>
 #include <tests/support/PlainNumbers.h>
 #include <tests/support/SourceDirectory.h>
 #include <tests/support/Tables.h>
@@ -21,8 +23,6 @@ namespace velmora::almanac {
 namespace {
 
 using namespace velmora::testing;
-
-const Instant first = ephemeris::firstInstant(), end = ephemeris::endInstant();
 
 std::string dateOf(Instant instant) {
   const std::chrono::year_month_day date(std::chrono::floor<std::chrono::days>(instant));
@@ -33,7 +33,7 @@ std::string dateOf(Instant instant) {
 }
 
 TEST(Eclipses, OfTwoCenturiesAreThoseOfThePreciseEphemeris) {
-  const auto found = eclipses(first, end);
+  const auto found = eclipses(firstServed, endServed);
   auto rows = tableRows("eclipses.txt");
   ASSERT_EQ(found.size(), rows.size());
   ErrorSummary times("greatest moments", " s", 4.0), gammas("gamma", "", 0.0002),
@@ -149,7 +149,7 @@ TEST(Eclipses, DoNotDependOnTheIntervalAskedFor) {
 
 TEST(Eclipses, OfOneSeriesComeAfter223Lunations) {
   std::map<std::pair<Body, int>, Instant> last;
-  for (const Eclipse& eclipse : eclipses(first, end)) {
+  for (const Eclipse& eclipse : eclipses(firstServed, endServed)) {
     const auto [former, isFirst] = last.try_emplace({eclipse.body, eclipse.saros}, eclipse.maximum);
     if (!isFirst) {
       EXPECT_NEAR((eclipse.maximum - former->second).count() / 86400, 6585.32, 0.1)
@@ -161,16 +161,16 @@ TEST(Eclipses, OfOneSeriesComeAfter223Lunations) {
 }
 
 TEST(Eclipses, AreEmptyForWhatIsNoIntervalOfTheYearsCovered) {
-  const double infinity = std::numeric_limits<double>::infinity();
-  for (const double bad : {std::nan(""), infinity, -infinity}) {
+  for (const double bad : {nan, infinity, -infinity}) {
     const Instant instant = instantFromUnixSeconds(bad);
-    EXPECT_TRUE(eclipses(instant, end).empty());
-    EXPECT_TRUE(eclipses(first, instant).empty());
+    EXPECT_TRUE(eclipses(instant, endServed).empty());
+    EXPECT_TRUE(eclipses(firstServed, instant).empty());
   }
-  EXPECT_TRUE(eclipses(end, first).empty());
-  EXPECT_TRUE(eclipses(utc(1850, 1, 1), first).empty());
-  EXPECT_TRUE(eclipses(end, utc(2150, 1, 1)).empty());
-  EXPECT_EQ(eclipses(instantFromUnixSeconds(-1e300), instantFromUnixSeconds(1e300)), eclipses(first, end));
+  EXPECT_TRUE(eclipses(endServed, firstServed).empty());
+  EXPECT_TRUE(eclipses(utc(1850, 1, 1), firstServed).empty());
+  EXPECT_TRUE(eclipses(endServed, utc(2150, 1, 1)).empty());
+  EXPECT_EQ(eclipses(instantFromUnixSeconds(-1e300), instantFromUnixSeconds(1e300)),
+            eclipses(firstServed, endServed));
 }
 
 }  // namespace

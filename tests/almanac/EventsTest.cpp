@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tests/almanac/AlmanacTesting.h>
+#include <tests/support/NotFinite.h>
 #include <velmora/almanac/Events.h>
 #include <velmora/almanac/Positions.h>
 
@@ -14,14 +16,13 @@ namespace velmora::almanac {
 namespace {
 
 using namespace std::chrono;
+using namespace velmora::testing;
 
-constexpr Place london{51.508333, -0.125278}, anchorage{61.2181, -149.9003}, tromso{69.6492, 18.9553};
+constexpr Place anchorage{61.2181, -149.9003}, tromso{69.6492, 18.9553};
 constexpr Place apia{-13.8333, -171.7667}, northPole{90, 0}, southPole{-90, 0};
 
-TimeZone zone(const char* name) { return *TimeZone::named(name); }
-
 std::optional<Day> dayOf(const Place& place, const char* zoneName, year_month_day date) {
-  return day(place, zone(zoneName), date);
+  return day(place, zoneNamed(zoneName), date);
 }
 
 int count(const Day& day, Body body, EventKind kind) {
@@ -59,7 +60,8 @@ TEST(AlmanacDay, LondonIsDarkFor102MinutesOn18May2024) {
 }
 
 TEST(AlmanacDay, AnchorageHasNoDayOf2025WithTheSunUpAllDay) {
-  const auto year = days(anchorage, zone("America/Anchorage"), 2025y / January / 1, 2025y / December / 31);
+  const auto year =
+      days(anchorage, zoneNamed("America/Anchorage"), 2025y / January / 1, 2025y / December / 31);
   ASSERT_EQ(year.size(), 365U);
   for (const Day& day : year) EXPECT_EQ(day.sun, AllDay::no);
 }
@@ -77,7 +79,7 @@ TEST(AlmanacDay, TromsoHasPolarDayAndPolarNight) {
 
 TEST(AlmanacDay, OnEachPoleTheSunRisesOnceAYear) {
   for (const Place& pole : {northPole, southPole}) {
-    const auto year = days(pole, zone("UTC"), 2024y / January / 1, 2024y / December / 31);
+    const auto year = days(pole, zoneNamed("UTC"), 2024y / January / 1, 2024y / December / 31);
     int rises = 0, sets = 0;
     for (const Day& day : year) {
       rises += count(day, Body::sun, EventKind::rise);
@@ -103,7 +105,7 @@ TEST(AlmanacDay, OfClockChangesIsAsLongAsTheClocksMakeIt) {
 }
 
 TEST(AlmanacDay, OfTheShortestTimeThereIsIsWhollyDayOrNight) {
-  constexpr double never = std::numeric_limits<double>::infinity();
+  constexpr double never = infinity;
   const auto after = [](Instant at) {
     return instantFromUnixSeconds(std::nextafter(unixSeconds(at), never));
   };
@@ -127,13 +129,13 @@ TEST(AlmanacDay, OfTheShortestTimeThereIsIsWhollyDayOrNight) {
 
 TEST(AlmanacDay, IsNoneWhereApiaSkippedIt) {
   EXPECT_EQ(dayOf(apia, "Pacific/Apia", 2011y / December / 30), std::nullopt);
-  const auto around = days(apia, zone("Pacific/Apia"), 2011y / December / 28, 2012y / January / 2);
+  const auto around = days(apia, zoneNamed("Pacific/Apia"), 2011y / December / 28, 2012y / January / 2);
   ASSERT_EQ(around.size(), 5U);
   EXPECT_EQ(around[1].end, around[2].start);
 }
 
 TEST(AlmanacDay, IsTheSameAloneInAYearAndInAGrid) {
-  const auto year = days(tromso, zone("Europe/Oslo"), 2023y / January / 1, 2023y / December / 31);
+  const auto year = days(tromso, zoneNamed("Europe/Oslo"), 2023y / January / 1, 2023y / December / 31);
   for (std::size_t k = 0; k < year.size(); k += 13) {
     EXPECT_EQ(day(tromso, year[k].start, year[k].end), year[k]);
     std::vector<Day> seen;
@@ -155,7 +157,7 @@ TEST(AlmanacDay, NeedsNoPathsBeyondItsEnds) {
 }
 
 TEST(AlmanacDay, OfAYearHoldsTheEventsOfItsDays) {
-  const auto single = days(london, zone("UTC"), 2024y / January / 1, 2024y / December / 31);
+  const auto single = days(london, zoneNamed("UTC"), 2024y / January / 1, 2024y / December / 31);
   std::vector<Event> events;
   Seconds daylight{}, darkness{};
   for (const Day& day : single) {
@@ -214,8 +216,6 @@ TEST(AlmanacDay, FollowsTheConvention) {
 }
 
 TEST(AlmanacDay, IsNoneForWhatIsNotValid) {
-  constexpr double nan = std::numeric_limits<double>::quiet_NaN();
-  constexpr double infinity = std::numeric_limits<double>::infinity();
   const Instant start = sys_days(2024y / March / 20), end = start + hours(24);
   for (const double bad : {nan, infinity, -infinity}) {
     EXPECT_FALSE(day({bad, 0}, start, end));
@@ -240,8 +240,8 @@ TEST(AlmanacDay, IsNoneOutsideItsYears) {
   EXPECT_TRUE(dayOf(london, "UTC", 2100y / December / 31));
   EXPECT_FALSE(dayOf(london, "UTC", 1899y / December / 31));
   EXPECT_FALSE(dayOf(london, "UTC", 2101y / January / 1));
-  EXPECT_TRUE(days(london, zone("UTC"), 2100y / December / 30, 2101y / January / 1).empty());
-  EXPECT_TRUE(days(london, zone("UTC"), year::min() / 1 / 1, year::max() / 12 / 31).empty());
+  EXPECT_TRUE(days(london, zoneNamed("UTC"), 2100y / December / 30, 2101y / January / 1).empty());
+  EXPECT_TRUE(days(london, zoneNamed("UTC"), year::min() / 1 / 1, year::max() / 12 / 31).empty());
   EXPECT_TRUE(day(london, ephemeris::firstInstant(), ephemeris::endInstant()));
 }
 

@@ -8,16 +8,16 @@
 #include <map>
 #include <string>
 
+#include <tests/almanac/AlmanacTesting.h>
 #include <tests/almanac/EclipseTesting.h>
 #include <tests/support/ErrorSummary.h>
+#include <tests/support/NotFinite.h>
 #include <tests/support/Tables.h>
 
 namespace velmora::almanac {
 namespace {
 
 using namespace velmora::testing;
-
-const Instant first = ephemeris::firstInstant(), end = ephemeris::endInstant();
 
 /// The rows of the table with one of the kinds, in time order.
 std::vector<TableRow> rowsOf(std::initializer_list<std::string> kinds) {
@@ -40,7 +40,7 @@ TEST(Phases, OfTwoCenturiesAreThoseOfThePreciseEphemeris) {
                                                       {"first", PrincipalPhase::firstQuarter},
                                                       {"full", PrincipalPhase::fullMoon},
                                                       {"last", PrincipalPhase::lastQuarter}};
-  const auto found = phases(first, end);
+  const auto found = phases(firstServed, endServed);
   ErrorSummary errors("phases of 1900 to 2100", " s", 4.0);
   ASSERT_EQ(found.size(), rows.size());
   for (std::size_t i = 0; i < rows.size(); ++i) {
@@ -79,7 +79,7 @@ TEST(Phases, DoNotDependOnTheIntervalAskedFor) {
 
 TEST(Apsides, OfTwoCenturiesAreThoseOfThePreciseEphemeris) {
   auto rows = rowsOf({"perigee", "apogee"});
-  const auto found = apsides(first, end);
+  const auto found = apsides(firstServed, endServed);
   ErrorSummary times("apsides of 1900 to 2100", " s", 120), distances("their distances", " km", 5);
   ASSERT_EQ(found.size(), rows.size());
   for (std::size_t i = 0; i < rows.size(); ++i) {
@@ -113,7 +113,7 @@ TEST(Seasons, OfTwoCenturiesAreThoseOfThePreciseEphemeris) {
                                                {"june", Season::juneSolstice},
                                                {"september", Season::septemberEquinox},
                                                {"december", Season::decemberSolstice}};
-  const auto found = seasons(first, end);
+  const auto found = seasons(firstServed, endServed);
   ErrorSummary errors("seasons of 1900 to 2100", " s", 15);
   ASSERT_EQ(found.size(), rows.size());
   for (std::size_t i = 0; i < rows.size(); ++i) {
@@ -134,16 +134,16 @@ TEST(Seasons, FallInTheMinutesThatWerePublished) {
 }
 
 TEST(PhasesAndApsidesAndSeasons, AreEmptyForWhatIsNoIntervalOfTheYearsCovered) {
-  const double infinity = std::numeric_limits<double>::infinity();
-  for (const double bad : {std::nan(""), infinity, -infinity}) {
+  for (const double bad : {nan, infinity, -infinity}) {
     const Instant instant = instantFromUnixSeconds(bad);
-    EXPECT_TRUE(phases(instant, end).empty() && phases(first, instant).empty());
-    EXPECT_TRUE(apsides(instant, end).empty() && apsides(first, instant).empty());
-    EXPECT_TRUE(seasons(instant, end).empty() && seasons(first, instant).empty());
+    EXPECT_TRUE(phases(instant, endServed).empty() && phases(firstServed, instant).empty());
+    EXPECT_TRUE(apsides(instant, endServed).empty() && apsides(firstServed, instant).empty());
+    EXPECT_TRUE(seasons(instant, endServed).empty() && seasons(firstServed, instant).empty());
   }
-  for (const auto& [from, to] : {std::pair(end, first), std::pair(first, first),
-                                 std::pair(utc(1850, 1, 1), first), std::pair(end, utc(2150, 1, 1)),
-                                 std::pair(instantFromUnixSeconds(-1e300), instantFromUnixSeconds(-1e299))}) {
+  for (const auto& [from, to] :
+       {std::pair(endServed, firstServed), std::pair(firstServed, firstServed),
+        std::pair(utc(1850, 1, 1), firstServed), std::pair(endServed, utc(2150, 1, 1)),
+        std::pair(instantFromUnixSeconds(-1e300), instantFromUnixSeconds(-1e299))}) {
     EXPECT_TRUE(phases(from, to).empty());
     EXPECT_TRUE(apsides(from, to).empty());
     EXPECT_TRUE(seasons(from, to).empty());
@@ -152,9 +152,9 @@ TEST(PhasesAndApsidesAndSeasons, AreEmptyForWhatIsNoIntervalOfTheYearsCovered) {
 
 TEST(PhasesAndApsidesAndSeasons, AreCutToTheYearsCovered) {
   const Instant before = instantFromUnixSeconds(-1e300), after = instantFromUnixSeconds(1e300);
-  EXPECT_EQ(phases(before, after), phases(first, end));
-  EXPECT_EQ(apsides(before, after), apsides(first, end));
-  EXPECT_EQ(seasons(before, after), seasons(first, end));
+  EXPECT_EQ(phases(before, after), phases(firstServed, endServed));
+  EXPECT_EQ(apsides(before, after), apsides(firstServed, endServed));
+  EXPECT_EQ(seasons(before, after), seasons(firstServed, endServed));
 }
 
 }  // namespace

@@ -1,14 +1,13 @@
 #include <velmora/almanac/Place.h>
 
-#include <limits>
-
 #include <gtest/gtest.h>
+
+#include <tests/support/NotFinite.h>
 
 namespace velmora::almanac {
 namespace {
 
-constexpr double nan = std::numeric_limits<double>::quiet_NaN();
-constexpr double infinity = std::numeric_limits<double>::infinity();
+using namespace velmora::testing;
 
 TEST(AlmanacPlace, IsValidUpToThePolesAndTheDateLine) {
   EXPECT_TRUE(isValid({}));

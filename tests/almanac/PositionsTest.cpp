@@ -7,14 +7,16 @@
 
 #include <gtest/gtest.h>
 
+#include <tests/almanac/AlmanacTesting.h>
+#include <tests/support/NotFinite.h>
+
 namespace velmora::almanac {
 namespace {
 
 using namespace std::chrono;
+using namespace velmora::testing;
 
-constexpr double nan = std::numeric_limits<double>::quiet_NaN();
-constexpr double infinity = std::numeric_limits<double>::infinity();
-constexpr Place london{51.508333, -0.125278}, sydney{-33.8688, 151.2093};
+constexpr Place sydney{-33.8688, 151.2093};
 constexpr Instant equinox = sys_days(2024y / March / 20);
 
 TEST(Position, IsRefractedNearTheHorizonAlone) {

@@ -102,7 +102,7 @@ std::size_t compareHours(const Spot& spot, Body body, const std::vector<Day>& da
   return samples.size();
 }
 
-class SampledSky : public testing::TestWithParam<Spot> {};
+class SampledSky : public ::testing::TestWithParam<Spot> {};
 
 TEST_P(SampledSky, NoHourOf2000To2040ContradictsTheEventsOfItsDay) {
   const Spot& spot = GetParam();
@@ -119,7 +119,7 @@ TEST_P(SampledSky, NoHourOf2000To2040ContradictsTheEventsOfItsDay) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Places, SampledSky, testing::ValuesIn(spots));
+INSTANTIATE_TEST_SUITE_P(Places, SampledSky, ::testing::ValuesIn(spots));
 
 }  // namespace
 }  // namespace velmora::almanac

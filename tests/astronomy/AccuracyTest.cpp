@@ -64,15 +64,15 @@ TEST(Accuracy, OfRiseAndSetOnEveryDayOf2024) {
   EXPECT_LE(moon.rms(), 0.6);
 }
 
-using Direction = std::array<double, 3>;
+using UnitVector = std::array<double, 3>;
 
-Direction directionOf(double altitude, double azimuth) {
+UnitVector directionOf(double altitude, double azimuth) {
   const double h = altitude * pi / 180, a = azimuth * pi / 180;
   return {std::cos(h) * std::cos(a), std::cos(h) * std::sin(a), std::sin(h)};
 }
 
 /// The angle between two directions in degrees, precise for small ones.
-double separation(const Direction& a, const Direction& b) {
+double separation(const UnitVector& a, const UnitVector& b) {
   const double chord = std::hypot(a[0] - b[0], a[1] - b[1], a[2] - b[2]);
   return 2 * std::asin(chord / 2) * 180 / pi;
 }

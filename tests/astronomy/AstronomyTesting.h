@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <string>
 
+#include <tests/support/NotFinite.h>
 #include <tests/support/PlainNumbers.h>
 #include <tests/support/Tables.h>
 #include <velmora/foundation/GeoLocationData.h>
@@ -14,6 +15,10 @@
 namespace velmora::testing {
 
 constexpr double pi = 3.14159265358979323846;
+constexpr double degree = pi / 180;
+
+/// Julian centuries since 2000 January 1, 12h.
+inline double centuries(double mjd) { return (mjd - 51544.5) / 36525; }
 
 /// Sets the clock form of texts for as long as it lives, then puts the former one back.
 class ScopedTimeFormat {

@@ -14,8 +14,6 @@ namespace {
 using namespace testing;
 using Calc = RiseAndSetCalc;
 
-constexpr double degree = 0.017453292519943295;
-
 Instant instantOf(const std::string& text) {  // 2024-03-20T01:17
   std::istringstream in(text);
   std::int64_t year = 0, month = 0, day = 0, hour = 0, minute = 0;
@@ -253,8 +251,6 @@ TEST(ElevationEvents, TakeA25thSampleWhereTheDoublesSaySo) {
 }
 
 TEST(ElevationEvents, OfNumbersOfNoPlaceOrTimeAreDefined) {
-  const double infinity = std::numeric_limits<double>::infinity();
-  const double nan = std::numeric_limits<double>::quiet_NaN();
   constexpr auto farthest = std::numeric_limits<std::int64_t>::max();
   for (const double number : {nan, infinity, -infinity, 1e300}) {
     const Instant date = instantFromUnixSeconds(number);

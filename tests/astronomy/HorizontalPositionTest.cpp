@@ -15,10 +15,7 @@ namespace {
 using namespace testing;
 using Calc = RiseAndSetCalc;
 
-constexpr double degree = pi / 180;
 constexpr double positionTolerance = 1e-7;  // degrees
-const double nan = std::numeric_limits<double>::quiet_NaN();
-const double infinity = std::numeric_limits<double>::infinity();
 
 /// Date and hour of a Modified Julian Date of universal time.
 struct UniversalTime {

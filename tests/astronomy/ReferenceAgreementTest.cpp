@@ -36,8 +36,6 @@ class Draw {
   std::mt19937_64 _generator{2025};
 };
 
-double centuries(double mjd) { return (mjd - 51544.5) / 36525; }
-
 double angleBetween(double degrees, double others) {
   return std::abs(std::remainder(degrees - others, 360)) * radiansPerDegree;
 }
@@ -154,15 +152,17 @@ TEST(ReferenceAgreement, SteppedHoursWithinTheRoundingOfTheTimesOfSingleHours) {
   EXPECT_LT(largestDifferenceOfAnHour<HourlySun>(2), 2e-10);
 }
 
-struct Place {
+struct PlaceAtOffset {
   const char* name;
   double latitude, longitude;
   std::int64_t offset;
 
-  friend std::ostream& operator<<(std::ostream& stream, const Place& place) { return stream << place.name; }
+  friend std::ostream& operator<<(std::ostream& stream, const PlaceAtOffset& place) {
+    return stream << place.name;
+  }
 };
 
-class EveryDayByReference : public ::testing::TestWithParam<Place> {};
+class EveryDayByReference : public ::testing::TestWithParam<PlaceAtOffset> {};
 
 TEST_P(EveryDayByReference, HasTheSameTextsAndMinutes) {
   const ScopedTimeFormat format(clock24);
@@ -191,17 +191,22 @@ TEST_P(EveryDayByReference, HasTheSameTextsAndMinutes) {
 INSTANTIATE_TEST_SUITE_P(
     Places, EveryDayByReference,
     ::testing::Values(
-        Place{"NorthPole", 90, 0, 0}, Place{"Alert", 82.5018, -62.3481, -18000},
-        Place{"Longyearbyen", 78.2232, 15.6267, 3600}, Place{"Utqiagvik", 71.2906, -156.7886, -32400},
-        Place{"Tromso", 69.6492, 18.9553, 3600}, Place{"Rovaniemi", 66.5039, 25.7294, 7200},
-        Place{"Reykjavik", 64.1466, -21.9426, 0}, Place{"Helsinki", 60.1699, 24.9384, 7200},
-        Place{"London", 51.5074, -0.1278, 0}, Place{"SanFrancisco", 37.78549082, -122.39184303, -28800},
-        Place{"Kathmandu", 27.7172, 85.324, 20700}, Place{"Honolulu", 21.3069, -157.8583, -36000},
-        Place{"Singapore", 1.3521, 103.8198, 28800}, Place{"Quito", -0.1807, -78.4678, -18000},
-        Place{"Apia", -13.8333, -171.75, 46800}, Place{"Sydney", -33.8688, 151.2093, 36000},
-        Place{"LordHowe", -31.5556, 159.0779, 37800}, Place{"Chatham", -43.95, -176.56, 45900},
-        Place{"Ushuaia", -54.8019, -68.303, -10800}, Place{"Rothera", -67.5681, -68.1258, -10800},
-        Place{"Troll", -72.0114, 2.535, 0}, Place{"SouthPole", -90, 0, 43200}),
+        PlaceAtOffset{"NorthPole", 90, 0, 0}, PlaceAtOffset{"Alert", 82.5018, -62.3481, -18000},
+        PlaceAtOffset{"Longyearbyen", 78.2232, 15.6267, 3600},
+        PlaceAtOffset{"Utqiagvik", 71.2906, -156.7886, -32400},
+        PlaceAtOffset{"Tromso", 69.6492, 18.9553, 3600}, PlaceAtOffset{"Rovaniemi", 66.5039, 25.7294, 7200},
+        PlaceAtOffset{"Reykjavik", 64.1466, -21.9426, 0}, PlaceAtOffset{"Helsinki", 60.1699, 24.9384, 7200},
+        PlaceAtOffset{"London", 51.5074, -0.1278, 0},
+        PlaceAtOffset{"SanFrancisco", 37.78549082, -122.39184303, -28800},
+        PlaceAtOffset{"Kathmandu", 27.7172, 85.324, 20700},
+        PlaceAtOffset{"Honolulu", 21.3069, -157.8583, -36000},
+        PlaceAtOffset{"Singapore", 1.3521, 103.8198, 28800},
+        PlaceAtOffset{"Quito", -0.1807, -78.4678, -18000}, PlaceAtOffset{"Apia", -13.8333, -171.75, 46800},
+        PlaceAtOffset{"Sydney", -33.8688, 151.2093, 36000},
+        PlaceAtOffset{"LordHowe", -31.5556, 159.0779, 37800},
+        PlaceAtOffset{"Chatham", -43.95, -176.56, 45900}, PlaceAtOffset{"Ushuaia", -54.8019, -68.303, -10800},
+        PlaceAtOffset{"Rothera", -67.5681, -68.1258, -10800}, PlaceAtOffset{"Troll", -72.0114, 2.535, 0},
+        PlaceAtOffset{"SouthPole", -90, 0, 43200}),
     [](const auto& instance) { return std::string(instance.param.name); });
 
 }  // namespace

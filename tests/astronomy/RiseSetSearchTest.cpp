@@ -348,8 +348,6 @@ TEST(RiseSetSearch, KathmanduQuarterHour) {
 }
 
 TEST(RiseSetSearch, NumbersOfNoPlaceOrTimeGiveNoEvents) {
-  const double nan = std::numeric_limits<double>::quiet_NaN();
-  const double infinity = std::numeric_limits<double>::infinity();
   for (const double number : {nan, infinity, -infinity, 1e300}) {
     for (const auto& place : {placeAt(number, 0), placeAt(0, number)}) {
       const RiseSetData record = Calc::Compute(instantFromUnixSeconds(number), place, 0, civil);

@@ -13,8 +13,6 @@ namespace {
 using namespace testing;
 using Calc = RiseAndSetCalc;
 
-double centuries(double mjd) { return (mjd - 51544.5) / 36525; }
-
 void expectCoordinates(const EquatorialCoordinates& computed, TableRow& row) {
   double declination = 0, rightAscension = 0;
   ASSERT_TRUE(row.fields >> declination >> rightAscension) << row.where;

@@ -15,8 +15,6 @@ namespace {
 using namespace testing;
 using Calc = RiseAndSetCalc;
 
-constexpr double infinity = std::numeric_limits<double>::infinity();
-constexpr double nan = std::numeric_limits<double>::quiet_NaN();
 constexpr auto farthest64 = std::numeric_limits<std::int64_t>::max();
 
 TEST(ModifiedJulianDate, OfKnownDates) {

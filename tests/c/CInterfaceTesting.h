@@ -1,18 +1,16 @@
 #pragma once
 
-#include <limits>
 #include <string>
 
 #include <gtest/gtest.h>
 
+#include <tests/support/NotFinite.h>
 #include <velmora/c/velmora.h>
 
 namespace velmora::testing {
 
 constexpr velmora_place helsinki = {60.17, 24.94, 0.0};
 constexpr velmora_place tromso = {69.65, 18.96, 0.0};
-constexpr double nan = std::numeric_limits<double>::quiet_NaN();
-constexpr double infinity = std::numeric_limits<double>::infinity();
 
 /// A zone that is open as long as it lives.
 class OpenZone {

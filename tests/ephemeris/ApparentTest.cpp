@@ -11,8 +11,6 @@
 namespace velmora::ephemeris {
 namespace {
 
-constexpr auto bodies = {Body::sun, Body::moon};
-
 bool isNone(const Apparent& place) {
   return std::isnan(place.rightAscension) && std::isnan(place.declination) && std::isnan(place.longitude) &&
          std::isnan(place.latitude) && std::isnan(place.distance);

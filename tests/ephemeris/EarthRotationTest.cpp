@@ -11,8 +11,8 @@ namespace {
 
 using namespace std::chrono;
 
-constexpr double hour = std::numbers::pi / 12;
-constexpr double second = hour / 3600;
+constexpr double hourAngle = std::numbers::pi / 12;
+constexpr double secondAngle = hourAngle / 3600;
 
 TEST(MeanSiderealTime, IsThatOfTheExamplesOfMeeus) {
   // Astronomical Algorithms, examples 12.a and 12.b, in UT1. The book's formula is that of 1982, which is
@@ -21,22 +21,23 @@ TEST(MeanSiderealTime, IsThatOfTheExamplesOfMeeus) {
     return meanSiderealTime(rotation - Seconds(universalMinusCoordinated(rotation)));
   };
   const Instant midnight = sys_days(1987y / April / 10);
-  EXPECT_NEAR(at(midnight) / second, 13 * 3600 + 10 * 60 + 46.3668, 0.005);
-  EXPECT_NEAR(at(midnight + 19h + 21min) / second, 8 * 3600 + 34 * 60 + 57.0896, 0.005);
+  EXPECT_NEAR(at(midnight) / secondAngle, 13 * 3600 + 10 * 60 + 46.3668, 0.005);
+  EXPECT_NEAR(at(midnight + 19h + 21min) / secondAngle, 8 * 3600 + 34 * 60 + 57.0896, 0.005);
 }
 
 TEST(MeanSiderealTime, GainsThreeMinutesAndFiftySixSecondsADay) {
   for (const Instant instant : anyInstants(2000, 9)) {
     if (!covers(instant + days(1))) continue;
     const double gained =
-        std::remainder(meanSiderealTime(instant + days(1)) - meanSiderealTime(instant), 24 * hour);
-    EXPECT_NEAR(gained / second, 236.555, 1.01) << unixSeconds(instant);  // a leap second may lie between
+        std::remainder(meanSiderealTime(instant + days(1)) - meanSiderealTime(instant), 24 * hourAngle);
+    EXPECT_NEAR(gained / secondAngle, 236.555, 1.01)
+        << unixSeconds(instant);  // a leap second may lie between
   }
 }
 
 TEST(MeanSiderealTime, LiesWithinATurn) {
   for (const Instant instant : anyInstants(20000, 10)) {
-    EXPECT_TRUE(0 <= meanSiderealTime(instant) && meanSiderealTime(instant) < 24 * hour);
+    EXPECT_TRUE(0 <= meanSiderealTime(instant) && meanSiderealTime(instant) < 24 * hourAngle);
   }
 }
 

@@ -12,8 +12,7 @@
 namespace velmora::ephemeris {
 namespace {
 
-constexpr auto bodies = {Body::sun, Body::moon};
-constexpr Seconds day(86400), year(365.25 * 86400);
+constexpr Seconds oneDay(86400), year(365.25 * 86400);
 
 Instant inJune2024() { return instantFromUnixSeconds(1718452800); }
 
@@ -42,7 +41,7 @@ TEST(Paths, NeverDependOnWhatWasAsked) {
   for (int hour = 0; hour < 400; ++hour) {
     const Instant instant = inJune2024() + hour * Seconds(3600);
     const Paths moment = *Paths::over(instant, instant);
-    const Paths days = *Paths::over(instant - day / 3, instant + day / 5);
+    const Paths days = *Paths::over(instant - oneDay / 3, instant + oneDay / 5);
     for (const Body body : bodies) {
       EXPECT_EQ(moment.vector(body, instant), decades.vector(body, instant));
       EXPECT_EQ(days.vector(body, instant), decades.vector(body, instant));
@@ -51,7 +50,7 @@ TEST(Paths, NeverDependOnWhatWasAsked) {
 }
 
 TEST(Paths, JoinWithoutAGap) {
-  const Paths paths = *Paths::over(inJune2024(), inJune2024() + 40 * day);
+  const Paths paths = *Paths::over(inJune2024(), inJune2024() + 40 * oneDay);
   const Seconds moment(0.001);
   for (const Body body : bodies) {
     const double first = std::ceil(segmentsAt(body, terrestrialSeconds(paths.from())));
@@ -64,9 +63,9 @@ TEST(Paths, JoinWithoutAGap) {
 }
 
 TEST(Paths, KnowWhichIntervalTheyAreOf) {
-  const Paths paths = *Paths::over(inJune2024(), inJune2024() + day);
+  const Paths paths = *Paths::over(inJune2024(), inJune2024() + oneDay);
   EXPECT_EQ(paths.from(), inJune2024());
-  EXPECT_EQ(paths.to(), inJune2024() + day);
+  EXPECT_EQ(paths.to(), inJune2024() + oneDay);
 }
 
 TEST(Paths, AreNoneOutsideTheYearsCovered) {

@@ -10,7 +10,7 @@ namespace {
 
 /// The texts are those of a process in the United States' English whose default zone is Los Angeles, unless
 /// a test says otherwise.
-class DateHelperTest : public testing::Test {
+class DateHelperTest : public ::testing::Test {
  protected:
   static Instant local(std::int64_t year, std::int64_t month, std::int64_t day, std::int64_t hour = 0,
                        std::int64_t minute = 0, std::int64_t second = 0) {

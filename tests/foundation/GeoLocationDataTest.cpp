@@ -4,16 +4,15 @@
 
 #include <stdexcept>
 
+#include <tests/support/Instants.h>
 #include <velmora/platform/time/Clock.h>
 
 namespace velmora {
 namespace {
 
-constexpr std::int64_t hour = 3600;
+using testing::utc;
 
-Instant utc(std::int64_t year, std::int64_t month, std::int64_t day, std::int64_t hourOfDay = 0) {
-  return Calendar(TimeZone::fixed(0)).date({.year = year, .month = month, .day = day, .hour = hourOfDay});
-}
+constexpr std::int64_t hour = 3600;
 
 const Instant january = utc(2024, 1, 15, 12);
 const Instant july = utc(2024, 7, 15, 12);

@@ -7,7 +7,7 @@ namespace {
 
 using Names = std::vector<std::string>;
 
-class VelmoraCalendarNames : public testing::Test {
+class VelmoraCalendarNames : public ::testing::Test {
  protected:
   VelmoraCalendarNames() { VelmoraCalendar::resetSymbols(); }
   ~VelmoraCalendarNames() override { VelmoraCalendar::resetSymbols(); }

@@ -8,7 +8,7 @@ namespace {
 
 using Pictures = std::vector<std::int32_t>;
 
-class ImageCalendar : public testing::Test {
+class ImageCalendar : public ::testing::Test {
  protected:
   static MoonPhaseCalc::ImageCalendar calendarOf(const YearTable& table, std::int64_t month,
                                                  std::int64_t year,
@@ -183,7 +183,7 @@ TEST_F(ImageCalendar, TheSumsAreFused) {
 }
 
 /// The rules that hold in every month from 2000 to 2040.
-class EveryMonth : public ImageCalendar, public testing::WithParamInterface<const char*> {};
+class EveryMonth : public ImageCalendar, public ::testing::WithParamInterface<const char*> {};
 
 TEST_P(EveryMonth, HasAPictureOfTheLunationForEachDay) {
   const GeoLocationData place = placeInZone(GetParam());
@@ -204,8 +204,8 @@ TEST_P(EveryMonth, HasAPictureOfTheLunationForEachDay) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Zones, EveryMonth,
-                         testing::Values("UTC", "Pacific/Pago_Pago", "Pacific/Kiritimati",
-                                         "America/Los_Angeles"));
+                         ::testing::Values("UTC", "Pacific/Pago_Pago", "Pacific/Kiritimati",
+                                           "America/Los_Angeles"));
 
 }  // namespace
 }  // namespace velmora

@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::int64_t hour = 3600;
 
-class MonthEvents : public testing::Test {
+class MonthEvents : public ::testing::Test {
  protected:
   /// The events of a month of a table, as "day code time", in the order of the list.
   static std::vector<std::string> listed(const YearTable& table, std::int64_t year, std::int64_t month,

@@ -9,7 +9,7 @@
 namespace velmora {
 namespace {
 
-class PhaseCalendar : public testing::Test {
+class PhaseCalendar : public ::testing::Test {
  protected:
   static MoonPhaseCalc::PhaseCalendar calendarOf(const YearTable& table, std::int64_t month,
                                                  std::int64_t year,
@@ -219,7 +219,7 @@ TEST_F(PhaseCalendar, TheDateAskedForDoesNotChangeTheMonth) {
 }
 
 /// The rules that hold on every day from 2000 to 2040, in zones from one end of the day to the other.
-class EveryDay : public PhaseCalendar, public testing::WithParamInterface<const char*> {
+class EveryDay : public PhaseCalendar, public ::testing::WithParamInterface<const char*> {
  protected:
   /// Calls `check(calendar)` for every month.
   template <typename Check>
@@ -265,9 +265,9 @@ TEST_P(EveryDay, CountsTheAgeOnFromDayToDayAndFromOneOnANewMoon) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Zones, EveryDay,
-                         testing::Values("UTC", "Pacific/Pago_Pago", "Pacific/Kiritimati",
-                                         "America/Los_Angeles", "Europe/Helsinki", "Asia/Kathmandu",
-                                         "Australia/Lord_Howe"));
+                         ::testing::Values("UTC", "Pacific/Pago_Pago", "Pacific/Kiritimati",
+                                           "America/Los_Angeles", "Europe/Helsinki", "Asia/Kathmandu",
+                                           "Australia/Lord_Howe"));
 
 }  // namespace
 }  // namespace velmora

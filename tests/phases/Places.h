@@ -3,11 +3,14 @@
 #include <cstdint>
 #include <string>
 
+#include <tests/support/Instants.h>
 #include <velmora/foundation/GeoLocationData.h>
 #include <velmora/phases/MoonPhaseCalc.h>
 
 /// Places, tables and instants as the tests of the phase calendar give them.
 namespace velmora {
+
+using testing::utc;
 
 inline GeoLocationData placeInZone(const std::string& zone) {
   GeoLocationData place;
@@ -19,12 +22,6 @@ inline GeoLocationData placeAtOffset(std::int64_t secondsFromGMT) {
   GeoLocationData place;
   place.SetLocation(0, 0, "fixed", std::nullopt, secondsFromGMT, true);
   return place;
-}
-
-inline Instant utc(std::int64_t year, std::int64_t month, std::int64_t day, std::int64_t hour = 0,
-                   std::int64_t minute = 0) {
-  return Calendar(TimeZone::fixed(0))
-      .date({.year = year, .month = month, .day = day, .hour = hour, .minute = minute});
 }
 
 /// The library's own table of the year.

@@ -21,15 +21,11 @@ using std::chrono::year;
 using std::chrono::year_month;
 using std::chrono::year_month_day;
 using testing::contains;
+using testing::overlap;
 
 constexpr std::chrono::year_month may{year(2026), std::chrono::May};
 
 /// Room for the rounding of sums.
-bool overlap(const Rect& a, const Rect& b) {
-  const Rect common = a.intersection(b);
-  return common.width > 1e-9 && common.height > 1e-9;
-}
-
 void expectApart(const std::vector<Rect>& rooms, const Rect& within) {
   for (std::size_t i = 0; i < rooms.size(); ++i) {
     EXPECT_TRUE(contains(within, rooms[i])) << i;

@@ -13,7 +13,7 @@ namespace velmora {
 namespace {
 
 constexpr Point center = {30, 40};
-constexpr double radius = 10;
+constexpr double discRadius = 10;
 
 /// The outline by many points.
 std::vector<Point> outline(const Path& path) {
@@ -58,8 +58,8 @@ Area areaOf(const Path& path) {
 TEST(MoonShape, HasTheLitPartOfTheDiscForItsArea) {
   for (const double fraction : {0.02, 0.1, 0.25, 0.5, 0.75, 0.9, 1.0}) {
     for (const double direction : {0.0, 1.0, -2.5}) {
-      const double share =
-          areaOf(litPart(center, radius, {fraction, direction})).size / (std::numbers::pi * radius * radius);
+      const double share = areaOf(litPart(center, discRadius, {fraction, direction})).size /
+                           (std::numbers::pi * discRadius * discRadius);
       EXPECT_NEAR(share, fraction, 0.001) << fraction << " from " << direction;
     }
   }
@@ -68,13 +68,13 @@ TEST(MoonShape, HasTheLitPartOfTheDiscForItsArea) {
 TEST(MoonShape, LiesTowardsTheLight) {
   const double quarter = std::numbers::pi / 2;
   const auto offset = [](double direction) {
-    return areaOf(litPart(center, radius, {0.3, direction})).middle - center;
+    return areaOf(litPart(center, discRadius, {0.3, direction})).middle - center;
   };
-  EXPECT_LT(offset(0).y, -radius / 2) << "lit from above";
+  EXPECT_LT(offset(0).y, -discRadius / 2) << "lit from above";
   EXPECT_NEAR(offset(0).x, 0, 1e-6);
-  EXPECT_GT(offset(quarter).x, radius / 2) << "lit from the right";
-  EXPECT_GT(offset(2 * quarter).y, radius / 2) << "lit from below";
-  EXPECT_LT(offset(-quarter).x, -radius / 2) << "lit from the left";
+  EXPECT_GT(offset(quarter).x, discRadius / 2) << "lit from the right";
+  EXPECT_GT(offset(2 * quarter).y, discRadius / 2) << "lit from below";
+  EXPECT_LT(offset(-quarter).x, -discRadius / 2) << "lit from the left";
 }
 
 // The tilt is counted against the clock from straight up, so that a Moon lit from its upper left has one of
@@ -83,7 +83,7 @@ TEST(MoonShape, HangsAsTheAlmanacSays) {
   almanac::Illumination moon;
   moon.fraction = 0.3;
   moon.tilt = 45;
-  const Point offset = areaOf(litPart(center, radius, tilted(moon))).middle - center;
+  const Point offset = areaOf(litPart(center, discRadius, tilted(moon))).middle - center;
   EXPECT_LT(offset.x, 0);
   EXPECT_LT(offset.y, 0);
   EXPECT_NEAR(offset.x, offset.y, 1e-3);
@@ -94,7 +94,7 @@ TEST(MoonShape, IsUprightAsCalendarsOfTheHemisphereShowIt) {
   moon.fraction = 0.3;
   const auto side = [&](bool isWaxing, bool isSouthern) {
     moon.isWaxing = isWaxing;
-    return areaOf(litPart(center, radius, upright(moon, isSouthern))).middle.x - center.x;
+    return areaOf(litPart(center, discRadius, upright(moon, isSouthern))).middle.x - center.x;
   };
   EXPECT_GT(side(true, false), 0);
   EXPECT_LT(side(false, false), 0);
@@ -106,7 +106,7 @@ TEST(MoonShape, IsNeverMirroredWithTheSheet) {
   const auto drawn = [](bool isRightToLeft, Point at) {
     testing::RecordingCanvas canvas;
     Sheet sheet(canvas, {100, 100}, Palette::of(PaperTheme::dark), isRightToLeft);
-    drawMoon(sheet, at, radius, {0.3, 1.0});
+    drawMoon(sheet, at, discRadius, {0.3, 1.0});
     return canvas.lines();
   };
   EXPECT_EQ(drawn(true, {30, 40}), drawn(false, {70, 40}));

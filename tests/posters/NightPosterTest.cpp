@@ -15,7 +15,7 @@ using std::chrono::year;
 using testing::expectReadable;
 using testing::labelsOf;
 
-std::vector<std::string> textsOf(const Poster& poster) {
+std::vector<std::string> textsAcross(const Poster& poster) {
   std::vector<std::string> texts;
   for (const Label& label : labelsOf(poster, paperSize(Paper::a4, true))) texts.push_back(label.text);
   return texts;
@@ -35,7 +35,7 @@ std::vector<Daypart> partsOf(const PosterPlace& place, std::chrono::year_month_d
 // Sun and Moon of that night as printed by the almanac's events.
 TEST(NightPoster, TellsTheTimesOfTheNight) {
   const ScopedLocale german("de_DE");
-  const auto texts = textsOf(NightPoster(testing::helsinki(), year(2026) / 11 / 22));
+  const auto texts = textsAcross(NightPoster(testing::helsinki(), year(2026) / 11 / 22));
   EXPECT_TRUE(has(texts, "Sonntag, 22. November 2026"));
   EXPECT_TRUE(has(texts, "Helsinki"));
   EXPECT_TRUE(has(texts, "15:36"));

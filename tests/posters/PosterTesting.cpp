@@ -38,6 +38,11 @@ std::vector<Label> labelsOf(const Poster& poster, Size size) {
   return sheet.labels();
 }
 
+bool overlap(const Rect& a, const Rect& b) {
+  const Rect common = a.intersection(b);
+  return common.width > 1e-9 && common.height > 1e-9;
+}
+
 bool contains(const Rect& outer, const Rect& inner) {
   constexpr double rounding = 1e-6;
   return inner.minX() >= outer.minX() - rounding && inner.maxX() <= outer.maxX() + rounding &&

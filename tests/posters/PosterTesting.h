@@ -26,6 +26,9 @@ std::vector<Label> labelsOf(const Poster& poster, Size size);
 /// had to be set smaller than the share of its size.
 void expectReadable(const std::vector<Label>& labels, Size size, double leastShare, const std::string& where);
 
+/// Whether they have more in common than a line.
+bool overlap(const Rect& a, const Rect& b);
+
 /// Whether the one holds the other.
 bool contains(const Rect& outer, const Rect& inner);
 

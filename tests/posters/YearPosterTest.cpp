@@ -16,6 +16,7 @@ namespace {
 
 using std::chrono::year;
 using testing::contains;
+using testing::overlap;
 
 std::vector<Rect> outsideGrid(const YearLayout& layout) {
   std::vector<Rect> rooms = {layout.caption, layout.title, layout.place, layout.note, layout.grid};
@@ -25,11 +26,6 @@ std::vector<Rect> outsideGrid(const YearLayout& layout) {
 }
 
 /// Room for the rounding of sums.
-bool overlap(const Rect& a, const Rect& b) {
-  const Rect common = a.intersection(b);
-  return common.width > 1e-9 && common.height > 1e-9;
-}
-
 TEST(YearLayout, KeepsItsRoomsApartAndOffTheEdges) {
   for (const Size size : {Size{595, 842}, Size{842, 595}, Size{612, 792}, Size{2592, 1728}}) {
     for (const DayAlignment alignment : {DayAlignment::date, DayAlignment::weekday}) {

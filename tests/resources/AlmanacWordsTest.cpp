@@ -14,9 +14,7 @@
 namespace velmora {
 namespace {
 
-const std::filesystem::path library = sourceDirectory() + "/velmora/resources";
-
-Texts wordsOf(const std::string& language) { return textsOf(library, language, "Almanac"); }
+Texts wordsOf(const std::string& language) { return textsOf(libraryFolder(), language, "Almanac"); }
 
 bool isPluralForm(const std::string& key) { return key.ends_with(']'); }
 

@@ -19,7 +19,7 @@ int drawnInRow(const Image& image, int row, int firstColumn) {
   return drawn;
 }
 
-class RiseAndSetIcons : public testing::TestWithParam<const char*> {};
+class RiseAndSetIcons : public ::testing::TestWithParam<const char*> {};
 
 TEST_P(RiseAndSetIcons, AreLightShapesOverAHorizonOnTransparency) {
   const auto image = icon(GetParam());
@@ -32,7 +32,7 @@ TEST_P(RiseAndSetIcons, AreLightShapesOverAHorizonOnTransparency) {
   EXPECT_EQ(drawnInRow(*image, iconSize - 3, 0), 0);
 }
 
-INSTANTIATE_TEST_SUITE_P(All, RiseAndSetIcons, testing::Values("moonrise", "moonset", "sunrise", "sunset"),
+INSTANTIATE_TEST_SUITE_P(All, RiseAndSetIcons, ::testing::Values("moonrise", "moonset", "sunrise", "sunset"),
                          [](const auto& test) { return std::string(test.param); });
 
 /// Whether an arrow's head is at its upper end, told by the wider half between two rows.

@@ -4,6 +4,7 @@
 
 #include <optional>
 
+#include <tests/support/SourceDirectory.h>
 #include <velmora/platform/resources/PropertyList.h>
 
 namespace velmora {
@@ -15,6 +16,8 @@ const std::map<std::string, Script> kLanguages = {
     {"ru", Script::cyrillic},     {"ar", Script::arabic},      {"he", Script::hebrew},
     {"hi", Script::devanagari},   {"ja", Script::japanese},    {"ko", Script::korean},
     {"zh-Hans", Script::chinese}, {"zh-Hant", Script::chinese}};
+
+std::filesystem::path libraryFolder() { return sourceDirectory() + "/velmora/resources"; }
 
 Texts textsOf(const std::filesystem::path& bundle, const std::string& language, const std::string& table) {
   const std::filesystem::path file = bundle / (language + ".lproj") / (table + ".strings");

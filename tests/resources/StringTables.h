@@ -15,6 +15,9 @@ using Texts = std::map<std::string, std::string>;
 /// The languages of the string tables and the script each is written in.
 extern const std::map<std::string, Script> kLanguages;
 
+/// The bundle of the tree.
+std::filesystem::path libraryFolder();
+
 /// The texts that a bundle ships in a language.
 Texts textsOf(const std::filesystem::path& bundle, const std::string& language,
               const std::string& table = "Localizable");

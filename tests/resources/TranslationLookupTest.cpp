@@ -11,11 +11,10 @@
 namespace velmora {
 namespace {
 
-const std::filesystem::path libraryFolder = sourceDirectory() + "/velmora/resources";
 const std::filesystem::path hostFolder = sourceDirectory() + "/app/resources";
 
 std::string libraryText(const std::string& key, const std::string& locale) {
-  const ScopedLibraryBundle shipped(libraryFolder);
+  const ScopedLibraryBundle shipped(libraryFolder());
   const ScopedLocale scoped(locale);
   return Bundle::library().localizedString(key);
 }

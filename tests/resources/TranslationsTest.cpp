@@ -16,7 +16,6 @@
 namespace velmora {
 namespace {
 
-const std::filesystem::path libraryFolder = sourceDirectory() + "/velmora/resources";
 const std::filesystem::path host = sourceDirectory() + "/app/resources";
 
 const std::set<std::string> phaseNames = {"Full Moon",      "First Quarter",   "Last Quarter",
@@ -55,7 +54,7 @@ std::set<std::string> languagesIn(const std::filesystem::path& bundle) {
 /// Calls check(language, key, text) for every text of both bundles.
 template <class Check>
 void forEachText(const Check& check) {
-  for (const std::filesystem::path& bundle : {libraryFolder, host}) {
+  for (const std::filesystem::path& bundle : {libraryFolder(), host}) {
     for (const auto& [language, script] : kLanguages) {
       for (const auto& [key, text] : textsOf(bundle, language)) {
         SCOPED_TRACE(language + ": " + key + ": " + text);
@@ -72,13 +71,13 @@ bool hasAnyOf(const std::string& text, std::u32string_view characters) {
 TEST(Translations, BothBundlesSpeakTheSameLanguages) {
   std::set<std::string> languages;
   for (const auto& [language, script] : kLanguages) languages.insert(language);
-  EXPECT_EQ(languagesIn(libraryFolder), languages);
+  EXPECT_EQ(languagesIn(libraryFolder()), languages);
   EXPECT_EQ(languagesIn(host), languages);
 }
 
 TEST(Translations, EveryLanguageIsComplete) {
   for (const auto& [language, script] : kLanguages) {
-    EXPECT_EQ(keysOf(textsOf(libraryFolder, language)), libraryKeys) << language;
+    EXPECT_EQ(keysOf(textsOf(libraryFolder(), language)), libraryKeys) << language;
     EXPECT_EQ(keysOf(textsOf(host, language)), phaseNames) << language;
   }
 }
@@ -131,13 +130,13 @@ TEST(Translations, UpperCaseTextsAreInUpperCaseInEveryLanguage) {
 }
 
 TEST(Translations, TurkishCapitalIKeepsItsDot) {
-  EXPECT_EQ(textsOf(libraryFolder, "tr")["NEW MOON"], "YENİ AY");
+  EXPECT_EQ(textsOf(libraryFolder(), "tr")["NEW MOON"], "YENİ AY");
   EXPECT_EQ(textsOf(host, "tr")["First Quarter"], "İlk Dördün");
 }
 
 TEST(Translations, NoTwoPhasesEclipsesSpokenTextsAndDirectionsAreTheSame) {
   for (const auto& [language, script] : kLanguages) {
-    const Texts texts = textsOf(libraryFolder, language);
+    const Texts texts = textsOf(libraryFolder(), language);
     std::set<std::string> names;
     for (const std::string& key : united({phaseNames, eclipseTitles, spokenTexts, directions})) {
       EXPECT_TRUE(names.insert(texts.at(key)).second) << language << ": " << texts.at(key);
@@ -147,14 +146,14 @@ TEST(Translations, NoTwoPhasesEclipsesSpokenTextsAndDirectionsAreTheSame) {
 
 TEST(Translations, TheHostNamesThePhasesAsTheLibraryDoes) {
   for (const auto& [language, script] : kLanguages) {
-    const Texts library = textsOf(libraryFolder, language);
+    const Texts library = textsOf(libraryFolder(), language);
     for (const auto& [name, text] : textsOf(host, language)) EXPECT_EQ(text, library.at(name)) << language;
   }
 }
 
 TEST(Translations, TheYearTitlesNameTheirPhase) {
   for (const auto& [language, script] : kLanguages) {
-    Texts texts = textsOf(libraryFolder, language);
+    Texts texts = textsOf(libraryFolder(), language);
     for (const std::string phase : {"Full Moon", "New Moon"}) {
       EXPECT_EQ(texts[phase + " - Year Calendar (%@)"].find(texts[phase]), 0U) << language;
     }
@@ -163,7 +162,7 @@ TEST(Translations, TheYearTitlesNameTheirPhase) {
 
 TEST(Translations, APhaseItsTimeAndTheWordBetweenReadAsOneLine) {
   const auto line = [](const std::string& language, const std::string& time) {
-    Texts texts = textsOf(libraryFolder, language);
+    Texts texts = textsOf(libraryFolder(), language);
     return texts["FULL MOON"] + " " + texts["at"] + " " + time;
   };
   EXPECT_EQ(line("en", "5:30 PM"), "FULL MOON at 5:30 PM");

@@ -5,7 +5,7 @@ namespace velmora {
 namespace {
 
 /// Walks the selection through the years of the tables and checks after each step what always holds.
-class EveryDayFrom2000To2040 : public ServiceTest, public testing::WithParamInterface<const char*> {
+class EveryDayFrom2000To2040 : public ServiceTest, public ::testing::WithParamInterface<const char*> {
  protected:
   void SetUp() override {
     MoonPhaseData::resetSharedInstance();
@@ -103,8 +103,8 @@ TEST_P(EveryDayFrom2000To2040, KeepsTheServiceInStepInWideStridesBackToo) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Zones, EveryDayFrom2000To2040,
-                         testing::Values("UTC", "America/Los_Angeles", "Asia/Kathmandu", "Pacific/Apia",
-                                         "Pacific/Chatham"));
+                         ::testing::Values("UTC", "America/Los_Angeles", "Asia/Kathmandu", "Pacific/Apia",
+                                           "Pacific/Chatham"));
 
 }  // namespace
 }  // namespace velmora

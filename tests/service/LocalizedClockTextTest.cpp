@@ -5,7 +5,7 @@ namespace velmora {
 namespace {
 
 // The short style of English puts a narrow no-break space (U+202F) in front of AM and PM.
-class LocalizedClockText : public testing::Test {
+class LocalizedClockText : public ::testing::Test {
  protected:
   const ScopedLocale _locale{"en_US"};
   const ScopedDefaultTimeZone _zone{"Asia/Kathmandu"};

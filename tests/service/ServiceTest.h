@@ -56,7 +56,7 @@ struct OwnResources {
 };
 
 /// Starts each test with a fresh shared instance in an American UTC process with 12-hour texts.
-class ServiceTest : public testing::Test {
+class ServiceTest : public ::testing::Test {
  protected:
   ServiceTest() {
     SettingsModel::sharedInstance().setTimeFormat(0);

@@ -7,19 +7,12 @@
 
 #include <velmora/platform/ui/Device.h>
 
-#include "tests/support/RecordingCanvas.h"
+#include "tests/views/DrawnView.h"
 
 namespace velmora {
 namespace {
 
-using testing::RecordingCanvas;
-
-std::string drawn(View& view) {
-  RecordingCanvas canvas;
-  view.render(canvas);
-  EXPECT_TRUE(canvas.isBalanced());
-  return canvas.text();
-}
+using testing::drawn;
 
 class CompassViewTest : public ::testing::Test {
  protected:

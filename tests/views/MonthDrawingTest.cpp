@@ -1,6 +1,7 @@
 #include <tuple>
 
 #include "tests/support/RecordedDrawing.h"
+#include "tests/views/DrawnView.h"
 #include "tests/views/MonthViewTesting.h"
 
 namespace velmora {
@@ -8,6 +9,7 @@ namespace {
 
 using testing::drawsAsRecorded;
 using testing::honolulu;
+using testing::mirroredDevice;
 using testing::MonthViewTest;
 using testing::placeAt;
 using testing::RecordingCanvas;
@@ -16,8 +18,6 @@ using Lines = std::vector<std::string>;
 
 constexpr const char* light = "#CCCCCCFF";
 constexpr const char* selectedColor = "#E3C796FF";
-
-const Device rightToLeft{.forcedDirection = LayoutDirection::rightToLeft};
 
 class MonthDrawingTest : public MonthViewTest {
  protected:
@@ -40,7 +40,7 @@ class MonthInFullTest : public MonthViewTest {
 TEST_F(MonthInFullTest, OnAPhone) { EXPECT_TRUE(drawsAsRecorded(draw(), "month-phone")); }
 
 TEST_F(MonthInFullTest, OnAPhoneFromRightToLeft) {
-  const ScopedDevice mirrored(rightToLeft);
+  const ScopedDevice mirrored(mirroredDevice);
   EXPECT_TRUE(drawsAsRecorded(draw(), "month-phone-rtl"));
 }
 
@@ -51,7 +51,7 @@ TEST_F(MonthInFullTest, OnATablet) {
 
 TEST_F(MonthInFullTest, OnATabletFromRightToLeft) {
   useTablet();
-  const ScopedDevice mirrored(rightToLeft);
+  const ScopedDevice mirrored(mirroredDevice);
   EXPECT_TRUE(drawsAsRecorded(draw(), "month-tablet-rtl"));
 }
 
@@ -79,7 +79,7 @@ TEST_F(MonthDrawingTest, TheNamesStartOnTheWeekStartDay) {
 }
 
 TEST_F(MonthDrawingTest, FromRightToLeftTheNamesAreMirroredAndTheBandIsNot) {
-  const ScopedDevice mirrored(rightToLeft);
+  const ScopedDevice mirrored(mirroredDevice);
   const Lines lines = draw().lines();
   EXPECT_EQ(lines[1], "fill roundedRect 6 4 373 32 corners 3 radii 4 0");
   EXPECT_EQ(lines[2], "drawText \"Sun\" at 347.75 13 AvenirNext medium 13 #CCCCCCFF");

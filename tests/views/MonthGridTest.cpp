@@ -185,7 +185,7 @@ TEST(MonthDayCellTest, OnATabletASmallDiscHasAMarkerOfHalfItsSize) {
 }
 
 TEST(MonthDayCellTest, FromRightToLeftDiscLabelAndFrameChangeSides) {
-  const ScopedDevice rightToLeft(Device{.forcedDirection = LayoutDirection::rightToLeft});
+  const ScopedDevice mirrored(testing::mirroredDevice);
   const Rect view = {0, 0, 389, 450};
   const MonthDayCell cell = MonthDayCell(shortFebruary(), 9, labelHeight, false).mirroredIn(view);
   EXPECT_EQ(cell.disc, (Rect{389 - 59 - 45, 167.5, 45, 45}));

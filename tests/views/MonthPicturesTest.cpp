@@ -14,8 +14,8 @@ using testing::MonthViewTest;
 using testing::placeAt;
 using testing::utc;
 
-constexpr Size phone = {390, 600};
-constexpr Size wide = {768, 650};  // where a label holds two numbers
+constexpr Size phoneSize = {390, 600};
+constexpr Size wideSize = {768, 650};  // where a label holds two numbers
 
 /// Months drawn with the installed fonts on the calendar theme's background.
 class MonthPicturesTest : public MonthViewTest {
@@ -35,7 +35,7 @@ class MonthPicturesTest : public MonthViewTest {
 TEST_F(MonthPicturesTest, OnAPhone) {
   const ScopedNow today(utc(2024, 6, 14));
   select(utc(2024, 6, 20));
-  CairoCanvas picture = pictureOf(phone);
+  CairoCanvas picture = pictureOf(phoneSize);
   EXPECT_TRUE(looksLikeGolden(picture, "month-phone"));
 }
 
@@ -44,7 +44,7 @@ TEST_F(MonthPicturesTest, InArabicWithTheIslamicCalendar) {
   view = std::make_shared<iPhoneCalendarView>();
   view->setAlternateCalendarType(kIslamicUmmAlQuraCalendar);
   select(utc(2026, 2, 14));
-  CairoCanvas picture = pictureOf(wide);
+  CairoCanvas picture = pictureOf(wideSize);
   EXPECT_TRUE(looksLikeGolden(picture, "month-arabic"));
 }
 
@@ -53,27 +53,27 @@ TEST_F(MonthPicturesTest, InHebrewWithTheHebrewCalendar) {
   view = std::make_shared<iPhoneCalendarView>();
   view->setAlternateCalendarType(kHebrewCalendar);
   select(utc(2026, 2, 14));
-  CairoCanvas picture = pictureOf(wide);
+  CairoCanvas picture = pictureOf(wideSize);
   EXPECT_TRUE(looksLikeGolden(picture, "month-hebrew"));
 }
 
 TEST_F(MonthPicturesTest, SouthOfTheEquatorInWeeksFromMonday) {
   view->setWeekStartDay(1);
   select(utc(2024, 6, 14), placeAt(-33.9));
-  CairoCanvas picture = pictureOf(phone);
+  CairoCanvas picture = pictureOf(phoneSize);
   EXPECT_TRUE(looksLikeGolden(picture, "month-south"));
 }
 
 TEST_F(MonthPicturesTest, WithEclipses) {
   const ScopedNow today(utc(2000, 7, 16, 23));
   select(utc(2000, 7, 16, 23), honolulu());
-  CairoCanvas picture = pictureOf(phone);
+  CairoCanvas picture = pictureOf(phoneSize);
   EXPECT_TRUE(looksLikeGolden(picture, "month-eclipses"));
 }
 
 TEST_F(MonthPicturesTest, VectorPicturesHoldNoImages) {
   select(utc(2026, 2, 14));
-  CairoCanvas picture = pictureOf(phone, PictureFormat::svg);
+  CairoCanvas picture = pictureOf(phoneSize, PictureFormat::svg);
   std::ostringstream svg;
   ASSERT_EQ(picture.write(svg), std::nullopt);
   EXPECT_NE(svg.str().find("<path"), std::string::npos);

@@ -6,19 +6,12 @@
 #include <string>
 #include <utility>
 
-#include "tests/support/RecordingCanvas.h"
+#include "tests/views/DrawnView.h"
 
 namespace velmora {
 namespace {
 
-using testing::RecordingCanvas;
-
-std::string drawn(View& view) {
-  RecordingCanvas canvas;
-  view.render(canvas);
-  EXPECT_TRUE(canvas.isBalanced());
-  return canvas.text();
-}
+using testing::drawn;
 
 void expectNear(Point actual, Point expected) {
   EXPECT_NEAR(actual.x, expected.x, 1e-4);

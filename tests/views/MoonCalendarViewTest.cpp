@@ -17,19 +17,17 @@
 #include "tests/support/FixedTextEngine.h"
 #include "tests/support/GoldenPicture.h"
 #include "tests/support/RecordingCanvas.h"
+#include "tests/views/MonthViewTesting.h"
 
 namespace velmora {
 namespace {
 
 using testing::FixedTextEngine;
 using testing::RecordingCanvas;
+using testing::utc;
 
 constexpr const char* white = "#FFFFFFFF";
 constexpr const char* yellow = "#FFFF00FF";
-
-Instant utc(std::int64_t year, std::int64_t month, std::int64_t day, std::int64_t hour = 12) {
-  return Calendar(TimeZone::fixed(0)).date({.year = year, .month = month, .day = day, .hour = hour});
-}
 
 std::shared_ptr<GeoLocationData> greenwich() {
   auto place = std::make_shared<GeoLocationData>();

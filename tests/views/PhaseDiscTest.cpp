@@ -27,7 +27,7 @@ PhaseItem day(std::int64_t phase, float fullFactor) {
   return item;
 }
 
-std::string drawn(const PhaseItem& item, bool isSouthern) {
+std::string operationsOf(const PhaseItem& item, bool isSouthern) {
   RecordingCanvas canvas;
   disc.draw(canvas, item, isSouthern, dark);
   EXPECT_TRUE(canvas.isBalanced());
@@ -171,14 +171,14 @@ class RecordedPhaseDisc : public ::testing::TestWithParam<RecordedDisc> {};
 
 TEST_P(RecordedPhaseDisc, IsDrawnByTheseOperations) {
   const RecordedDisc& row = GetParam();
-  EXPECT_EQ(drawn(day(row.phase, row.fullFactor), row.isSouthern), row.operations);
+  EXPECT_EQ(operationsOf(day(row.phase, row.fullFactor), row.isSouthern), row.operations);
 }
 
 INSTANTIATE_TEST_SUITE_P(EveryPhase, RecordedPhaseDisc, ::testing::ValuesIn(recordedDiscs),
                          [](const auto& row) { return std::string(row.param.name); });
 
 TEST(PhaseDiscTest, AnUnlitWaxingCrescentIsDarkAllOver) {
-  EXPECT_EQ(drawn(day(kWaxingCrescent, 0.0F), false),
+  EXPECT_EQ(operationsOf(day(kWaxingCrescent, 0.0F), false),
             "save\n"
             "setLineWidth 2\n"
             "clip ellipse 10 20 40 40\n"
@@ -194,7 +194,7 @@ TEST(PhaseDiscTest, AnUnlitWaxingCrescentIsDarkAllOver) {
 }
 
 TEST(PhaseDiscTest, AHalfLitGibbousMoonHasAnEllipseWithoutWidth) {
-  EXPECT_EQ(drawn(day(kWaxingGibbous, 0.5F), false),
+  EXPECT_EQ(operationsOf(day(kWaxingGibbous, 0.5F), false),
             "save\n"
             "setLineWidth 2\n"
             "clip ellipse 10 20 40 40\n"
@@ -204,7 +204,7 @@ TEST(PhaseDiscTest, AHalfLitGibbousMoonHasAnEllipseWithoutWidth) {
 }
 
 TEST(PhaseDiscTest, AGibbousMoonBelowHalfLitHasAnEllipseOfNegativeWidth) {
-  EXPECT_EQ(drawn(day(kWaningGibbous, 0.25F), false),
+  EXPECT_EQ(operationsOf(day(kWaningGibbous, 0.25F), false),
             "save\n"
             "setLineWidth 2\n"
             "clip ellipse 10 20 40 40\n"
@@ -215,20 +215,20 @@ TEST(PhaseDiscTest, AGibbousMoonBelowHalfLitHasAnEllipseOfNegativeWidth) {
 
 TEST(PhaseDiscTest, APhaseOutsideTheNumbersDrawsNothing) {
   for (const std::int64_t phase : {-2, -1, 8, 9, 100}) {
-    EXPECT_EQ(drawn(day(phase, 0.5F), false), "") << phase;
-    EXPECT_EQ(drawn(day(phase, 0.5F), true), "") << phase;
+    EXPECT_EQ(operationsOf(day(phase, 0.5F), false), "") << phase;
+    EXPECT_EQ(operationsOf(day(phase, 0.5F), true), "") << phase;
   }
 }
 
 TEST(PhaseDiscTest, TheHemisphereDoesNotMatterToFullAndNewMoon) {
   for (const std::int64_t phase : {kFullMoon, kNewMoon}) {
-    EXPECT_EQ(drawn(day(phase, 0.5F), false), drawn(day(phase, 0.5F), true)) << phase;
+    EXPECT_EQ(operationsOf(day(phase, 0.5F), false), operationsOf(day(phase, 0.5F), true)) << phase;
   }
 }
 
 TEST(PhaseDiscTest, TheLitFractionDoesNotMatterToPrincipalPhases) {
   for (const std::int64_t phase : {kFullMoon, kFirstQuarter, kLastQuarter, kNewMoon}) {
-    EXPECT_EQ(drawn(day(phase, 0.0F), false), drawn(day(phase, 1.0F), false)) << phase;
+    EXPECT_EQ(operationsOf(day(phase, 0.0F), false), operationsOf(day(phase, 1.0F), false)) << phase;
   }
 }
 

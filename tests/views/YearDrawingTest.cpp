@@ -1,10 +1,12 @@
 #include "tests/support/RecordedDrawing.h"
+#include "tests/views/DrawnView.h"
 #include "tests/views/YearViewTesting.h"
 
 namespace velmora {
 namespace {
 
 using testing::drawsAsRecorded;
+using testing::mirroredDevice;
 using testing::placeAt;
 using testing::RecordingCanvas;
 using testing::utc;
@@ -13,8 +15,6 @@ using Lines = std::vector<std::string>;
 
 constexpr const char* plain = "#B3B3B3FF";
 constexpr const char* highlighted = "#E3C796FF";
-
-const Device rightToLeft{.forcedDirection = LayoutDirection::rightToLeft};
 
 // Full moons of 2018 in Greenwich: January and March have two, February has none. On a phone of 390 points
 // cells are 53 3/7 points wide and columns 53.
@@ -34,7 +34,7 @@ class YearInFullTest : public YearViewTest {
 TEST_F(YearInFullTest, OnAPhone) { EXPECT_TRUE(drawsAsRecorded(draw(), "year-phone")); }
 
 TEST_F(YearInFullTest, OnAPhoneFromRightToLeft) {
-  const ScopedDevice mirrored(rightToLeft);
+  const ScopedDevice mirrored(mirroredDevice);
   EXPECT_TRUE(drawsAsRecorded(draw(), "year-phone-rtl"));
 }
 
@@ -45,7 +45,7 @@ TEST_F(YearInFullTest, OnATablet) {
 
 TEST_F(YearInFullTest, OnATabletFromRightToLeft) {
   useTablet();
-  const ScopedDevice mirrored(rightToLeft);
+  const ScopedDevice mirrored(mirroredDevice);
   EXPECT_TRUE(drawsAsRecorded(draw(), "year-tablet-rtl"));
 }
 

@@ -14,8 +14,8 @@ using testing::utc;
 using testing::YearViewTest;
 
 // Rows are then hardly higher than the discs.
-constexpr Size phone = {390, 510};
-constexpr Size wide = {460, 560};  // where every language's dates fit into their columns
+constexpr Size phoneSize = {390, 510};
+constexpr Size wideSize = {460, 560};  // where every language's dates fit into their columns
 
 /// Years drawn with the installed fonts on the calendar theme's background.
 class YearPicturesTest : public YearViewTest {
@@ -34,7 +34,7 @@ class YearPicturesTest : public YearViewTest {
 
 TEST_F(YearPicturesTest, FullMoonsWithTheSecondOneOfMaySelected) {
   show(utc(2026, 5, 31));
-  CairoCanvas picture = pictureOf(phone);
+  CairoCanvas picture = pictureOf(phoneSize);
   EXPECT_TRUE(looksLikeGolden(picture, "year-phone"));
 }
 
@@ -42,7 +42,7 @@ TEST_F(YearPicturesTest, InArabicFromRightToLeft) {
   const ScopedLocale arabic("ar_EG");
   useNewView();
   show(utc(2026, 5, 31), placeAt(30.044, "Africa/Cairo"));
-  CairoCanvas picture = pictureOf(wide);
+  CairoCanvas picture = pictureOf(wideSize);
   EXPECT_TRUE(looksLikeGolden(picture, "year-arabic"));
 }
 
@@ -51,13 +51,13 @@ TEST_F(YearPicturesTest, NewMoonsInJapanese) {
   useNewView();
   year->setFilteredPhase(kNewMoon);
   show(utc(2026, 5, 1), placeAt(35.69, "Asia/Tokyo"));
-  CairoCanvas picture = pictureOf(phone);
+  CairoCanvas picture = pictureOf(phoneSize);
   EXPECT_TRUE(looksLikeGolden(picture, "year-japanese"));
 }
 
 TEST_F(YearPicturesTest, VectorPicturesHoldNoImages) {
   show(utc(2026, 5, 31));
-  CairoCanvas picture = pictureOf(phone, PictureFormat::svg);
+  CairoCanvas picture = pictureOf(phoneSize, PictureFormat::svg);
   std::ostringstream svg;
   ASSERT_EQ(picture.write(svg), std::nullopt);
   EXPECT_NE(svg.str().find("<path"), std::string::npos);
@@ -84,10 +84,10 @@ TEST_F(YearPicturesTest, EveryLanguagesCharactersHaveGlyphsAndRoom) {
     startAfresh();
     useNewView();
     show(utc(2026, 5, 31));
-    pictureOf(wide);
+    pictureOf(wideSize);
     EXPECT_TRUE(drawn("clip").empty()) << "a text is cut in " << language;
     year->clearSelection();
-    pictureOf(wide);
+    pictureOf(wideSize);
     EXPECT_TRUE(drawn("clip").empty()) << "a text is cut in " << language;
   }
 }

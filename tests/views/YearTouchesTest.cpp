@@ -57,7 +57,7 @@ TEST_F(YearTouchesTest, AFingerThatLiftsAsksForDrawing) {
 }
 
 TEST_F(YearTouchesTest, FromRightToLeftSundayIsOnTheRight) {
-  const ScopedDevice rightToLeft(Device{.forcedDirection = LayoutDirection::rightToLeft});
+  const ScopedDevice mirrored(testing::mirroredDevice);
   tap({366 - 33, 130});
   EXPECT_EQ(selectedDate(), "2/1");
   tap({366 - 333, 90});

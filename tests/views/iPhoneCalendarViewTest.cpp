@@ -208,7 +208,7 @@ TEST_F(MonthSelectionTest, EveryDayIsPickedInItsCell) {
 }
 
 TEST_F(MonthSelectionTest, FromRightToLeftTheFirstDayIsPickedOnTheRight) {
-  const ScopedDevice rightToLeft(Device{.forcedDirection = LayoutDirection::rightToLeft});
+  const ScopedDevice mirrored(testing::mirroredDevice);
   tap({389 - 20, 90});
   EXPECT_EQ(service().currentDay(), 1);
   tap({389 - 20 - 53, 190});

@@ -14,8 +14,6 @@
 namespace velmora::web {
 namespace {
 
-MoonPhaseData& service() { return MoonPhaseData::sharedInstance(); }
-
 Date dateOf(const PhaseItem& item) {
   return Date(std::chrono::year(static_cast<int>(item.year)),
               std::chrono::month(static_cast<unsigned>(item.month)),

@@ -16,8 +16,6 @@
 namespace velmora::web {
 namespace {
 
-MoonPhaseData& service() { return MoonPhaseData::sharedInstance(); }
-
 /// The source with a memory for some months: views ask for each of their days in every drawing.
 EclipseSource remembering(EclipseSource source, const Session& session) {
   struct Memory {

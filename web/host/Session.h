@@ -11,10 +11,14 @@
 #include <velmora/foundation/GeoLocationData.h>
 #include <velmora/platform/time/Instant.h>
 #include <velmora/platform/time/TimeZone.h>
+#include <velmora/service/MoonPhaseData.h>
 
 namespace velmora::web {
 
 using Date = std::chrono::year_month_day;
+
+/// The state of the calendars, which all views share.
+inline MoonPhaseData& service() { return MoonPhaseData::sharedInstance(); }
 
 /// What the user has set.
 struct Settings {

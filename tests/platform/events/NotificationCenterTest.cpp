@@ -14,7 +14,7 @@ using Subscription = NotificationCenter::Subscription;
 
 static_assert(!std::is_copy_constructible_v<Subscription> && !std::is_copy_assignable_v<Subscription>);
 
-class NotificationCenterTest : public testing::Test {
+class NotificationCenterTest : public ::testing::Test {
  protected:
   // Subscribes an observer that writes its letter into `told`.
   Subscription writing(char letter, const std::string& name = "moved") {

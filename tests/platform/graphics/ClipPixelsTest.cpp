@@ -10,7 +10,7 @@ namespace {
 
 using testing::Pixels;
 
-constexpr Rect whole = {0, 0, 20, 20};
+constexpr Rect wholePicture = {0, 0, 20, 20};
 
 class ClipPixelsTest : public ::testing::Test {
  protected:
@@ -36,7 +36,7 @@ void runOnStack(std::size_t bytes, std::function<void()> work) {
 TEST_F(ClipPixelsTest, ClipsAddUp) {
   canvas.clip(Path::rect({0, 0, 12, 20}));
   canvas.clip(Path::rect({8, 0, 12, 20}));
-  canvas.fillRect(whole);
+  canvas.fillRect(wholePicture);
   EXPECT_EQ(picture.inkBox(), (Rect{8, 0, 4, 20}));
 }
 
@@ -45,7 +45,7 @@ TEST_F(ClipPixelsTest, ClipsMayBeVeryMany) {
   runOnStack(smallStack, [this] {
     canvas.save();
     for (int i = 0; i < 10'000; ++i) canvas.clip(Path::rect({0, 0, 12, 20}));
-    canvas.fillRect(whole);
+    canvas.fillRect(wholePicture);
     canvas.restore();
   });
   EXPECT_EQ(picture.inkBox(), (Rect{0, 0, 12, 20}));
@@ -53,14 +53,14 @@ TEST_F(ClipPixelsTest, ClipsMayBeVeryMany) {
 
 TEST_F(ClipPixelsTest, AnEmptyClipHidesEverything) {
   canvas.clip(Path());
-  canvas.fillRect(whole);
+  canvas.fillRect(wholePicture);
   EXPECT_EQ(picture.coverage(), 0);
 }
 
 TEST_F(ClipPixelsTest, TheSoftEdgeOfAClipAroundAGroupCountsOnce) {
   canvas.clip(Path::rect({2.5, 0, 10, 20}));
   canvas.beginGroup(0.5);
-  canvas.fillRect(whole);
+  canvas.fillRect(wholePicture);
   canvas.fillEllipse({-20, -20, 60, 60});
   canvas.endGroup();
   EXPECT_EQ(picture.at(2, 10), "#00000040");

@@ -22,15 +22,15 @@ namespace {
 
 using testing::Pixels;
 
-constexpr Size size = {60, 40};
-constexpr double scale = 3;
-constexpr Rect disc = {5.3, 5.7, 20, 20};
+constexpr Size pictureSize = {60, 40};
+constexpr double pixelsPerPoint = 3;
+constexpr Rect discFrame = {5.3, 5.7, 20, 20};
 
 using PictureBytes = std::vector<std::uint8_t>;
 using Drawing = std::function<void(Canvas&)>;
 
 PictureBytes drawn(const Drawing& drawing) {
-  CairoCanvas canvas(PictureFormat::png, size, scale);
+  CairoCanvas canvas(PictureFormat::png, pictureSize, pixelsPerPoint);
   drawing(canvas);
   EXPECT_EQ(canvas.error(), std::nullopt);
   return canvas.pixels();
@@ -62,20 +62,20 @@ void drawText(Canvas& canvas, const std::string& text, const Color& color = Colo
 
 void drawGibbous(Canvas& canvas) {
   canvas.save();
-  canvas.clip(Path::ellipse(disc));
+  canvas.clip(Path::ellipse(discFrame));
   canvas.setFillColor({0.8, 0.8, 0.7, 0.9});
-  Path lit = Path::ellipse({disc.midX() - 4, disc.y, 8, disc.height});
-  lit.addRect({disc.midX(), disc.y, disc.width / 2, disc.height});
+  Path lit = Path::ellipse({discFrame.midX() - 4, discFrame.y, 8, discFrame.height});
+  lit.addRect({discFrame.midX(), discFrame.y, discFrame.width / 2, discFrame.height});
   canvas.fill(lit);
   canvas.setLineWidth(2);
-  canvas.strokeEllipse(disc);
+  canvas.strokeEllipse(discFrame);
   canvas.restore();
 }
 
 void drawCutOut(Canvas& canvas) {
   canvas.fillRect({0, 0, 40, 40});
   canvas.setBlendMode(BlendMode::clear);
-  canvas.fillEllipse(disc);
+  canvas.fillEllipse(discFrame);
   canvas.setBlendMode(BlendMode::normal);
 }
 
@@ -97,60 +97,60 @@ void drawFadedImage(Canvas& canvas, double alpha) {
   canvas.fillRect({0, 0, 20, 40});
   canvas.setAlpha(alpha);
   canvas.setBlendMode(BlendMode::overlay);
-  canvas.drawImage(*image, disc);
+  canvas.drawImage(*image, discFrame);
 }
 
 /// Each looks different from the others.
 const std::vector<std::pair<const char*, Drawing>>& drawings() {
   static const std::vector<std::pair<const char*, Drawing>> all = {
-      {"disc", [](Canvas& canvas) { canvas.fillEllipse(disc); }},
+      {"disc", [](Canvas& canvas) { canvas.fillEllipse(discFrame); }},
       {"coloured disc",
        [](Canvas& canvas) {
          canvas.setFillColor(Color::cyan());
-         canvas.fillEllipse(disc);
+         canvas.fillEllipse(discFrame);
        }},
-      {"wider disc", [](Canvas& canvas) { canvas.fillEllipse(disc.inset(-1, 0)); }},
-      {"ring", [](Canvas& canvas) { canvas.strokeEllipse(disc); }},
+      {"wider disc", [](Canvas& canvas) { canvas.fillEllipse(discFrame.inset(-1, 0)); }},
+      {"ring", [](Canvas& canvas) { canvas.strokeEllipse(discFrame); }},
       {"thick ring",
        [](Canvas& canvas) {
          canvas.setLineWidth(4);
-         canvas.strokeEllipse(disc);
+         canvas.strokeEllipse(discFrame);
        }},
       {"dashed ring",
        [](Canvas& canvas) {
          canvas.setLineDash({3, 2});
-         canvas.strokeEllipse(disc);
+         canvas.strokeEllipse(discFrame);
        }},
       {"dashed ring that begins later",
        [](Canvas& canvas) {
          canvas.setLineDash({3, 2}, 1);
-         canvas.strokeEllipse(disc);
+         canvas.strokeEllipse(discFrame);
        }},
       {"right half",
        [](Canvas& canvas) {
-         canvas.clip(Path::rect({disc.midX(), 0, 60, 40}));
-         canvas.fillEllipse(disc);
+         canvas.clip(Path::rect({discFrame.midX(), 0, 60, 40}));
+         canvas.fillEllipse(discFrame);
        }},
       {"right half, its lower part",
        [](Canvas& canvas) {
-         canvas.clip(Path::rect({disc.midX(), 0, 60, 40}));
+         canvas.clip(Path::rect({discFrame.midX(), 0, 60, 40}));
          canvas.clip(Path::ellipse({0, 18, 60, 40}));
-         canvas.fillEllipse(disc);
+         canvas.fillEllipse(discFrame);
        }},
       {"shifted by part of a pixel",
        [](Canvas& canvas) {
          canvas.translate(0.1, 0);
-         canvas.fillEllipse(disc);
+         canvas.fillEllipse(discFrame);
        }},
       {"scaled",
        [](Canvas& canvas) {
          canvas.scale(1.1, 1);
-         canvas.fillEllipse(disc);
+         canvas.fillEllipse(discFrame);
        }},
       {"turned",
        [](Canvas& canvas) {
          canvas.rotate(0.1);
-         canvas.fill(Path::roundedRect(disc, 4));
+         canvas.fill(Path::roundedRect(discFrame, 4));
        }},
       {"gibbous", drawGibbous},
       {"cut out", drawCutOut},
@@ -187,11 +187,11 @@ const std::vector<std::pair<const char*, Drawing>>& drawings() {
       {"spike", drawSpike},
       {"image", [](Canvas& canvas) { drawFadedImage(canvas, 0.7); }},
       {"fainter image", [](Canvas& canvas) { drawFadedImage(canvas, 0.6); }},
-      {"mirrored image", [](Canvas& canvas) { canvas.drawImage(*halfRed()->mirrored(), disc); }},
+      {"mirrored image", [](Canvas& canvas) { canvas.drawImage(*halfRed()->mirrored(), discFrame); }},
       {"faded group",
        [](Canvas& canvas) {
          canvas.beginGroup(0.4);
-         canvas.fillEllipse(disc);
+         canvas.fillEllipse(discFrame);
          canvas.endGroup();
        }},
   };
@@ -217,7 +217,7 @@ TEST(DrawnAgain, NothingIsTakenForAnother) {
 }
 
 TEST(DrawnAgain, ThePointOfASpikeIsNotCut) {
-  Pixels picture(size, scale);
+  Pixels picture(pictureSize, pixelsPerPoint);
   drawSpike(picture.canvas);
   EXPECT_EQ(picture.at(3 * 30, 3 * 9), "#000000FF");
   EXPECT_EQ(picture.at(3 * 30, 3 * 5), "#00000000");
@@ -265,7 +265,7 @@ TEST(DrawnAgain, AGlyphIsNotTakenForItsNeighbourAtItsPlace) {
 TEST(DrawnAgain, ATextKeepsItsPlaceWithinAPixel) {
   const ScopedLocale english("en_US");
   for (int i = 0; i < 10; ++i) {
-    const double part = i / (10 * scale);
+    const double part = i / (10 * pixelsPerPoint);
     for (const Point topLeft : {Point{10 + part, 10}, {10, 10 + part}}) {
       const Drawing text = [&](Canvas& canvas) { layoutOf("14").drawAtPoint(canvas, topLeft); };
       EXPECT_EQ(drawn(text), drawnAfresh(text)) << topLeft.x << " " << topLeft.y;
@@ -274,7 +274,7 @@ TEST(DrawnAgain, ATextKeepsItsPlaceWithinAPixel) {
 }
 
 TEST(DrawnAgain, AShapeElsewhereByWholePixelsLooksTheSame) {
-  Pixels picture(size, scale);
+  Pixels picture(pictureSize, pixelsPerPoint);
   drawGibbous(picture.canvas);
   picture.canvas.translate(28, 5);
   drawGibbous(picture.canvas);
@@ -300,7 +300,8 @@ TEST(DrawnAgain, FiguresAtOtherPlacesLookTheSameToTheLastBit) {
   };
   for (int i = 0; i < 60; ++i) {
     // Whole pixels apart, 256ths, and finer than Cairo tells apart.
-    const double x = 3.1 + i % 7 * 5 / scale + i / 20 / (scale * 256), y = 2.4 + i % 9 * 2 + i / 30 * 1e-4;
+    const double x = 3.1 + i % 7 * 5 / pixelsPerPoint + i / 20 / (pixelsPerPoint * 256),
+                 y = 2.4 + i % 9 * 2 + i / 30 * 1e-4;
     ASSERT_EQ(drawn(figuresAt(x, y)), drawnAfresh(figuresAt(x, y))) << i;
   }
 }
@@ -312,10 +313,10 @@ TEST(DrawnAgain, AShapeCutByThePicturesEdgeIsWholeElsewhere) {
       canvas.fillEllipse({0, 0, 20, 20});
     };
   };
-  const PictureBytes whole = drawnAfresh(discAt(20));
+  const PictureBytes uncut = drawnAfresh(discAt(20));
   const PictureBytes cut = drawn(discAt(-10));
-  EXPECT_NE(cut, whole);
-  EXPECT_EQ(drawn(discAt(20)), whole);
+  EXPECT_NE(cut, uncut);
+  EXPECT_EQ(drawn(discAt(20)), uncut);
   EXPECT_EQ(drawn(discAt(-10)), cut);
 }
 
@@ -327,7 +328,7 @@ TEST(DrawnAgain, AShapeKeepsItsPlaceWhereTheClipHasParts) {
     canvas.fillEllipse({20, 10, 30, 30});
   };
   EXPECT_EQ(drawn(throughTwoWindows), drawnAfresh(throughTwoWindows));
-  Pixels picture(size, scale);
+  Pixels picture(pictureSize, pixelsPerPoint);
   throughTwoWindows(picture.canvas);
   EXPECT_EQ(picture.at(3 * 35, 3 * 25), "#000000FF");
   EXPECT_EQ(picture.at(3 * 31, 3 * 21), "#000000FF");
@@ -360,7 +361,7 @@ TEST(DrawnAgain, MoreShapesThanAreKeptLookTheSame) {
 
 // A window may keep one canvas for as long as it is open. Sanitizers count no memory here.
 TEST(DrawnAgain, OnOneCanvasTheSameDrawingTakesNoMoreMemory) {
-  CairoCanvas canvas(PictureFormat::png, size, scale);
+  CairoCanvas canvas(PictureFormat::png, pictureSize, pixelsPerPoint);
   const auto bytesInUseAfter = [&](int drawings) {
     for (int i = 0; i < drawings; ++i) {
       canvas.setFillColor(Color::white());

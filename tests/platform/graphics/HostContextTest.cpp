@@ -18,7 +18,7 @@
 namespace velmora {
 namespace {
 
-const Color red = {1, 0, 0, 1};
+const Color redPaint = {1, 0, 0, 1};
 
 /// What a window system hands out: a surface of pixels, several a point on many screens, and a context on it.
 struct Window {
@@ -53,7 +53,7 @@ void drawAll(Canvas& canvas) {
   testing::drawCrescent(canvas, {4, 4, 40, 40}, {0.1, 0.1, 0.2, 1});
   testing::drawCrescent(canvas, {50.3, 4.7, 40, 40}, {0.1, 0.1, 0.2, 0.3});
   canvas.beginGroup(0.5);
-  canvas.setFillColor(red);
+  canvas.setFillColor(redPaint);
   canvas.fillRect({10, 50, 60, 20});
   canvas.clearRect({20, 55, 10, 10});
   canvas.endGroup();
@@ -71,7 +71,7 @@ TEST(HostContext, IsDrawnOnInItsFrame) {
   {
     CairoCanvas canvas(window.context.get(), {40, 25});
     EXPECT_EQ(canvas.size(), (Size{40, 25}));
-    canvas.setFillColor(red);
+    canvas.setFillColor(redPaint);
     canvas.fillRect({1, 2, 3, 4});
   }
   EXPECT_EQ(window.at(12, 9), "#FF0000FF");
@@ -87,7 +87,7 @@ TEST(HostContext, ShowsWhatItHeldWhereSomethingIsCleared) {
   window.paint(0, 0, 1);
   {
     CairoCanvas canvas(window.context.get(), {20, 20});
-    canvas.setFillColor(red);
+    canvas.setFillColor(redPaint);
     canvas.fillRect({0, 0, 20, 20});
     canvas.clearRect({5, 5, 5, 5});
   }

@@ -16,7 +16,7 @@ namespace {
 using testing::holdsImage;
 using testing::written;
 
-constexpr Rect hole = {20, 20, 30, 20};
+constexpr Rect openRoom = {20, 20, 30, 20};
 
 /// What clears along a shape that cannot be filled with what lies below.
 const std::vector<std::pair<const char*, std::function<void(Canvas&)>>>& clearedShapes() {
@@ -25,7 +25,7 @@ const std::vector<std::pair<const char*, std::function<void(Canvas&)>>>& cleared
        [](Canvas& canvas) {
          canvas.strokeLine({10, 10}, {40, 40});
        }},
-      {"a round line", [](Canvas& canvas) { canvas.strokeEllipse(hole); }},
+      {"a round line", [](Canvas& canvas) { canvas.strokeEllipse(openRoom); }},
       {"a text", [](Canvas& canvas) {
          TextLayout(AttributedText("14")).drawAtPoint(canvas, {20, 20});
        }}};
@@ -49,7 +49,7 @@ TEST(VectorPixels, AreMadeOfThePageForAClearedLineOrText) {
 
 void makePixelsOfThePage(Canvas& canvas) {
   canvas.fillRect({0, 0, 100, 50});
-  canvas.clearRect(hole);
+  canvas.clearRect(openRoom);
   canvas.save();  // ends the wait for what covers the hole
   canvas.translate(1, 1);
   canvas.restore();
@@ -107,7 +107,7 @@ TEST(VectorPixels, OfOverlayOrOfAPngAreNoPage) {
     canvas->setBlendMode(BlendMode::overlay);
     canvas->fillEllipse({20, 20, 10, 10});
   }
-  png.clearRect(hole);
+  png.clearRect(openRoom);
   for (CairoCanvas* canvas : {&svg, &png}) {
     written(*canvas);
     EXPECT_FALSE(canvas->becamePixels());

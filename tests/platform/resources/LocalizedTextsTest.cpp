@@ -11,7 +11,7 @@ std::string table(const std::string& key, const std::string& text) {
   return "<plist><dict><key>" + key + "</key><string>" + text + "</string></dict></plist>";
 }
 
-class LocalizedTexts : public testing::Test {
+class LocalizedTexts : public ::testing::Test {
  protected:
   Bundle bundle() const { return Bundle("test", _folder.path()); }
 

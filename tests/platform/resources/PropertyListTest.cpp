@@ -9,7 +9,7 @@
 namespace velmora {
 namespace {
 
-const std::filesystem::path dataFolder = std::filesystem::path(sourceDirectory()) / "tests/data/resources";
+const std::filesystem::path listFolder = std::filesystem::path(sourceDirectory()) / "tests/data/resources";
 
 /// An XML list around the given root.
 std::string xml(const std::string& root) {
@@ -67,8 +67,8 @@ TEST(PropertyList, OfAKeyThatStandsTwiceTheLastValueCounts) {
 }
 
 TEST(PropertyList, ReadsTheBinaryFormAsTheXmlForm) {
-  const auto binary = PropertyList::fromFile(dataFolder / "table-binary.plist");
-  const auto text = PropertyList::fromFile(dataFolder / "table-xml.plist");
+  const auto binary = PropertyList::fromFile(listFolder / "table-binary.plist");
+  const auto text = PropertyList::fromFile(listFolder / "table-xml.plist");
   EXPECT_EQ(described(binary), described(text));
   EXPECT_EQ(
       described(binary),
@@ -91,7 +91,7 @@ TEST(PropertyList, ATextThatIsNotUtf8IsNoText) {
 
 TEST(PropertyList, AFileCutShortAnywhereGivesNone) {
   for (const char* name : {"table-xml.plist", "table-binary.plist"}) {
-    const std::string whole = readFile(dataFolder / name).value();
+    const std::string whole = readFile(listFolder / name).value();
     const std::size_t end = whole.find_last_not_of('\n') + 1;
     for (std::size_t size = 0; size < end; ++size) {
       ASSERT_EQ(read(whole.substr(0, size)), "none") << name << " cut to " << size << " bytes";
@@ -101,7 +101,7 @@ TEST(PropertyList, AFileCutShortAnywhereGivesNone) {
 }
 
 TEST(PropertyList, AnyOneByteChangedInABinaryFileIsReadOrRefused) {
-  const std::string whole = readFile(dataFolder / "table-binary.plist").value();
+  const std::string whole = readFile(listFolder / "table-binary.plist").value();
   int refused = 0;
   for (std::size_t i = 0; i < whole.size(); ++i) {
     for (const char byte : {'\0', '\x01', '\x7F', '\xA1', '\xD1', '\xFF'}) {

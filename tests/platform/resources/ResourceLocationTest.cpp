@@ -11,7 +11,7 @@ namespace {
 
 const char* const variable = "VELMORA_TEST_RESOURCES";
 
-class ResourceLocation : public testing::Test {
+class ResourceLocation : public ::testing::Test {
  protected:
   void TearDown() override { unsetenv(variable); }
 

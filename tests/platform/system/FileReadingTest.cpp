@@ -66,7 +66,7 @@ TEST(FileReading, TellsIllFormedUtf8) {
       "\xF8\x88\x80\x80",  // no lead
       "\xFF",
   };
-  for (const std::string_view text : illFormed) EXPECT_FALSE(isUtf8(text)) << testing::PrintToString(text);
+  for (const std::string_view text : illFormed) EXPECT_FALSE(isUtf8(text)) << ::testing::PrintToString(text);
 }
 
 }  // namespace

@@ -6,18 +6,14 @@
 #include <limits>
 #include <thread>
 
+#include <tests/support/Instants.h>
 #include <velmora/platform/time/Calendar.h>
 
 namespace velmora {
 namespace {
 
+using testing::utc;
 using Style = DateFormatter::Style;
-
-Instant utc(std::int64_t year, std::int64_t month, std::int64_t day, std::int64_t hour = 0,
-            std::int64_t minute = 0) {
-  return Calendar(TimeZone::fixed(0))
-      .date({.year = year, .month = month, .day = day, .hour = hour, .minute = minute});
-}
 
 DateFormatter formatter(const std::string& pattern, const char* locale = "en_US", const char* zone = "GMT") {
   DateFormatter result;

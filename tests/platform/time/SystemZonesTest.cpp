@@ -63,7 +63,7 @@ void exitSayingWhetherTheDefaultZoneIs(const char* expected, const char* variabl
 
 TEST(TimeZoneDeathTest, TheDefaultZoneIsTheSystemsAndGMTWhereThatIsUnknown) {
   GTEST_FLAG_SET(death_test_style, "threadsafe");  // a process of its own, in which nothing has been read yet
-  const auto success = testing::ExitedWithCode(0);
+  const auto success = ::testing::ExitedWithCode(0);
   EXPECT_EXIT(exitSayingWhetherTheDefaultZoneIs("Asia/Tokyo", "Asia/Tokyo"), success, "");
   EXPECT_EXIT(exitSayingWhetherTheDefaultZoneIs("GMT", "nonsense"), success, "");
   EXPECT_EXIT(exitSayingWhetherTheDefaultZoneIs("GMT", ""), success, "");

@@ -2,16 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include <tests/support/Instants.h>
+
 namespace velmora {
 namespace {
 
 using namespace std::chrono_literals;
 using std::chrono::sys_days;
-
-Instant utc(int year, unsigned month, unsigned day, int hour = 0, int minute = 0) {
-  return Instant(sys_days(std::chrono::year(year) / std::chrono::month(month) / std::chrono::day(day))) +
-         Seconds(hour * 3600 + minute * 60);
-}
+using testing::utc;
 
 std::int64_t offset(const char* zone, Instant instant) {
   return TimeZone::named(zone)->secondsFromGMT(instant);

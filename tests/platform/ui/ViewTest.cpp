@@ -14,7 +14,7 @@ namespace {
 
 using testing::RecordingCanvas;
 
-constexpr double quarterTurn = 1.5707963267948966;
+constexpr double rightAngle = 1.5707963267948966;
 
 // Draws one line across its bounds, in its own width.
 class LineView : public View {
@@ -159,7 +159,7 @@ TEST(View, IsDrawnFromItsBackgroundUpToItsSubviews) {
 
 TEST(View, IsTurnedAndFadedAsOneWithItsSubviews) {
   const auto view = viewAt({0, 0, 20, 10});
-  view->setTransform(AffineTransform::rotation(quarterTurn));
+  view->setTransform(AffineTransform::rotation(rightAngle));
   view->setAlpha(0.5);
   added(*view, std::make_shared<LineView>(), {1, 1, 2, 2});
   EXPECT_EQ(drawing(*view),
@@ -231,7 +231,7 @@ TEST(View, TouchesAreReadInTheCoordinatesOfAnyView) {
 TEST(View, TouchesAreReadInATurnedView) {
   const auto root = viewAt({0, 0, 200, 200});
   const auto turned = added(*root, viewAt({}), {0, 0, 100, 100});
-  turned->setTransform(AffineTransform::rotation(quarterTurn));
+  turned->setTransform(AffineTransform::rotation(rightAngle));
   const Point point = Touch({100, 0}).locationIn(*turned);
   EXPECT_NEAR(point.x, 0, 1e-9);
   EXPECT_NEAR(point.y, 0, 1e-9);
