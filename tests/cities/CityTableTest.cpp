@@ -19,7 +19,7 @@ std::vector<std::string> names(const std::vector<City>& cities) {
   return list;
 }
 
-using Names = std::vector<std::string>;
+using CityNames = std::vector<std::string>;
 
 TEST(CityTable, ARowGivesNamePlacePeopleZoneRegionAndCountry) {
   const CityTable table =
@@ -34,49 +34,49 @@ TEST(CityTable, ACityIsFoundWhateverTheCaseAndBlanks) {
   const CityTable table = tableOf({{"Town", "town", 1, 2, 3}});
   for (const char* spelling :
        {"town", "TOWN", " To-wn\n", "Town, Maine", "town,me,us", "Area/Town", "area town"})
-    EXPECT_EQ(names(table.named(spelling)), Names{"Town"}) << spelling;
+    EXPECT_EQ(names(table.named(spelling)), CityNames{"Town"}) << spelling;
   for (const char* spelling : {"tow", "towns", "Town, Ohio", ",", "Area/Old", "\xFF"})
-    EXPECT_EQ(names(table.named(spelling)), Names()) << spelling;
+    EXPECT_EQ(names(table.named(spelling)), CityNames()) << spelling;
 }
 
 TEST(CityTable, LongNamesAreFound) {
   const CityTable table = tableOf({{"Long", std::string(200, 'a'), 1, 2, 3}});
-  EXPECT_EQ(names(table.named(std::string(200, 'A'))), Names{"Long"});
-  EXPECT_EQ(names(table.named(std::string(199, 'A'))), Names());
+  EXPECT_EQ(names(table.named(std::string(200, 'A'))), CityNames{"Long"});
+  EXPECT_EQ(names(table.named(std::string(199, 'A'))), CityNames());
 }
 
 TEST(CityTable, OneOfTenTimesThePeopleIsMeantAndOneOfAHundredthIsNoChoice) {
   EXPECT_EQ(
       names(tableOf({{"A", "aa", 0, 0, 99}, {"B", "same", 0, 0, 50}, {"C", "same", 0, 0, 5}}).named("same")),
-      Names{"B"});
+      CityNames{"B"});
   EXPECT_EQ(
       names(tableOf({{"A", "aa", 0, 0, 99}, {"B", "same", 0, 0, 50}, {"C", "same", 0, 0, 6}}).named("same")),
-      (Names{"B", "C"}));
+      (CityNames{"B", "C"}));
   EXPECT_EQ(names(tableOf({{"A", "same", 0, 0, 600}, {"B", "same", 0, 0, 600}, {"C", "same", 0, 0, 5}})
                       .named("same")),
-            (Names{"A", "B"}));
+            (CityNames{"A", "B"}));
 }
 
 TEST(CityTable, TheCityThatAZoneIsNamedAfterIsMeant) {
-  EXPECT_EQ(names(tableOf({{"A", "town", 0, 0, 7}, {"B", "town", 0, 0, 6}}).named("Town")), Names{"A"});
+  EXPECT_EQ(names(tableOf({{"A", "town", 0, 0, 7}, {"B", "town", 0, 0, 6}}).named("Town")), CityNames{"A"});
 }
 
 TEST(CityTable, MatchesAreTheMostPopulousOfThePrefix) {
   const CityTable table = tableOf({{"A", "pa", 0, 0, 9}, {"B", "pb", 0, 0, 8}, {"C", "pc", 0, 0, 7}});
-  EXPECT_EQ(names(table.matches("p", 2)), (Names{"A", "B"}));
-  EXPECT_EQ(names(table.matches("PB", 2)), Names{"B"});
-  EXPECT_EQ(names(table.matches("pb, Ma", 2)), Names{"B"});
-  EXPECT_EQ(names(table.matches("p, Ma", 2)), Names());
-  EXPECT_EQ(names(table.matches("p", 0)), Names());
-  EXPECT_EQ(names(table.matches("", 9)), (Names{"A", "B", "C"}));
+  EXPECT_EQ(names(table.matches("p", 2)), (CityNames{"A", "B"}));
+  EXPECT_EQ(names(table.matches("PB", 2)), CityNames{"B"});
+  EXPECT_EQ(names(table.matches("pb, Ma", 2)), CityNames{"B"});
+  EXPECT_EQ(names(table.matches("p, Ma", 2)), CityNames());
+  EXPECT_EQ(names(table.matches("p", 0)), CityNames());
+  EXPECT_EQ(names(table.matches("", 9)), (CityNames{"A", "B", "C"}));
 }
 
 TEST(CityTable, NearestIsTheSpellingWithFewestChangedLetters) {
   const CityTable table =
       tableOf({{"A", "oslo", 0, 0, 9}, {"B", "ostrava", 0, 0, 8}, {"C", "oulu", 0, 0, 7}});
-  EXPECT_EQ(names(table.nearest("osla", 3)), (Names{"A", "C"}));
-  EXPECT_EQ(names(table.nearest("oslo", 3)), Names{"A"});
-  EXPECT_EQ(names(table.nearest("osla", 1)), Names{"A"});
+  EXPECT_EQ(names(table.nearest("osla", 3)), (CityNames{"A", "C"}));
+  EXPECT_EQ(names(table.nearest("oslo", 3)), CityNames{"A"});
+  EXPECT_EQ(names(table.nearest("osla", 1)), CityNames{"A"});
 }
 
 TEST(CityTable, EditDistanceCountsLettersInsertedRemovedAndReplaced) {
@@ -89,7 +89,7 @@ TEST(CityTable, EditDistanceCountsLettersInsertedRemovedAndReplaced) {
 
 TEST(CityTable, ZonesOfOldStandForThoseOfToday) {
   const CityTable table = tableOf({{"Town", "town", 0, 0, 7}});
-  EXPECT_EQ(table.zones(), (Names{"Area/Old", "Area/Town"}));
+  EXPECT_EQ(table.zones(), (CityNames{"Area/Old", "Area/Town"}));
   EXPECT_EQ(table.zoneToday("Area/Old"), "Area/Town");
   EXPECT_EQ(table.zoneToday("Area/Town"), "Area/Town");
 }

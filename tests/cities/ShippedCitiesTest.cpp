@@ -153,6 +153,7 @@ TEST(ShippedCities, PrefixesMatchTheMostPopulous) {
     for (const City& city : table().matches(prefix, limit)) list.push_back(city.name + ", " + city.country);
     return list;
   };
+  using Names = std::vector<std::string>;
   EXPECT_EQ(names("helsin", 2), (Names{"Helsinki, FI", "Helsingborg, SE"}));
   EXPECT_EQ(names("Münch", 1), (Names{"Munich, DE"}));
   EXPECT_EQ(names("東京", 1), (Names{"Tokyo, JP"}));

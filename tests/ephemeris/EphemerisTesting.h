@@ -8,7 +8,7 @@
 
 namespace velmora::ephemeris {
 
-constexpr auto bodies = {Body::sun, Body::moon};
+inline constexpr auto bodies = {Body::sun, Body::moon};
 constexpr double arcsecondsOfRadian = 206264.80624709636;
 
 /// The angle between two directions in seconds of arc, exact where it is small.

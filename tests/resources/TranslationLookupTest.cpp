@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include <tests/resources/StringTables.h>
 #include <tests/support/SourceDirectory.h>
 #include <velmora/platform/resources/Bundle.h>
 #include <velmora/platform/time/Locale.h>

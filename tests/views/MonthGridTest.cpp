@@ -9,6 +9,8 @@
 
 #include <velmora/platform/ui/Device.h>
 
+#include "tests/views/DrawnView.h"
+
 namespace velmora {
 namespace {
 

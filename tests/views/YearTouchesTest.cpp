@@ -1,5 +1,6 @@
 #include <iterator>
 
+#include "tests/views/DrawnView.h"
 #include "tests/views/YearViewTesting.h"
 
 namespace velmora {

@@ -6,6 +6,7 @@
 
 #include <velmora/views/TodayInSelectedMonth.h>
 
+#include "tests/views/DrawnView.h"
 #include "tests/views/MonthViewTesting.h"
 
 namespace velmora {

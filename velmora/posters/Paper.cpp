@@ -12,7 +12,7 @@ Size millimetres(double width, double height) {
   return {std::round(width * factor), std::round(height * factor)};
 }
 
-Size upright(Paper paper) {
+Size portrait(Paper paper) {
   switch (paper) {
     case Paper::a4:
       return millimetres(210, 297);
@@ -29,7 +29,7 @@ Size upright(Paper paper) {
 }  // namespace
 
 Size paperSize(Paper paper, bool isLandscape) {
-  const Size size = upright(paper);
+  const Size size = portrait(paper);
   return isLandscape ? Size{size.height, size.width} : size;
 }
 

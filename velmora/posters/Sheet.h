@@ -5,6 +5,7 @@
 
 #include <velmora/platform/graphics/Canvas.h>
 #include <velmora/posters/Palette.h>
+#include <velmora/posters/Poster.h>  // declares the sheet hidden, which only a first declaration can
 
 namespace [[gnu::visibility("hidden")]] velmora {
 
