@@ -225,6 +225,31 @@ TEST(NameLines, BreakANameAtItsBlanks) {
   EXPECT_EQ(lines.style.size, 10);
 }
 
+/// The name in two lines at its full size, in a room that is too narrow for it by the share.
+std::vector<std::string> inTwoLines(const std::string& name, double share) {
+  const LabelStyle style = {.size = 10, .color = {}};
+  const NameLines lines = NameLines::of(name, style, share * Sheet::widthOf(name, style), 2);
+  EXPECT_EQ(lines.style.size, 10);
+  return lines.lines;
+}
+
+TEST(NameLines, BreakWhereALanguageWritesNoBlanks) {
+  const ScopedLocale japanese("ja_JP");
+  EXPECT_EQ(inTwoLines("国民の休日振替休日", 0.7), (std::vector<std::string>{"国民の休日振", "替休日"}));
+  EXPECT_EQ(inTwoLines("振替（休日）", 0.85), (std::vector<std::string>{"振替（休", "日）"}))
+      << "no line begins with a closing bracket";
+}
+
+TEST(NameLines, BreakBetweenTheWordsOfThai) {
+  const ScopedLocale thai("th_TH");
+  EXPECT_EQ(inTwoLines("วันหยุดราชการ", 0.8), (std::vector<std::string>{"วันหยุด", "ราชการ"}));
+}
+
+TEST(NameLines, BreakBehindAHyphen) {
+  const ScopedLocale french("fr_CA");
+  EXPECT_EQ(inTwoLines("Saint-Jean-Baptiste", 0.6), (std::vector<std::string>{"Saint-Jean-", "Baptiste"}));
+}
+
 TEST(NameLines, AreSmallerBeforeTheyEndEarly) {
   const LabelStyle style = {.size = 10, .color = {}};
   const double width = Sheet::widthOf("Independence", style);

@@ -1,22 +1,30 @@
 #include <velmora/posters/NameLines.h>
 
 #include <algorithm>
-#include <sstream>
+
+#include <velmora/platform/graphics/TextEngine.h>
 
 namespace [[gnu::visibility("hidden")]] velmora {
 namespace {
 
-/// As many words a line as fit, one at least.
+std::string withoutBlanksAround(const std::string& text) {
+  const auto first = text.find_first_not_of(' ');
+  return first == std::string::npos ? "" : text.substr(first, text.find_last_not_of(' ') + 1 - first);
+}
+
+/// As much a line as fits, up to the first break at least.
 std::vector<std::string> parted(const std::string& name, const LabelStyle& style, double width) {
   std::vector<std::string> lines;
-  std::istringstream words(name);
-  for (std::string word; words >> word;) {
-    const std::string longer = lines.empty() ? word : lines.back() + " " + word;
-    if (!lines.empty() && Sheet::widthOf(longer, style) <= width) {
-      lines.back() = longer;
-    } else {
-      lines.push_back(word);
+  std::size_t start = 0, end = 0;
+  for (const std::size_t next : TextEngine::current().lineBreaks(name)) {
+    std::string longer = withoutBlanksAround(name.substr(start, next - start));
+    if (lines.empty() || Sheet::widthOf(longer, style) > width) {
+      start = end;
+      longer = withoutBlanksAround(name.substr(start, next - start));
+      lines.emplace_back();
     }
+    lines.back() = longer;
+    end = next;
   }
   return lines;
 }

@@ -12,7 +12,7 @@ struct NameLines {
   std::vector<std::string> lines;
   LabelStyle style;
 
-  /// Parted at its blanks, smaller where that is not enough, but no smaller than a label may be; where even
+  /// Broken where its language allows, smaller where that is not enough, but no smaller than a label may be; where even
   /// that is not, it ends in "…".
   static NameLines of(const std::string& name, const LabelStyle& style, double width, std::size_t mostLines);
 };

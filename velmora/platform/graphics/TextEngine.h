@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <memory>
 #include <set>
 #include <string>
@@ -33,6 +34,10 @@ class TextEngine {
   /// The characters of the text that no installed face has a glyph for, each once; empty when all are
   /// covered.
   virtual std::set<std::string> uncoveredCharacters(const AttributedText& text) = 0;
+
+  /// Where the text may go on in another line, as its language has it: the bytes before which it may break,
+  /// ascending, at last its size. An engine that knows no language breaks behind blanks.
+  virtual std::vector<std::size_t> lineBreaks(const std::string& text);
 
   /// The process's engine: the one last set, else the drawing library's.
   static TextEngine& current();

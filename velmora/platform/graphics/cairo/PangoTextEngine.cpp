@@ -118,6 +118,23 @@ std::vector<Rect> PangoTextEngine::glyphBoxes(const AttributedText& text) {
   return boxes;
 }
 
+std::vector<std::size_t> PangoTextEngine::lineBreaks(const std::string& text) {
+  const auto size = static_cast<gssize>(text.size());
+  if (!g_utf8_validate(text.data(), size, nullptr)) return TextEngine::lineBreaks(text);
+  followLocale();
+  std::vector<PangoLogAttr> characters(static_cast<std::size_t>(g_utf8_strlen(text.data(), size)) + 1);
+  pango_get_log_attrs(text.data(), static_cast<int>(size), -1, pango_language_from_string(_locale.c_str()),
+                      characters.data(), static_cast<int>(characters.size()));
+  std::vector<std::size_t> breaks;
+  std::size_t byte = 0;
+  for (const PangoLogAttr& character : characters) {
+    if (byte > 0 && byte < text.size() && character.is_line_break) breaks.push_back(byte);
+    if (byte < text.size()) byte += static_cast<std::size_t>(g_utf8_skip[static_cast<guchar>(text[byte])]);
+  }
+  breaks.push_back(text.size());
+  return breaks;
+}
+
 ShapedLine PangoTextEngine::shape(const AttributedText& text) {
   const PangoHandle<char> valid(
       g_utf8_make_valid(text.text().data(), static_cast<gssize>(text.text().size())));

@@ -26,6 +26,8 @@ class PangoTextEngine final : public TextEngine {
     return line(text)->uncovered;
   }
 
+  std::vector<std::size_t> lineBreaks(const std::string& text) override;
+
   /// The shaped line, kept for the next time the same text is asked for.
   std::shared_ptr<const ShapedLine> line(const AttributedText& text);
 
