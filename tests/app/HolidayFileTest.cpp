@@ -115,6 +115,12 @@ TEST(HolidayFile, MindsNoEmptyProperty) {
   EXPECT_EQ(datesOf(event("a", line("DTSTART;VALUE=DATE:20260501") + line("DESCRIPTION:"))), Dates{"05-01"});
 }
 
+TEST(HolidayFile, MayBeginWithAByteOrderMark) {
+  const std::string text = calendarOf(event("Vappu", line("DTSTART;VALUE=DATE:20260501")));
+  EXPECT_EQ(holidaysIn("\xEF\xBB\xBF" + text, "test", year(2026), greenwich),
+            (std::vector<CalendarNote>{{year(2026) / 5 / 1, "Vappu"}}));
+}
+
 TEST(HolidayFile, ReadsSeveralCalendarsOfOneFile) {
   const std::string one = calendarOf(event("a", line("DTSTART;VALUE=DATE:20260501")));
   const std::string two = calendarOf(event("b", line("DTSTART;VALUE=DATE:20260601")));

@@ -9,6 +9,7 @@
 #include <optional>
 #include <set>
 #include <sstream>
+#include <string_view>
 #include <utility>
 
 #include <app/drawing/Recurrence.h>
@@ -288,6 +289,12 @@ bool isCalendar(icalcomponent* component) {
          (areSeveral && icalcomponent_count_components(component, ICAL_VCALENDAR_COMPONENT) > 0);
 }
 
+/// Without the mark that some programs begin a file of UTF-8 with.
+std::string withoutMark(const std::string& text) {
+  constexpr std::string_view mark = "\xEF\xBB\xBF";
+  return text.starts_with(mark) ? text.substr(mark.size()) : text;
+}
+
 /// Throws where it is no calendar, or a part of it could not be read.
 Component parsed(const std::string& text) {
   if (!isUtf8(text)) throw BadInput("is not text");
@@ -328,7 +335,7 @@ std::set<std::pair<sys_days, std::string>> namesOf(const std::vector<Holiday>& h
 
 std::vector<CalendarNote> holidaysIn(const std::string& text, const std::string& source,
                                      std::chrono::year year, const TimeZone& zone) try {
-  const Component calendar = parsed(text);
+  const Component calendar = parsed(withoutMark(text));
   const auto holidays = holidaysOf(calendar.get(), zone);
   std::vector<CalendarNote> notes;
   for (const auto& [day, name] : namesOf(holidays, year / 1 / 1, year / 12 / 31))
