@@ -1,12 +1,12 @@
 import { type Day, nearestKnown, sameDay } from "./days";
 import { clockAt, Format, instantOf, isZone } from "./format";
 import { isFault, type Link, readLink, type ViewName, writeLink } from "./link";
-import { type Choices, Store } from "./store";
+import { type Choices, type Kept, Store } from "./store";
 import type { LoadVelmora, Place, Settings, Velmora } from "./velmora";
 import { isRightToLeft, languageFor, localeFor, setTexts } from "./words";
 
-/** What changed: the day or the moment, or so much that a screen is to be made anew. */
-export type Change = "moment" | "day" | "all";
+/** What changed: the day or the moment, or so much that a screen is to be made anew; or a person went to a section. */
+export type Change = "moment" | "day" | "all" | "section";
 
 /** What the page gets from outside: the module, and the files that lie beside the page. */
 export interface Surroundings {
@@ -66,12 +66,9 @@ export class App {
   }
 
   async start(): Promise<void> {
-    const kept = this.store.read((link) => {
-      const read = readLink(link, isZone);
-      return isFault(read) ? undefined : read.place;
-    });
+    const kept = this.kept();
     this.choices = kept.choices;
-    const link = this.linkOfAddress();
+    let link = this.linkOfAddress();
     const hasNoPlace = kept.places.length === 0 && !link.place;
     this.places = hasNoPlace ? [greenwich] : [...kept.places];
     if (link.place) this.putFirst(link.place);
@@ -80,14 +77,7 @@ export class App {
 
     // The module opens while the first place is looked for.
     const [moon, firstPlace] = await Promise.all([
-      this.surroundings.load({
-        base: this.surroundings.base,
-        ...(this.surroundings.file && { file: this.surroundings.file }),
-        settings: this.settings(),
-        place: this.place,
-        day: day(),
-        fontFamily: getComputedStyle(document.body).fontFamily,
-      }),
+      this.open(day),
       hasNoPlace ? this.firstPlace() : undefined,
       this.loadTexts(),
     ]);
@@ -96,12 +86,54 @@ export class App {
       moon.select(firstPlace, day());
     }
     this.moon = moon;
+    if (link.place && link.place !== this.place) {
+      link = this.refused(link.place);
+      this.view = "today";
+      moon.select(this.place, day());
+    }
     this.makeFormat();
     this.takeMoment(link);
     moon.onDayChange(() => this.dayMoved());
     addEventListener("pagehide", () => {
       if (this.remembering !== undefined) this.remember();
     });
+    addEventListener("storage", () => void this.changedElsewhere());
+  }
+
+  /** Opens the module at the first place that it takes: browsers know more names of time zones than there are. */
+  private async open(day: () => Day): Promise<Velmora> {
+    try {
+      return await this.surroundings.load({
+        base: this.surroundings.base,
+        ...(this.surroundings.file && { file: this.surroundings.file }),
+        settings: this.settings(),
+        place: this.place,
+        day: day(),
+        fontFamily: getComputedStyle(document.body).fontFamily,
+      });
+    } catch (error) {
+      if (!(error instanceof RangeError) || this.place === greenwich) throw error;
+      this.places = this.places.length > 1 ? this.places.slice(1) : [greenwich];
+      return this.open(day);
+    }
+  }
+
+  private kept(): Kept {
+    return this.store.read((link) => {
+      const read = readLink(link, isZone);
+      return isFault(read) ? undefined : read.place;
+    });
+  }
+
+  /** Another window of the page kept something: what is shown here stays, the rest is as it was kept. */
+  private async changedElsewhere(): Promise<void> {
+    const { choices, places } = this.kept();
+    const { place } = this;
+    this.choices = choices;
+    this.places = [...places];
+    this.putFirst(place);
+    await this.loadTexts();
+    this.settingsChanged();
   }
 
   /** One of the files that lie with the module. */
@@ -134,7 +166,7 @@ export class App {
     this.remember();
     this.view = view;
     history.pushState(null, "", this.address());
-    this.tell("all");
+    this.tell("section");
   }
 
   selectDay(day: Day): void {
@@ -172,7 +204,7 @@ export class App {
     const { day } = clockAt(at, this.place.zone);
     history.pushState(null, "", this.address());
     if (!sameDay(day, this.day)) this.moon.selectDay(day);
-    this.tell("all");
+    this.tell("section");
   }
 
   showNow(): void {
@@ -193,14 +225,26 @@ export class App {
     else this.showNow();
   }
 
-  usePlace(place: Place): void {
-    this.putFirst(place);
+  /** Whether it can be shown. */
+  usePlace(place: Place): boolean {
     const day = this.followsClock ? nearestKnown(clockAt(Date.now(), place.zone).day) : this.day;
-    this.moon.select(place, day);
+    if (!this.takes(place, day)) return false;
+    this.putFirst(place);
     this.makeFormat();
     this.keep();
     this.remember();
     this.tell("all");
+    return true;
+  }
+
+  private takes(place: Place, day: Day): boolean {
+    try {
+      this.moon.select(place, day);
+      return true;
+    } catch (error) {
+      if (!(error instanceof RangeError)) throw error;
+      return false;
+    }
   }
 
   forgetPlace(place: Place): void {
@@ -275,6 +319,12 @@ export class App {
     return {};
   }
 
+  /** The link of a place that cannot be shown is not followed. */
+  private refused({ latitude, longitude, zone, name }: Place): Link {
+    this.linkFault = { part: "place", text: [latitude, longitude, zone, name].join(", ") };
+    return {};
+  }
+
   private takeMoment(link: Link): void {
     const isNow = link.time === undefined && this.isToday;
     const minutes = link.time ?? clockAt(Date.now(), this.place.zone).minutes;
@@ -314,10 +364,15 @@ export class App {
   followAddress(): void {
     this.forgetToRemember();
     this.linkFault = undefined;
-    const link = this.linkOfAddress();
+    let link = this.linkOfAddress();
+    const day = (place: Place): Day => link.day ?? nearestKnown(clockAt(Date.now(), place.zone).day);
+    if (link.place && this.takes(link.place, day(link.place))) {
+      this.putFirst(link.place);
+    } else {
+      if (link.place) link = this.refused(link.place);
+      this.moon.select(this.place, day(this.place));
+    }
     this.view = link.view ?? "today";
-    if (link.place) this.putFirst(link.place);
-    this.moon.select(this.place, link.day ?? nearestKnown(clockAt(Date.now(), this.place.zone).day));
     this.makeFormat();
     this.takeMoment(link);
     this.tell("all");

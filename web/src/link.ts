@@ -23,6 +23,8 @@ export interface Fault {
 
 const longestLink = 500;
 const longestName = 80;
+/** Control characters, and those that turn the direction of whatever follows. */
+const unwritable = /[\u0000-\u001f\u007f-\u009f\u2028-\u202e\u2066-\u2069\ufffd]/;
 
 function number(text: string | null, limit: number): number | undefined {
   if (text === null || !/^-?\d{1,3}(\.\d{1,6})?$/.test(text)) return undefined;
@@ -39,9 +41,9 @@ function placeOf(fields: URLSearchParams, isZone: (name: string) => boolean): Pl
   const latitude = number(fields.get("lat"), 90);
   const longitude = number(fields.get("lon"), 180);
   const zone = fields.get("zone");
-  const name = fields.get("name") ?? "";
+  const name = (fields.get("name") ?? "").trim();
   if (latitude === undefined || longitude === undefined || zone === null || !isZone(zone)) return undefined;
-  if ([...name].length > longestName || /[\u0000-\u001f\u007f-\u009f\u2028\u2029\ufffd]/.test(name)) return undefined;
+  if ([...name].length > longestName || unwritable.test(name)) return undefined;
   return { latitude, longitude, zone, name };
 }
 

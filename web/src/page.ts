@@ -41,6 +41,19 @@ function faultText(app: App): string {
   return sentences[part as keyof typeof sentences];
 }
 
+/** Of a screen that is made anew: what was written in it, and where the keyboard was, are there again. */
+function keepFields(main: HTMLElement): () => void {
+  const written = [...main.querySelectorAll<HTMLInputElement>("input[id]")].map(({ id, value }) => [id, value] as const);
+  const focused = main.contains(document.activeElement) ? document.activeElement!.id : "";
+  return () => {
+    for (const [id, value] of written) {
+      const input = main.querySelector<HTMLInputElement>(`#${id}`);
+      if (input) input.value = value;
+    }
+    if (focused) (document.getElementById(focused) ?? main).focus({ preventScroll: true });
+  };
+}
+
 /** Instead of the page. */
 export function sayFailure(error: unknown): void {
   const text = error instanceof Error ? error.message : String(error);
@@ -58,31 +71,33 @@ export async function startPage(surroundings: Surroundings): Promise<(takeOver: 
   const applyTheme = (): void => {
     document.documentElement.dataset["theme"] = app.theme;
   };
-  const show = (): void => {
+  const show = (isOtherSection: boolean): void => {
+    const goOn = isOtherSection ? undefined : keepFields(shell.main);
+    shell.closeSheet();  // it is about what was shown before
     screen?.close();
     applyTheme();
     screen = makeScreen(app, shell);
     shell.main.replaceChildren(screen.root);
+    goOn?.();
     shell.show(t(viewTitles[app.view]));
-    if (app.view !== shownView) scrollTo({ top: 0, behavior: "instant" });
+    if (isOtherSection) scrollTo({ top: 0, behavior: "instant" });
     shownView = app.view;
     screen.shown?.();
     document.documentElement.dataset["view"] = app.view;
   };
   let builtFor = "";
   const changed = (change: Change): void => {
-    if (change !== "all") {
+    if (change === "day" || change === "moment") {
       screen?.refresh(change);
       return;
     }
-    const before = app.view;
-    const isOtherView = before !== shownView;
+    const isOtherSection = change === "section" || app.view !== shownView;
     if (builtFor !== app.language) {
       shell.build();
       builtFor = app.language;
     }
-    show();
-    if (isOtherView) {
+    show(isOtherSection);
+    if (isOtherSection) {
       shell.clearWarning();
       shell.main.focus({ preventScroll: true });
       shell.say(t(viewTitles[app.view]));

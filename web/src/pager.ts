@@ -21,16 +21,19 @@ export class Pager {
   private shift = 0;
   private isPulling = false;
   private drawn = 0;
-  private settling: Animation | undefined;
+  /** Ends the sliding at once. */
+  private endSettling: (() => void) | undefined;
 
   constructor(
     private readonly app: App, private readonly stage: Stage, private readonly beside?: (direction: 1 | -1) => Day,
   ) {
     this.canvas = stage.canvas;
-    this.canvas.addEventListener("pointerdown", (event) => this.down(event));
-    this.canvas.addEventListener("pointermove", (event) => this.move(event));
-    this.canvas.addEventListener("pointerup", (event) => this.up(event));
-    this.canvas.addEventListener("pointercancel", (event) => this.cancel(event));
+    // Not the canvas: while a page turns, a finger may meet the one beside it.
+    const { root } = stage;
+    root.addEventListener("pointerdown", (event) => this.down(event));
+    root.addEventListener("pointermove", (event) => this.move(event));
+    root.addEventListener("pointerup", (event) => this.up(event));
+    root.addEventListener("pointercancel", (event) => this.cancel(event));
   }
 
   private point(event: PointerEvent): [number, number] {
@@ -40,7 +43,7 @@ export class Pager {
 
   private down(event: PointerEvent): void {
     if (this.pointer !== undefined || event.button !== 0) return;
-    this.settling?.finish();
+    this.endSettling?.();
     this.pointer = event.pointerId;
     this.start = { x: event.clientX, y: event.clientY, at: event.timeStamp };
     this.isPulling = false;
@@ -53,7 +56,7 @@ export class Pager {
     const y = event.clientY - this.start.y;
     if (!this.isPulling && this.beside && Math.abs(x) > slack && Math.abs(x) > Math.abs(y)) {
       this.isPulling = true;
-      this.canvas.setPointerCapture(event.pointerId);
+      this.stage.root.setPointerCapture(event.pointerId);
       this.stage.view.touchCancelled();
     }
     if (this.isPulling) this.pull(x);
@@ -119,14 +122,17 @@ export class Pager {
     const beside = this.shift < 0 ? width : -width;
     const slide = (canvas: HTMLElement, offset: number): Animation => canvas.animate(
       { transform: [`translateX(${this.shift + offset}px)`, `translateX(${target + offset}px)`] }, timing);
-    slide(this.neighbour, beside);
-    this.settling = slide(this.canvas, 0);
-    this.settling.onfinish = () => this.settled(turns);
+    const slides = [slide(this.neighbour, beside), slide(this.canvas, 0)];
+    this.endSettling = () => {
+      this.endSettling = undefined;
+      for (const one of slides) one.cancel();
+      this.settled(turns);
+    };
+    slides[1]!.onfinish = () => this.endSettling?.();
   }
 
   private settled(turns: boolean): void {
     const direction = this.drawn as 1 | -1;
-    this.settling = undefined;
     this.shift = 0;
     this.drawn = 0;
     if (turns) {

@@ -16,6 +16,7 @@ export class Stage {
   private readonly resizing: ResizeObserver;
   private readonly endListening: () => void;
   private isCovered = false;
+  private isClosed = false;
 
   /** `heightOf` tells the height in points for a width. */
   constructor(
@@ -51,6 +52,7 @@ export class Stage {
   }
 
   drawNow(): void {
+    if (this.isClosed) return;
     if (!this.isCovered) this.view.draw();
     this.elements.refresh();
   }
@@ -60,6 +62,7 @@ export class Stage {
   }
 
   close(): void {
+    this.isClosed = true;
     this.frame.cancel();
     this.resizing.disconnect();
     this.endListening();

@@ -13,7 +13,8 @@ const day = fc.record({ year: fc.integer({ min: 2000, max: 2040 }), month: fc.in
   }, { noNullPrototype: true }));
 const degrees = (limit) => fc.integer({ min: -limit * 1e6, max: limit * 1e6 }).map((value) => value / 1e6 + 0);
 const name = fc.string({ unit: "grapheme", maxLength: 30 })
-  .filter((text) => [...text].length <= 80 && !/[\u0000-\u001f\u007f-\u009f\u2028\u2029\ufffd]/.test(text));
+  .map((text) => text.trim())
+  .filter((text) => [...text].length <= 80 && !/[\u0000-\u001f\u007f-\u009f\u2028-\u202e\u2066-\u2069\ufffd]/.test(text));
 const place = fc.record({
   latitude: degrees(90), longitude: degrees(180), name,
   zone: fc.constantFrom("Europe/Helsinki", "America/Argentina/Buenos_Aires", "Etc/GMT+5", "UTC", "Asia/Kathmandu"),
@@ -66,6 +67,8 @@ for (const [hash, part] of [
   ["#/today?lat=1e1&lon=25&zone=UTC", "place"],
   ["#/today?lat=60&lon=25&zone=Europe/Atlantis", "place"],
   ["#/today?name=Nowhere", "place"],
+  ["#/today?lat=60&lon=25&zone=UTC&name=%E2%80%AEoslO", "place"],
+  ["#/today?lat=60&lon=25&zone=UTC&name=%E2%81%A7Oslo", "place"],
   ["#/today?colour=red", "link"],
   ["#/today?day=2024-01-01&day=2024-01-02", "link"],
   [`#/today?${"x".repeat(600)}`, "link"],
@@ -76,6 +79,10 @@ for (const [hash, part] of [
     assert.equal(read.part, part);
   });
 }
+
+test("ANameOfBlanksIsNone", () => {
+  assert.equal(readLink("#/today?lat=60&lon=25&zone=UTC&name=%20%20", isZone).place.name, "");
+});
 
 test("AnEmptyLinkLeavesEverythingAsItIs", () => {
   assert.deepEqual(readLink("", isZone), {});

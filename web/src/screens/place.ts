@@ -28,9 +28,11 @@ function placeOfCity({ latitude, longitude, name, zone }: City): Place {
 }
 
 export function placeScreen(app: App, warn: (message: string) => void): Screen {
-  const use = (place: Place): void => {
-    app.usePlace(place);
-    app.go("today");
+  let isLeft = false;
+  const use = (place: Place): boolean => {
+    const isShown = app.usePlace(place);
+    if (isShown) app.go("today");
+    return isShown;
   };
 
   // Those that were used before.
@@ -39,14 +41,15 @@ export function placeScreen(app: App, warn: (message: string) => void): Screen {
       h("span", { class: "row-texts" }, h("strong", {}, place.name || coordinates(app, place)),
         h("small", {}, `${coordinates(app, place)} · ${place.zone}`)));
     if (index === 0) choose.setAttribute("aria-current", "true");
-    const forget = h("button", { type: "button", class: "round", "aria-label": t("Remove %1", place.name || coordinates(app, place)),
-      click: () => app.forgetPlace(place) }, icon("close"));
+    const forget = h("button", { type: "button", class: "round", id: `remove-${index}`,
+      "aria-label": t("Remove %1", place.name || coordinates(app, place)), click: () => app.forgetPlace(place) }, icon("close"));
     return h("li", {}, choose, index === 0 ? undefined : forget);
   }));
 
   // The device's own.
   const locate = h("button", { type: "button", class: "wide-button" }, icon("locate"), h("span", { class: "label" }, t("My position")));
   const refused = (error: GeolocationPositionError): void => {
+    if (isLeft) return;
     locate.disabled = false;
     warn(error.code === error.PERMISSION_DENIED
       ? t("The position was refused. Search a city, or write the coordinates.")
@@ -54,6 +57,7 @@ export function placeScreen(app: App, warn: (message: string) => void): Screen {
   };
   const found = async ({ coords }: GeolocationPosition): Promise<void> => {
     const city = await app.moon.cityNear(coords.latitude, coords.longitude).catch(() => undefined);
+    if (isLeft) return;  // a position that comes late takes nobody away from another section
     use({
       latitude: Number(coords.latitude.toFixed(4)),
       longitude: Number(coords.longitude.toFixed(4)),
@@ -111,6 +115,12 @@ export function placeScreen(app: App, warn: (message: string) => void): Screen {
   const form = h("form", { class: "coordinates", novalidate: true },
     h("div", { class: "pair" }, latitudeField, longitudeField), zoneField, nameField, zones, problem,
     h("button", { type: "submit", class: "wide-button" }, t("Use these coordinates")));
+  const refuse = (input: HTMLInputElement, text: string): void => {
+    input.setAttribute("aria-invalid", "true");
+    input.setAttribute("aria-describedby", "problem");
+    problem.textContent = text;
+    input.focus();
+  };
   form.addEventListener("submit", (event) => {
     event.preventDefault();
     const values: [HTMLInputElement, boolean, string][] = [
@@ -118,15 +128,13 @@ export function placeScreen(app: App, warn: (message: string) => void): Screen {
       [longitude, isWithin(longitude.value, 180), t("The longitude is a number from −180 to 180, such as 24.94.")],
       [zone, isZone(zone.value.trim()), t("The time zone has a name such as Europe/Helsinki.")],
     ];
-    for (const [input, isRight] of values) {
-      input.setAttribute("aria-invalid", String(!isRight));
-      if (!isRight) input.setAttribute("aria-describedby", "problem");
-    }
+    problem.textContent = "";
+    for (const [input] of values) input.removeAttribute("aria-invalid");
     const wrong = values.find(([, isRight]) => !isRight);
-    problem.textContent = wrong ? wrong[2] : "";
-    if (wrong) return wrong[0].focus();
-    use({ latitude: numberOf(latitude.value), longitude: numberOf(longitude.value), zone: zone.value.trim(),
-      name: name.value.trim() });
+    if (wrong) return refuse(wrong[0], wrong[2]);
+    const isShown = use({ latitude: numberOf(latitude.value), longitude: numberOf(longitude.value),
+      zone: zone.value.trim(), name: name.value.trim() });
+    if (!isShown) refuse(zone, values[2]![2]);
   });
 
   const root = h("div", { class: "place" },
@@ -136,7 +144,7 @@ export function placeScreen(app: App, warn: (message: string) => void): Screen {
     h("section", { class: "card" }, h("h2", {}, t("Kept places")), kept),
     h("section", { class: "card" }, h("h2", {}, t("Coordinates")), form));
   search.placeholder = t("Search a city");
-  return { root, title: t("Place"), refresh() {}, close() {} };
+  return { root, title: t("Place"), refresh() {}, close: () => void (isLeft = true) };
 }
 
 function numberOf(text: string): number {
