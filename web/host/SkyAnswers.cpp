@@ -1,22 +1,22 @@
 #include <web/host/SkyAnswers.h>
 
+#include <algorithm>
 #include <array>
+#include <chrono>
 #include <cmath>
 #include <numbers>
 #include <vector>
 
 #include <velmora/almanac/Events.h>
 #include <velmora/almanac/Phases.h>
-#include <velmora/phases/KeptTables.h>
-#include <velmora/phases/MoonPhaseCalc.h>
-#include <velmora/phases/PhaseItem.h>
-#include <velmora/platform/time/Calendar.h>
 #include <web/host/Json.h>
 
 namespace velmora::web {
 namespace {
 
 using almanac::Body;
+
+constexpr std::chrono::hours longerThanALunation{24 * 31};
 
 const char* nameOf(Body body) { return body == Body::sun ? "sun" : "moon"; }
 
@@ -37,17 +37,16 @@ const char* nameOf(almanac::PrincipalPhase phase) {
   return names.at(static_cast<std::size_t>(phase));
 }
 
-/// Of the calendars' phases by their number.
-const char* nameOfCalendarPhase(std::int64_t phase) {
-  static constexpr std::array names = {"full",           "firstQuarter",  "lastQuarter",   "new",
-                                       "waxingCrescent", "waxingGibbous", "waningGibbous", "waningCrescent"};
+/// From that principal phase to the next.
+const char* nameAfter(almanac::PrincipalPhase phase) {
+  static constexpr std::array names = {"waxingCrescent", "waxingGibbous", "waningGibbous", "waningCrescent"};
   return names.at(static_cast<std::size_t>(phase));
 }
 
 const char* nameOfElongation(double degrees) {
-  static constexpr std::array names = {"waxingCrescent", "waxingGibbous", "waningGibbous", "waningCrescent"};
   constexpr double quarter = 90;
-  return names.at(static_cast<std::size_t>(degrees / quarter) % names.size());
+  constexpr int quarters = 4;
+  return nameAfter(static_cast<almanac::PrincipalPhase>(static_cast<int>(degrees / quarter) % quarters));
 }
 
 std::string jsonOf(const almanac::Event& event) {
@@ -156,7 +155,6 @@ std::string track(Body body, std::span<const double> milliseconds) {
 }
 
 std::string nextPhases(Instant after) {
-  constexpr std::chrono::hours longerThanALunation{24 * 31};
   constexpr std::size_t principalPhases = 4;
   auto found = almanac::phases(after, after + longerThanALunation);
   if (found.size() > principalPhases) found.resize(principalPhases);
@@ -166,23 +164,19 @@ std::string nextPhases(Instant after) {
 std::string phasesBetween(Instant from, Instant to) { return jsonOf(almanac::phases(from, to)); }
 
 std::optional<std::string> calendarDay(Date date) {
-  if (!isInTables(date)) return std::nullopt;
   const Session& session = Session::shared();
-  const int year = static_cast<int>(date.year());
-  const unsigned month = static_cast<unsigned>(date.month()), day = static_cast<unsigned>(date.day());
-  const auto table = tableOfYear(year);
-  if (!table) return std::nullopt;
-  GeoLocationData location;
-  location.timezone = session.zone();
-  location.timezoneId = session.zone().name();
-  const Instant start = Calendar(session.zone()).date({.year = year, .month = month});
-  const auto days = MoonPhaseCalc::GetPhaseCalendar(*table, month - 1, year, start, location, true);
-  const auto found = days.find(day);
-  if (found == days.end() || found->second->phase < 0) return std::nullopt;
+  const auto day = almanac::civilDay(session.zone(), date);
+  if (!day) return std::nullopt;
+  const auto events = almanac::phases(day->start - longerThanALunation, day->end);
+  const auto newMoon = std::find_if(events.rbegin(), events.rend(), [](const almanac::PhaseEvent& event) {
+    return event.phase == almanac::PrincipalPhase::newMoon;
+  });
+  if (newMoon == events.rend()) return std::nullopt;
+  const almanac::PhaseEvent& last = events.back();
+  const auto age = std::chrono::sys_days(date) - std::chrono::sys_days(session.dateAt(newMoon->at));
   return JsonObject()
-      .with("phase", nameOfCalendarPhase(found->second->phase))
-      .with("lit", static_cast<double>(found->second->fullFactor))
-      .with("age", static_cast<double>(found->second->moonAge))
+      .with("phase", last.at >= day->start ? nameOf(last.phase) : nameAfter(last.phase))
+      .with("age", static_cast<double>(age.count() + 1))
       .text();
 }
 

@@ -93,7 +93,7 @@ export interface Velmora {
   phases(from: number, to: number): readonly PhaseEvent[];
   /** The next eclipses of which something is seen from the place, within 20 years. */
   nextEclipses(after: number, count: number): readonly SeenEclipse[];
-  /** The day's phase as the calendars show it; none outside their years. */
+  /** The phase of the civil day and its place in the lunation; none for a day that the place did not have. */
   calendarDay(day: CivilDate): CalendarDay | undefined;
 
   /**
@@ -262,8 +262,6 @@ export interface PhaseEvent {
 
 export interface CalendarDay {
   readonly phase: PhaseName;
-  /** Lit part of the calendar's disc, 0 to 1, linear between principal phases by design. */
-  readonly lit: number;
   /** Days from the last new moon, whose own day is 1. */
   readonly age: number;
 }

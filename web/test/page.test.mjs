@@ -1,7 +1,7 @@
 // What a person does with the page.
 import assert from "node:assert/strict";
 import { after, before, describe, test } from "node:test";
-import { addressed, at, desktop, drawn, helsinki, phone, press, Site, settled, swipe, text, views } from "./pages.mjs";
+import { addressed, at, desktop, drawn, helsinki, isReal, phone, press, Site, settled, swipe, text, views } from "./pages.mjs";
 
 const warning = ".notice p";
 
@@ -295,6 +295,26 @@ describe("Page", () => {
     await page.evaluate(() => dispatchEvent(new Event("afterprint")));
     assert.equal(await page.$(".printed"), null);
     assert.deepEqual(page.faults, []);
+    await page.context.close();
+  });
+
+  test("ADayTellsItsLunationWhereTheCalendarsBeginAndAfterAMonthWithoutANewMoon", { skip: !isReal }, async () => {
+    const page = await site.visitor();
+    for (const [day, told] of [
+      ["2000-01-01", "Waning Crescent day 25 of"], ["2000-01-06", "New Moon day 1 of"], ["2000-01-07", "Waxing Crescent day 2 of"],
+      ["2014-02-28", "Waning Crescent day 30 of"], ["2014-03-01", "New Moon day 1 of"],
+    ]) {
+      await site.show(page, at("month", `day=${day}`));
+      assert.match(await text(page, ".panel-phase"), new RegExp(told), day);
+    }
+    await page.context.close();
+  });
+
+  test("AnEclipseAfterTheCalendarsEndLeadsToNoDay", { skip: !isReal }, async () => {
+    const page = await site.visitor();
+    await site.show(page, at("eclipses", "day=2040-12-31"));
+    assert.match(await text(page, ".eclipse-date"), /2041/);
+    assert.equal(await page.$(".eclipse-card .plain"), null);
     await page.context.close();
   });
 

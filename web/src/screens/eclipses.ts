@@ -1,4 +1,5 @@
 import type { App } from "../app";
+import { isKnown } from "../days";
 import { h } from "../dom";
 import { eclipseDrawing } from "../eclipse-drawing";
 import type { EclipseContact, SeenEclipse } from "../velmora";
@@ -68,7 +69,7 @@ export function eclipseCard(app: App, eclipse: SeenEclipse, heading?: string): H
       h("div", {}, h("dt", {}, name), h("dd", {}, time(at)),
         at === eclipse.maximum && !showsMaximum(eclipse) ? h("dd", {}, h("small", {}, w("below the horizon"))) : undefined))),
     h("details", {}, h("summary", {}, t("All its phases")), h("dl", {}, ...contacts)),
-    show);
+    isKnown(day) ? show : undefined);
 }
 
 const shownAtOnce = 8;
