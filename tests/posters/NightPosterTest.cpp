@@ -44,6 +44,15 @@ TEST(NightPoster, TellsTheTimesOfTheNight) {
   EXPECT_TRUE(has(texts, "Nie ganz dunkel ohne Mond"));
 }
 
+// The morning after the evening of 29 December 2011 was that of the 31st.
+TEST(NightPoster, NumbersTheHoursOfANightBeforeASkippedDay) {
+  const ScopedLocale german("de_DE");
+  const PosterPlace apia = {{-13.8333, -171.7667, 0}, TimeZone::named("Pacific/Apia").value(), "Apia"};
+  const auto texts = textsAcross(NightPoster(apia, year(2011) / 12 / 29));
+  for (const char* const hour : {"18 Uhr", "21 Uhr", "00 Uhr", "03 Uhr", "06 Uhr", "09 Uhr"})
+    EXPECT_TRUE(has(texts, hour)) << hour;
+}
+
 TEST(NightPoster, PassesFromDayToNightAndBack) {
   using enum Daypart;
   EXPECT_EQ(

@@ -8,6 +8,15 @@ namespace [[gnu::visibility("hidden")]] velmora {
 using almanac::Event;
 using almanac::EventKind;
 using ephemeris::Body;
+namespace {
+
+long hourOn(const TimeZone& zone, Instant at) {
+  const LocalTime reading = zone.localTime(at);
+  return std::chrono::floor<std::chrono::hours>(reading - std::chrono::floor<std::chrono::days>(reading))
+      .count();
+}
+
+}  // namespace
 
 void NightChart::draw(const TimeZone& zone, std::chrono::year_month_day date) const {
   Canvas& canvas = _sheet.canvas();
@@ -71,7 +80,7 @@ void NightChart::drawGrid(const TimeZone& zone, std::chrono::year_month_day date
   constexpr int noon = 12, hourStep = 3;
   for (int hour = noon; hour <= noon + 24; hour += hourStep) {
     const auto found = zone.lookup(LocalTime(std::chrono::local_days(date)) + std::chrono::hours(hour));
-    if (found.kind == LocalLookup::Kind::skipped) continue;
+    if (hourOn(zone, found.before) != hour % 24) continue;  // the clocks skip it
     const double at = x(found.before), half = 1.2 * _layout.chart.width / 24;
     _sheet.line({at, _layout.chart.maxY()}, {at, _layout.chart.maxY() + 4 * unit}, palette.quiet,
                 0.75 * unit);
