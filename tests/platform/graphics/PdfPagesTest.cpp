@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <zlib.h>
 
 #include <memory>
 #include <sstream>
@@ -18,6 +19,21 @@ std::size_t countOf(const std::string& part, const std::string& text) {
   std::size_t count = 0;
   for (auto at = text.find(part); at != std::string::npos; at = text.find(part, at + 1)) ++count;
   return count;
+}
+
+/// The streams of the document as they were before they were compressed, one after the other.
+std::string streamsOf(const std::string& pdf) {
+  const std::string begin = "stream\n";
+  std::string all;
+  for (auto at = pdf.find(begin); at != std::string::npos; at = pdf.find(begin, at + 1)) {
+    std::string bytes(1 << 20, '\0');
+    uLongf size = bytes.size();
+    const std::size_t start = at + begin.size(), most = pdf.size() - start;
+    const auto* const compressed = reinterpret_cast<const Bytef*>(pdf.data() + start);
+    if (uncompress(reinterpret_cast<Bytef*>(bytes.data()), &size, compressed, most) == Z_OK)
+      all.append(bytes, 0, size);
+  }
+  return all;
 }
 
 std::size_t pageCount(const std::string& pdf) { return countOf("/Type /Page ", pdf); }
@@ -104,6 +120,18 @@ TEST(PdfPages, AreNotOfOtherFormats) {
     EXPECT_EQ(failure->kind, PictureError::Kind::drawing);
     EXPECT_EQ(failure->message, "only a PDF has more than one page");
   }
+}
+
+// The colon between digits is another glyph than that of the face's table, and no code of the old alphabets
+// has the narrow space.
+TEST(PdfPages, SayOfEachGlyphWhichCharacterItShows) {
+  CairoCanvas canvas(PictureFormat::pdf, {200, 50});
+  for (const char* const text : {"12:03\u202FPM", "السبت ٢٢", "5月22日"})
+    TextLayout(AttributedText(text, {.font = {"System", 10}})).drawAtPoint(canvas, {10, 10});
+  const std::string streams = streamsOf(written(canvas));
+  EXPECT_GT(countOf("begincmap", streams), 0U);
+  EXPECT_EQ(countOf("<fffd>", streams), 0U);
+  EXPECT_GT(countOf("<202f>", streams), 0U);
 }
 
 TEST(PdfPages, HoldAnImageOnceHoweverOftenItIsDrawn) {

@@ -159,7 +159,7 @@ void CairoCanvas::drawGlyphRange(const AttributedText& text, std::size_t first, 
   if (!_drawing->isReady() || !isPlaceable) return;
   const auto line = PangoTextEngine::shared().line(text);
   for (const GlyphRun& run : glyphRuns(*line, text, first, std::min(end, line->glyphs.size()), topLeft)) {
-    _drawing->drawGlyphs(run, line->serial);
+    _drawing->drawGlyphs(run, *line, text.text());
   }
   _drawing->noteUncovered(line->uncovered);
 }

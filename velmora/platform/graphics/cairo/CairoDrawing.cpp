@@ -288,16 +288,16 @@ void CairoCanvas::Drawing::drawFigure(const ShapeKey& key, const Path& path, con
            state().clip.get());
 }
 
-void CairoCanvas::Drawing::drawGlyphs(const GlyphRun& run, std::uint64_t lineSerial) {
+void CairoCanvas::Drawing::drawGlyphs(const GlyphRun& run, const ShapedLine& line, const std::string& text) {
   const Rect box = inkBox(context(), run);
   if (state().blendMode == BlendMode::clear && !canClear(box)) return;
   _states.setPaint(run.color);
   notePaint(box);
-  if (_isVector) return drawOnce(box, [&] { showCharacters(context(), run); });
+  if (_isVector) return drawOnce(box, [&] { showCharacters(context(), run, line, text); });
   const auto draw = [&] { fillOutlines(context(), run); };
   if (!_keepsShapes) return draw();
   ShapeKey key = keyOf(Kind::glyphs);
-  key.add(lineSerial);
+  key.add(line.serial);
   key.add(run.first);
   key.add(run.glyphs.size());
   key.add(run.glyphs.front().x);

@@ -47,8 +47,8 @@ class [[gnu::visibility("hidden")]] CairoCanvas::Drawing {
   void fill(const Path& path);
   void stroke(const Path& path);
   void clear(const Path& path);
-  /// The run is part of the line with the serial.
-  void drawGlyphs(const GlyphRun& run, std::uint64_t lineSerial);
+  /// The run is part of the line, which is the text's.
+  void drawGlyphs(const GlyphRun& run, const ShapedLine& line, const std::string& text);
   void drawImage(const Image& image, const Rect& rect);
 
   bool becamePixels() const { return _becamePixels; }

@@ -1,5 +1,7 @@
 #include <velmora/platform/graphics/cairo/CairoText.h>
 
+#include <glib.h>
+
 #include <algorithm>
 #include <vector>
 
@@ -28,6 +30,28 @@ void setFace(cairo_t* context, const cairo_scaled_font_t* scaledFace) {
 constexpr double rounding = 0.1;
 
 int count(const GlyphRun& run) { return static_cast<int>(run.glyphs.size()); }
+
+/// Where what comes behind the run begins in the text.
+std::size_t endOf(const GlyphRun& run, const ShapedLine& line, std::size_t textSize) {
+  const std::size_t next = run.first + run.glyphs.size();
+  return next < line.glyphs.size() ? line.glyphs[next].byte : textSize;
+}
+
+/// Which glyphs show which bytes, up to the end of the run.
+std::vector<cairo_text_cluster_t> clustersOf(const GlyphRun& run, const ShapedLine& line, std::size_t end) {
+  std::vector<cairo_text_cluster_t> clusters;
+  std::size_t start = line.glyphs[run.first].byte;
+  int glyphs = 0;
+  const auto addUpTo = [&](std::size_t byte) {
+    clusters.push_back({static_cast<int>(byte - start), glyphs});
+    start = byte;
+    glyphs = 0;
+  };
+  for (std::size_t i = run.first; i < run.first + run.glyphs.size(); ++i, ++glyphs)
+    if (line.glyphs[i].byte != start) addUpTo(line.glyphs[i].byte);
+  addUpTo(end);
+  return clusters;
+}
 
 }  // namespace
 
@@ -63,9 +87,17 @@ void fillOutlines(cairo_t* context, const GlyphRun& run) {
   cairo_fill(context);
 }
 
-void showCharacters(cairo_t* context, const GlyphRun& run) {
+// A face cannot tell of each glyph which character it shows: of the colon between digits, which stands
+// higher, it does not.
+void showCharacters(cairo_t* context, const GlyphRun& run, const ShapedLine& line, const std::string& text) {
   setFace(context, run.face);
-  cairo_show_glyphs(context, run.glyphs.data(), count(run));
+  if (!g_utf8_validate(text.data(), static_cast<gssize>(text.size()), nullptr))
+    return cairo_show_glyphs(context, run.glyphs.data(), count(run));
+  const std::size_t first = line.glyphs[run.first].byte, end = endOf(run, line, text.size());
+  const std::vector<cairo_text_cluster_t> clusters = clustersOf(run, line, end);
+  cairo_show_text_glyphs(context, text.data() + first, static_cast<int>(end - first), run.glyphs.data(),
+                         count(run), clusters.data(), static_cast<int>(clusters.size()),
+                         static_cast<cairo_text_cluster_flags_t>(0));
 }
 
 }  // namespace velmora

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <string>
 #include <vector>
 
 #include <cairo.h>
@@ -28,7 +29,8 @@ Rect inkBox(cairo_t* context, const GlyphRun& run);
 /// Fills the outlines, which lie exactly where the line has them: for pixels.
 void fillOutlines(cairo_t* context, const GlyphRun& run);
 
-/// Draws characters of the face, which can be searched and selected: for SVG and PDF.
-void showCharacters(cairo_t* context, const GlyphRun& run);
+/// Draws characters of the face, which can be searched and selected: for SVG and PDF. The run is one of the
+/// line, the line the text's.
+void showCharacters(cairo_t* context, const GlyphRun& run, const ShapedLine& line, const std::string& text);
 
 }  // namespace velmora
