@@ -229,9 +229,10 @@ export class CanvasView implements HostedView {
     fit(canvas, this.size, this.#scale);
     const operations = native.operations(this.#number, this.#scale);
     const before = this.#squares;
+    // Before the next call: the module's memory may be another one after it.
+    if (!before) paint(this.#module, canvas, operations, this.#scale);
     this.#squares = native.squares().slice();
-    if (!before) return paint(this.#module, canvas, operations, this.#scale);
-    const within = differing(this.#squares, before, canvas.width);
+    const within = before && differing(this.#squares, before, canvas.width);
     if (within) paint(this.#module, canvas, this.#operationsWithin(within), this.#scale, { within });
   }
 
