@@ -5,7 +5,6 @@
 #include <array>
 #include <cmath>
 #include <fstream>
-#include <limits>
 #include <map>
 #include <sstream>
 #include <string>

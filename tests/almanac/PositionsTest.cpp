@@ -2,7 +2,6 @@
 
 #include <chrono>
 #include <cmath>
-#include <limits>
 #include <vector>
 
 #include <gtest/gtest.h>

@@ -8,6 +8,7 @@ namespace [[gnu::visibility("hidden")]] velmora {
 using almanac::Event;
 using almanac::EventKind;
 using ephemeris::Body;
+
 namespace {
 
 long hourOn(const TimeZone& zone, Instant at) {
